@@ -1,0 +1,125 @@
+// What the board shows: notices and slips.
+#include "board/board_columns.h"
+#include "board/frm_Start.h"
+#include "forms/host.h"
+#include "gateway/gateway.h"
+#include "lookup/combo_fillers.h"
+#include "session/dates.h"
+#include "session/formats.h"
+#include "session/numbers.h"
+#include "session/options_record.h"
+#include "session/session_record.h"
+#include "slips/slip_states.h"
+
+namespace store {
+namespace {
+
+constexpr int kLightRed = 0xFF5555;  // colour 12 of the palette of 16
+
+std::string NoticeStatement() {
+  return Splice(
+      " SELECT NOTICE.NID,SUBJECT,WDAY,content FROM NOTICE LEFT JOIN SETCONFIGNOTICE ON NOTICE.NID "
+      "=  SETCONFIGNOTICE.NID WHERE CID_{0} = 'T' ORDER BY WDAY DESC LIMIT 0, 10 ",
+      {Session.StoreCode});
+}
+
+std::string SlipStatement(const std::string& condition) {
+  return Splice(
+      " SELECT ' ' AS SEQ,PE_PDATE,PE_TCTNAME,PE_CK,COUNT(*) AS ACount,PE_AMT,PE_TAX,PE_TOT,"
+      "PSM22.PE_ID AS SP1,' ' AS SP2,CT.CT_CODE   FROM (PEM22 LEFT JOIN PSM22 ON PEM22.PE_ID = "
+      "PSM22.PE_ID) LEFT JOIN CT ON  PEM22.PE_TCTCODE = CT.CT_CODE   WHERE PEM22.PE_FCTCODE = "
+      "'{0}'  {1}  GROUP BY PSM22.PE_ID ORDER BY PE_PDATE DESC,PE_TCTNAME ",
+      {Session.StoreCode, condition});
+}
+
+std::string PeriodCondition(const std::string& from, const std::string& to) {
+  return Splice(
+      " and PE_PDATE between '{0}' and '{1}' and PE_CK not in ( '4','9','8')   AND PE_LINK = ''  ",
+      {from, to});
+}
+
+constexpr const char* kEditingCondition = " and PE_CK = '0' AND PE_LINK = '' ";
+constexpr const char* kConfirmedCondition = " and PE_CK = '1' AND PE_LINK = ''  ";
+constexpr const char* kShippedCondition = " and PE_CK =  '3' ";
+constexpr const char* kOpenReceiptCondition = " AND PE_LINK = ''  and PE_CK IN ( '2','3')   ";
+constexpr const char* kReceiptCondition = " and PE_CK IN ( '2','3')   ";
+
+/// Head office's editor stores quotes with a backslash before them.
+std::string WithoutBackslashes(std::string text) {
+  for (const std::string_view escaped : {"\\'", "\\\""}) {
+    for (size_t at = text.find(escaped); at != std::string::npos; at = text.find(escaped, at + 1)) {
+      text.erase(at, 1);
+    }
+  }
+  return text;
+}
+
+}  // namespace
+
+void frm_Start::RefreshBoard() {
+  Host.SetPointer(PointerHourglass);
+  LoadNotices();
+  LoadSlips();
+  FillDepots(Session.StoreCode, Combo1, false);
+  Host.SetPointer(PointerNormal);
+}
+
+void frm_Start::LoadNotices() {
+  SqlText = NoticeStatement();
+  OpenRecordset(SlotA, SqlText);
+  FLEX0.SetRows(1);
+  if (RecordCountOf(SlotA) == 0) return;
+  for (; !AtEof(SlotA); SlotA->MoveNext()) {
+    FLEX0.AddItem(FieldText(SlotA, 0) + "\t" + WithoutBackslashes(FieldText(SlotA, 1)) + "\t" +
+                  FormatDateText(FieldText(SlotA, 2), "yyyy.mm.dd hh:mm") + "\t");
+    // The body is set by itself: a tab in it is text and no border between cells.
+    FLEX0.SetTextMatrix(FLEX0.Rows() - 1, 3, WithoutBackslashes(FieldText(SlotA, 3)));
+  }
+  CloseRecordset(SlotA);
+}
+
+std::string frm_Start::SearchCondition() const {
+  if (Option1[1].Value) return kEditingCondition;
+  if (Option1[2].Value) return kConfirmedCondition;
+  if (Option1[3].Value) {
+    if (Session.DatabaseName == kShippedOnlyCustomer) return kShippedCondition;
+    return AppOptions.OrderType == 0 ? kOpenReceiptCondition : kReceiptCondition;
+  }
+  return PeriodCondition(DTOrderDate[0].Value(), DTOrderDate[1].Value());
+}
+
+void frm_Start::LoadSlips() {
+  SqlText = SlipStatement(SearchCondition());
+  OpenRecordset(SlotA, SqlText);
+  FLEX1.SetRows(1);
+  double lines = 0;
+  double total = 0;
+  for (int number = 1; !AtEof(SlotA); ++number, SlotA->MoveNext()) {
+    AddSlipRow(number);
+    lines += ParseNumber(FieldText(SlotA, board::Lines));
+    total += ParseNumber(FieldText(SlotA, board::Total));
+  }
+  CloseRecordset(SlotA);
+  Label6[0].Caption =
+      std::to_string(FLEX1.Rows() - 1) + "건   " + FormatNumber(lines, "#,###") + " 상품";
+  Label6[1].Caption = FormatNumber(total, FormatAmount) + "원";
+}
+
+void frm_Start::AddSlipRow(int number) {
+  const std::string word = StateWord(FieldText(SlotA, board::State));
+  std::string row = std::to_string(number);
+  for (int field = 1; field <= board::PartnerCode; ++field) {
+    row += "\t";
+    if (field == board::Date) {
+      row += FormatDateText(FieldText(SlotA, field), "YYYY.MM.DD");
+    } else {
+      row += field == board::State ? word : FieldText(SlotA, field);
+    }
+  }
+  FLEX1.AddItem(row);
+  CellLook look{.Picture = true};
+  if (word != kWordEditing) look.BackColor = kLightRed;
+  FLEX1.SetLook(FLEX1.Rows() - 1, board::Confirm, look);
+}
+
+}  // namespace store

@@ -1,0 +1,143 @@
+// What can be done with a slip from the board.
+#include "board/board_columns.h"
+#include "board/frm_Start.h"
+#include "forms/host.h"
+#include "forms/open_forms.h"
+#include "gateway/gateway.h"
+#include "session/options_record.h"
+#include "session/text.h"
+#include "slips/order_form_name.h"
+#include "slips/slip_form.h"
+#include "slips/slip_states.h"
+
+namespace store {
+namespace {
+
+/// The guard on the state lets the statement touch nothing when head office has moved the slip.
+std::string DeleteSlipStatement(const std::string& slipId) {
+  return Splice(" DELETE FROM PEM22 WHERE  PE_ID = '{0}' AND PE_CK  = '0' ", {slipId});
+}
+
+std::string RevertSlipStatement(const std::string& slipId) {
+  return Splice(" UPDATE PEM22 SET PE_CK  = '0' WHERE  PE_ID = '{0}' AND PE_CK  = '1' ", {slipId});
+}
+
+std::string FindSlipStatement(const std::string& slipId) {
+  return Splice(" SELECT PEM22.PE_CK,PEM22.PE_ID  FROM PEM22  WHERE PEM22.PE_ID = '{0}'  ",
+                {slipId});
+}
+
+SlipForm* SlipFormNamed(const std::string& name) { return dynamic_cast<SlipForm*>(TheForm(name)); }
+
+/// The order form of the workstation's order type, ready for another slip. Nothing when there is no
+/// such form, or when it holds an order that is not stored yet: it then comes forward as it is.
+SlipForm* FreeOrderForm() {
+  const std::string name = OrderFormName(AppOptions.OrderType);
+  if (auto* open = dynamic_cast<SlipForm*>(OpenForm(name))) {
+    if (open->HoldsWork()) {
+      Host.Show(*open);
+      return nullptr;
+    }
+    open->Close();
+  }
+  return SlipFormNamed(name);
+}
+
+}  // namespace
+
+void frm_Start::SelectSlip() {
+  SelectedSlipId = FLEX1.TextMatrix(FLEX1.Row(), board::SlipId);
+  SelectedSlipState = FLEX1.TextMatrix(FLEX1.Row(), board::State);
+}
+
+void frm_Start::FLEX1_Click() {
+  if (FLEX1.Row() < 1) return;
+  SelectSlip();
+  if (FLEX1.Col() == board::Confirm) OpenSlip(SelectedSlipId, SelectedSlipState);
+}
+
+void frm_Start::FLEX1_DblClick() {
+  if (FLEX1.Row() < 1) return;
+  SelectSlip();
+  OpenSlip(SelectedSlipId, SelectedSlipState);
+}
+
+void frm_Start::FLEX1_KeyDown(Key key) {
+  if (key == Key::F4) Image5_Click();
+  if (key == Key::Enter) FLEX1_DblClick();
+}
+
+void frm_Start::OpenSlip(const std::string& slipId, const std::string& stateWord) {
+  if (stateWord == kWordShipped || stateWord == kWordApproved) {
+    OpenReceipt(slipId);
+    return;
+  }
+  SlipForm* order = FreeOrderForm();
+  if (order == nullptr) return;
+  order->SlipId = slipId;
+  order->SlipTable = "PEM22";
+  Host.Show(*order);
+}
+
+void frm_Start::OpenReceipt(const std::string& slipId) {
+  SlipForm* receipt = SlipFormNamed("frm_PE_UNIT");
+  if (receipt == nullptr) return;
+  receipt->SlipId = slipId;
+  receipt->SlipTable = "PEM23";
+  Host.ShowModal(*receipt);
+  RefreshBoard();
+}
+
+void frm_Start::NewOrder(int buttonIndex) {
+  SlipForm* order = FreeOrderForm();
+  if (order == nullptr) return;
+  order->NoPriceMode = static_cast<std::int16_t>(buttonIndex);
+  order->SlipTable = "PEM22";
+  Host.Show(*order);
+}
+
+void frm_Start::DeleteOrRevert() {
+  StartBatch();
+  std::string done;
+  if (SelectedSlipState == kWordEditing) {
+    AddToBatch(DeleteSlipStatement(SelectedSlipId));
+    done = "[발주편집]전표가 삭제되었습니다.";
+  } else if (SelectedSlipState == kWordConfirmed) {
+    AddToBatch(RevertSlipStatement(SelectedSlipId));
+    done = "[발주확정]전표를 [발주편집]상태로 전환되었습니다.";
+  } else {
+    AddToBatch("");
+  }
+  if (ExecuteBatch(SqlBatch) == 0) {
+    Host.MsgBox("저장이 실패하였습니다.", box::Plain, "");
+    return;
+  }
+  if (!done.empty()) Host.MsgBox(done, box::Plain, "");
+  RefreshBoard();
+}
+
+void frm_Start::Text2_KeyPress(Key key) {
+  if (key == Key::Enter) FindSlip();
+}
+
+void frm_Start::FindSlip() {
+  SqlText = FindSlipStatement(Trim(Text2.Text()));
+  OpenRecordset(SlotA, SqlText);
+  const std::string slipId = FieldText(SlotA, 1);
+  CloseRecordset(SlotA);
+  SelectedSlipId = slipId;
+  Text2.SetText("");
+  if (slipId.empty()) {
+    Host.MsgBox(
+        "해당전표는 [본부승인] 또는 [물류출고]완료되지 않은 전표이거나 \r\r 전표를 찾을 수 "
+        "없습니다.",
+        box::Critical, "전표확인");
+    return;
+  }
+  // Any slip that exists may be received this way, whatever its state; the receipt form has the
+  // last word.
+  SelectedSlipState = kWordShipped;
+  OpenSlip(SelectedSlipId, SelectedSlipState);
+}
+
+}  // namespace store

@@ -1,0 +1,86 @@
+#pragma once
+
+#include <array>
+#include <string>
+
+#include "forms/control.h"
+#include "forms/grid.h"
+#include "session/main_window.h"
+
+namespace store {
+
+/// The main window: head office's notices, the board of the store's order slips, and the details of
+/// the selected slip. It changes only on its own events, never by a timer; when it closes, the
+/// program ends.
+class frm_Start : public MainWindow {
+ public:
+  frm_Start();
+
+  // Notices.
+  Grid FLEX0;
+  Panel Frame1;                  ///< Pop-up pane of one notice.
+  std::array<TextBox, 2> Text1;  ///< Subject and body in the pane.
+  Label Label2;                  ///< Date in the pane.
+  // Search and board.
+  std::array<OptionButton, 4> Option1;
+  std::array<DatePicker, 2> DTOrderDate;  ///< From and to.
+  Label Label7{"입고전표 찾기"};
+  TextBox Text2;  ///< A slip number to receive.
+  Grid FLEX1;
+  std::array<Label, 2> Label6;  ///< Count of slips and lines; sum of totals.
+  Label LaCaption;              ///< The store.
+  // Buttons: 0 and 1 new order, 3 refresh, 4 delete or revert; 2 has no picture.
+  std::array<Label, 5> Image1;
+  Label Image3;                 ///< Closes the notice pane.
+  Label Label4;                 ///< The web page.
+  std::array<Label, 2> Label5;  ///< 0 closes the window, 1 makes it small.
+  Label Image5{"[F4]"};         ///< Details of the selected slip.
+  // Details.
+  std::array<Label, 11> LaCT;  ///< The partner.
+  std::array<Label, 8> LaPM;   ///< The order's conditions.
+
+  std::string SelectedSlipId;     ///< Slip of the row last clicked; stays after a refresh.
+  std::string SelectedSlipState;  ///< Its state word.
+
+  void Load() override;
+  void Activate() override;
+  bool QueryUnload() override;
+  void Unload() override;
+  bool KeyDown(Key key) override;
+
+  void Option1_Click(int index);
+  void Image1_Click(int index);
+  void Image3_Click();
+  void Image5_Click();
+  void Label4_Click();
+  void Label5_Click(int index);
+  void FLEX0_RowColChange();
+  void FLEX0_DblClick();
+  void FLEX1_Click();
+  void FLEX1_DblClick();
+  void FLEX1_KeyDown(Key key);
+  void Text2_KeyPress(Key key);
+
+ private:
+  void SetUpGrids();
+  void RefreshBoard();
+  void LoadNotices();
+  std::string SearchCondition() const;
+  void LoadSlips();
+  void AddSlipRow(int number);
+  void SelectSlip();
+  void OpenSlip(const std::string& slipId, const std::string& stateWord);
+  void OpenReceipt(const std::string& slipId);
+  void NewOrder(int buttonIndex);
+  void DeleteOrRevert();
+  void FindSlip();
+  void ShowPartner(const std::string& partnerCode);
+  void ShowConditions(const std::string& value);
+
+  bool activated_ = false;
+};
+
+/// Makes the board known by its name.
+void RegisterBoardForms();
+
+}  // namespace store

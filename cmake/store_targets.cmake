@@ -1,0 +1,24 @@
+# One library a folder; its links are the arrows between the layers, so an include against the
+# arrows fails to link.
+function(store_library layer)
+  cmake_parse_arguments(LIB "" "" "SOURCES;LINKS" ${ARGN})
+  add_library(store_${layer} STATIC ${LIB_SOURCES})
+  target_include_directories(store_${layer} PUBLIC ${PROJECT_SOURCE_DIR})
+  target_link_libraries(store_${layer} PUBLIC ${LIB_LINKS})
+  target_precompile_headers(store_${layer} PRIVATE ${PROJECT_SOURCE_DIR}/cmake/standard_headers.h)
+endfunction()
+
+# A gtest program, run as one ctest entry. A test that needs the database starts its own server, so
+# those take turns on the machine instead of starving each other.
+function(store_test name)
+  cmake_parse_arguments(T "DATABASE" "" "SOURCES;LIBS" ${ARGN})
+  add_executable(${name} ${T_SOURCES})
+  target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR})
+  target_link_libraries(${name} PRIVATE ${T_LIBS} GTest::gtest GTest::gtest_main)
+  add_test(NAME ${name} COMMAND ${name})
+  set_tests_properties(${name} PROPERTIES TIMEOUT 300 ENVIRONMENT
+                       "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8")
+  if(T_DATABASE)
+    set_tests_properties(${name} PROPERTIES RESOURCE_LOCK database)
+  endif()
+endfunction()

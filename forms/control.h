@@ -1,0 +1,142 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace store {
+
+/// What every element of a form has: whether it answers, whether it is seen, and its tool tip.
+/// A control is a plain value; the window that shows it is brought into line after each event.
+class Control {
+ public:
+  virtual ~Control() = default;
+  bool Enabled = true;
+  bool Visible = true;
+  std::string ToolTipText;
+};
+
+/// A text that the form writes and the user only reads, or clicks.
+class Label : public Control {
+ public:
+  Label() = default;
+  explicit Label(std::string caption) : Caption(std::move(caption)) {}
+  std::string Caption;
+};
+
+/// A button with a fixed caption.
+class Button : public Control {
+ public:
+  Button() = default;
+  explicit Button(std::string caption) : Caption(std::move(caption)) {}
+  std::string Caption;
+};
+
+/// One line (or, with MultiLine, several) of text that the user edits. `Tag` is a hidden companion
+/// value: a code that belongs to the name shown.
+class TextBox : public Control {
+ public:
+  /// Raised whenever the text becomes another one, from the keyboard or from code.
+  std::function<void()> Change;
+  std::string Tag;
+  int MaxLength = 0;  ///< In characters; 0 means no limit.
+  bool Masked = false;
+  bool MultiLine = false;
+
+  const std::string& Text() const { return text_; }
+  void SetText(const std::string& text);
+
+  /// Selects the whole text, or puts the caret behind it. The window follows at the next sync.
+  void SelectAll() { Select(Selection::All); }
+  void CaretToEnd() { Select(Selection::End); }
+
+  enum class Selection { None, All, End };
+  Selection WantedSelection() const { return selection_; }
+  unsigned SelectionRevision() const { return selectionRevision_; }
+
+ private:
+  void Select(Selection selection);
+  std::string text_;
+  Selection selection_ = Selection::None;
+  unsigned selectionRevision_ = 0;
+};
+
+/// A drop-down list. Entries that carry a code hold it behind the name and 30 blanks, out of view.
+class ComboBox : public Control {
+ public:
+  /// Raised when the chosen entry becomes another one.
+  std::function<void()> Click;
+
+  const std::vector<std::string>& List() const { return list_; }
+  void AddItem(const std::string& entry);
+  /// Empties the list; nothing is chosen afterwards.
+  void Clear();
+  /// 0-based; -1 means no choice. An index outside the list is passed over.
+  void SetListIndex(int index);
+  int ListIndex() const { return index_; }
+  /// The chosen entry, or an empty text.
+  std::string Text() const;
+  /// Chooses the first entry of exactly this text; with no such entry the choice stays.
+  void SetText(const std::string& entry);
+  unsigned Revision() const { return revision_; }
+
+ private:
+  std::vector<std::string> list_;
+  int index_ = -1;
+  unsigned revision_ = 0;
+};
+
+/// A box to tick: 0 or 1.
+class CheckBox : public Control {
+ public:
+  CheckBox() = default;
+  explicit CheckBox(std::string caption) : Caption(std::move(caption)) {}
+  std::string Caption;
+  int Value = 0;
+};
+
+/// One of a group of choices of which one holds; the form keeps the group.
+class OptionButton : public Control {
+ public:
+  OptionButton() = default;
+  explicit OptionButton(std::string caption) : Caption(std::move(caption)) {}
+  std::string Caption;
+  bool Value = false;
+};
+
+/// A calendar date, "YYYY-MM-DD".
+class DatePicker : public Control {
+ public:
+  std::function<void()> Change;
+  const std::string& Value() const { return value_; }
+  void SetValue(const std::string& date);
+
+ private:
+  std::string value_;
+};
+
+/// A row of tabs; -1 means that none was pressed yet.
+class TabStrip : public Control {
+ public:
+  std::vector<std::string> Captions;
+  int CurrTab = -1;
+};
+
+/// Fires every `Interval` milliseconds while it is enabled and the interval is not 0.
+class Timer : public Control {
+ public:
+  Timer() { Enabled = false; }
+  int Interval = 0;
+};
+
+/// How far a long step has come.
+class ProgressBar : public Control {
+ public:
+  int Max = 100;
+  int Value = 0;
+};
+
+/// A pane that holds others; only its visibility matters to a form.
+class Panel : public Control {};
+
+}  // namespace store

@@ -1,0 +1,45 @@
+#include "forms/form.h"
+
+#include <algorithm>
+
+#include "forms/host.h"
+#include "forms/open_forms.h"
+
+namespace store {
+
+void Form::EnsureLoaded() {
+  if (loaded_) return;
+  loaded_ = true;
+  Load();
+}
+
+bool Form::Close() {
+  if (closed_) return true;
+  if (!QueryUnload()) return false;
+  closed_ = true;
+  Unload();
+  Host.CloseWindow(*this);
+  DropForm(*this);
+  return true;
+}
+
+void Form::SetFocus(Control& control) {
+  ActiveControl = &control;
+  ++focusRevision_;
+}
+
+void Form::FocusNext() {
+  if (TabOrder.empty()) return;
+  const auto current = std::find(TabOrder.begin(), TabOrder.end(), ActiveControl);
+  const size_t start =
+      current == TabOrder.end() ? 0 : static_cast<size_t>(current - TabOrder.begin()) + 1;
+  for (size_t i = 0; i < TabOrder.size(); ++i) {
+    Control& next = *TabOrder[(start + i) % TabOrder.size()];
+    if (next.Enabled && next.Visible) {
+      SetFocus(next);
+      return;
+    }
+  }
+}
+
+}  // namespace store

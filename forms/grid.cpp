@@ -1,0 +1,112 @@
+#include "forms/grid.h"
+
+namespace store {
+
+void Grid::SetColumns(std::vector<GridColumn> columns, int fixedRows) {
+  columns_ = std::move(columns);
+  fixedRows_ = fixedRows;
+  rows_.assign(static_cast<size_t>(fixedRows), {});
+  for (GridRow& row : rows_) row.cells.resize(columns_.size());
+  if (fixedRows > 0) {
+    for (size_t c = 0; c < columns_.size(); ++c) rows_[0].cells[c] = columns_[c].Header;
+  }
+  row_ = 0;
+  col_ = 0;
+  ++revision_;
+}
+
+GridColumn& Grid::Column(int col) {
+  ++revision_;
+  return columns_.at(static_cast<size_t>(col));
+}
+
+void Grid::SetRows(int rows) {
+  if (rows < 0) return;
+  const size_t before = rows_.size();
+  rows_.resize(static_cast<size_t>(rows));
+  for (size_t r = before; r < rows_.size(); ++r) rows_[r].cells.resize(columns_.size());
+  ++revision_;
+  if (row_ >= rows) Select(0, col_);
+}
+
+bool Grid::Inside(int row, int col) const {
+  return row >= 0 && row < Rows() && col >= 0 && col < Cols();
+}
+
+const std::string& Grid::TextMatrix(int row, int col) const {
+  static const std::string nothing;
+  if (!Inside(row, col)) return nothing;
+  return rows_[static_cast<size_t>(row)].cells[static_cast<size_t>(col)];
+}
+
+void Grid::SetTextMatrix(int row, int col, std::string text) {
+  if (!Inside(row, col)) return;
+  rows_[static_cast<size_t>(row)].cells[static_cast<size_t>(col)] = std::move(text);
+  ++revision_;
+}
+
+void Grid::AddItem(std::string_view tabJoined, int index) {
+  GridRow row;
+  row.cells.reserve(columns_.size());
+  while (row.cells.size() < columns_.size()) {
+    const size_t tab = tabJoined.find('\t');
+    row.cells.emplace_back(tabJoined.substr(0, tab));
+    if (tab == std::string_view::npos) break;
+    tabJoined.remove_prefix(tab + 1);
+  }
+  row.cells.resize(columns_.size());
+  if (index < 0 || index > Rows()) {
+    rows_.push_back(std::move(row));
+  } else {
+    rows_.insert(rows_.begin() + index, std::move(row));
+  }
+  ++revision_;
+}
+
+void Grid::RemoveItem(int row) {
+  if (row < 0 || row >= Rows()) return;
+  rows_.erase(rows_.begin() + row);
+  ++revision_;
+  if (row_ >= Rows()) Select(Rows() > fixedRows_ ? Rows() - 1 : 0, col_);
+}
+
+void Grid::Select(int row, int col) {
+  if (row < 0 || row >= Rows() || col < 0 || (col >= Cols() && col != 0)) return;
+  if (row == row_ && col == col_) return;
+  row_ = row;
+  col_ = col;
+  if (RowColChange) RowColChange();
+}
+
+const CellLook& Grid::Look(int row, int col) const {
+  static const CellLook plain;
+  if (!Inside(row, col)) return plain;
+  const std::vector<CellLook>& looks = rows_[static_cast<size_t>(row)].looks;
+  return looks.empty() ? plain : looks[static_cast<size_t>(col)];
+}
+
+void Grid::SetLook(int row, int col, const CellLook& look) {
+  if (!Inside(row, col)) return;
+  std::vector<CellLook>& looks = rows_[static_cast<size_t>(row)].looks;
+  looks.resize(columns_.size());
+  looks[static_cast<size_t>(col)] = look;
+  ++revision_;
+}
+
+void Grid::SetBackColor(int row, int col, int color) {
+  CellLook look = Look(row, col);
+  look.BackColor = color;
+  SetLook(row, col, look);
+}
+
+bool Grid::RowHidden(int row) const {
+  return row >= 0 && row < Rows() && rows_[static_cast<size_t>(row)].hidden;
+}
+
+void Grid::SetRowHidden(int row, bool hidden) {
+  if (row < 0 || row >= Rows()) return;
+  rows_[static_cast<size_t>(row)].hidden = hidden;
+  ++revision_;
+}
+
+}  // namespace store

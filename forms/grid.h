@@ -1,0 +1,93 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "forms/control.h"
+
+namespace store {
+
+enum class Align { General, Left, Center, Right };
+
+/// How one column of a grid is shown. Widths are the grid's own units, 15 to a pixel.
+struct GridColumn {
+  std::string Header = {};
+  int Width = 900;
+  Align Alignment = Align::General;
+  std::string Format = {};  ///< A number mask for what is shown; the cell keeps its text.
+  bool Hidden = false;
+  bool CheckBox = false;  ///< Cells hold "-1" when ticked, "" or "0" when not.
+};
+
+/// How one cell is shown beyond its text.
+struct CellLook {
+  int BackColor = -1;  ///< 0xRRGGBB, -1 for the grid's own.
+  bool Bold = false;
+  bool Picture = false;  ///< The cell shows the form's mark, centred, instead of text.
+  bool operator==(const CellLook&) const = default;
+};
+
+/// Rows and columns of text. The cells are the form's data: what is read back is what was put in,
+/// whatever the column's display format makes of it. Rows and columns count from 0; the first
+/// `FixedRows` rows are the header. `Row()` 0 means that no data row is current.
+class Grid : public Control {
+ public:
+  /// Raised when the current row or column becomes another one, by the user or from code.
+  std::function<void()> RowColChange;
+  int EditableColumn = -1;  ///< The one column in which the window may open an editor.
+
+  /// Sets the columns and writes their headers into row 0; data rows are dropped.
+  void SetColumns(std::vector<GridColumn> columns, int fixedRows = 1);
+  const std::vector<GridColumn>& Columns() const { return columns_; }
+  GridColumn& Column(int col);  ///< To change how a column shows; counts as a change.
+
+  int Rows() const { return static_cast<int>(rows_.size()); }
+  int Cols() const { return static_cast<int>(columns_.size()); }
+  int FixedRows() const { return fixedRows_; }
+  /// Cuts the grid to `rows` rows or adds empty ones. A current row that is cut off is no longer
+  /// current.
+  void SetRows(int rows);
+
+  /// The text of a cell; empty outside the grid.
+  const std::string& TextMatrix(int row, int col) const;
+  /// Puts a text into a cell; passed over outside the grid.
+  void SetTextMatrix(int row, int col, std::string text);
+
+  /// Adds a row of tab-joined cells, at the end or before row `index`. Surplus cells are dropped.
+  void AddItem(std::string_view tabJoined, int index = -1);
+  void RemoveItem(int row);
+
+  int Row() const { return row_; }
+  int Col() const { return col_; }
+  void SetRow(int row) { Select(row, col_); }
+  void Select(int row, int col);
+
+  const CellLook& Look(int row, int col) const;
+  void SetLook(int row, int col, const CellLook& look);
+  void SetBackColor(int row, int col, int color);
+
+  bool RowHidden(int row) const;
+  void SetRowHidden(int row, bool hidden);
+
+  /// Moves on every change of cells, looks or layout (not of the current cell).
+  unsigned Revision() const { return revision_; }
+
+ private:
+  struct GridRow {
+    std::vector<std::string> cells;
+    std::vector<CellLook> looks;  // empty as long as no cell of the row looks special
+    bool hidden = false;
+  };
+  bool Inside(int row, int col) const;
+
+  std::vector<GridColumn> columns_;
+  std::vector<GridRow> rows_;
+  int fixedRows_ = 1;
+  int row_ = 0;
+  int col_ = 0;
+  unsigned revision_ = 0;
+};
+
+}  // namespace store

@@ -1,0 +1,34 @@
+#include "forms/host.h"
+
+namespace store {
+
+HostDoor EmptyHost() {
+  HostDoor host;
+  host.MsgBox = [](const std::string&, int, const std::string&) { return box::Ok; };
+  const auto noWindow = [](Form&) {};
+  host.ShowModal = noWindow;
+  host.Show = noWindow;
+  host.Hide = noWindow;
+  host.Minimize = noWindow;
+  host.CloseWindow = noWindow;
+  host.EndProgram = [] {};
+  host.ScreenSize = [](int& width, int& height) { width = height = 0; };
+  host.SetPointer = [](int) {};
+  host.Beep = [] {};
+  host.DoEvents = [] {};
+  host.Now = [] { return ClockTime{2000, 1, 1, 0, 0, 0}; };
+  host.Sleep = [](int) {};
+  host.OpenAddress = [](const std::string&) { return false; };
+  host.StartProgram = [](const std::string&, const std::string&) { return false; };
+  host.GetSetting = [](const std::string&, const std::string&, const std::string&) {
+    return std::string();
+  };
+  host.SaveSetting = [](const std::string&, const std::string&, const std::string&,
+                        const std::string&) {};
+  host.PreviousInstance = [] { return false; };
+  return host;
+}
+
+HostDoor Host = EmptyHost();
+
+}  // namespace store

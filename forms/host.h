@@ -1,0 +1,98 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "forms/form.h"
+
+namespace store {
+
+/// Styles and answers of a message box, as the system's texts name them.
+namespace box {
+inline constexpr int Plain = 0;
+inline constexpr int YesNo = 4;
+inline constexpr int Critical = 16;
+inline constexpr int Question = 32;
+inline constexpr int Information = 64;
+inline constexpr int Ok = 1;
+inline constexpr int Yes = 6;
+inline constexpr int No = 7;
+}  // namespace box
+
+inline constexpr int PointerNormal = 0;
+inline constexpr int PointerHourglass = 11;
+
+/// The workstation's clock.
+struct ClockTime {
+  int Year = 0;
+  int Month = 0;
+  int Day = 0;
+  int Hour = 0;
+  int Minute = 0;
+  int Second = 0;
+};
+
+struct ProgramVersionNumbers {
+  int Major = 0;
+  int Minor = 0;
+  int Revision = 0;
+};
+
+/// The one door to the workstation. The program fills it with the real thing, a test with a
+/// scripted one. All texts are UTF-8.
+struct HostDoor {
+  /// Shows a box and waits. `style` is an icon plus, where asked, `box::YesNo`; an empty title
+  /// means the program's. Answers `box::Ok`, `box::Yes` or `box::No`.
+  std::function<int(const std::string& text, int style, const std::string& title)> MsgBox;
+
+  /// Loads the form, shows its window and returns when the form is closed.
+  std::function<void(Form&)> ShowModal;
+  /// Loads the form and shows its window beside the others; a window that is there comes forward.
+  std::function<void(Form&)> Show;
+  /// Takes the window off the screen or makes it small without closing the form.
+  std::function<void(Form&)> Hide;
+  std::function<void(Form&)> Minimize;
+  /// Takes the window of a form that has just closed away. Called by `Form::Close` only.
+  std::function<void(Form&)> CloseWindow;
+  /// Ends the program when the running event is over.
+  std::function<void()> EndProgram;
+
+  /// Size of the screen in pixels.
+  std::function<void(int& width, int& height)> ScreenSize;
+  /// `PointerNormal` or `PointerHourglass`.
+  std::function<void(int pointer)> SetPointer;
+  std::function<void()> Beep;
+  /// Lets pending window events run, painting among them.
+  std::function<void()> DoEvents;
+
+  std::function<ClockTime()> Now;
+  std::function<void(int milliseconds)> Sleep;
+
+  /// Opens an address or a file with the desktop's own program. False when that cannot be done.
+  std::function<bool(const std::string& address)> OpenAddress;
+  /// Starts a program without waiting. False when it cannot be started.
+  std::function<bool(const std::string& path, const std::string& arguments)> StartProgram;
+
+  /// The per-user settings store. A missing key reads as an empty text.
+  std::function<std::string(const std::string& application, const std::string& section,
+                            const std::string& key)>
+      GetSetting;
+  std::function<void(const std::string& application, const std::string& section,
+                     const std::string& key, const std::string& value)>
+      SaveSetting;
+
+  /// True when another instance of this program file is running on the workstation.
+  std::function<bool()> PreviousInstance;
+
+  std::string ProgramFolder;  ///< Without a slash at the end.
+  std::string ProgramTitle;
+  ProgramVersionNumbers Version;
+};
+
+extern HostDoor Host;
+
+/// A door behind which nothing happens: every box answers OK, the clock stands. What a run starts
+/// from until the program or a test fills in its own.
+HostDoor EmptyHost();
+
+}  // namespace store

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace store {
+
+/// Finds one text in a long run of bytes, ASCII letters without case. It watches the two bytes of
+/// the needle that are rarest in the run: the syllables of Hangul share their lead bytes, so a
+/// search that waits for the first byte would stop at nearly every letter.
+class ByteSearch {
+ public:
+  /// `sample` is the run, or a good part of it, from which the rarity of bytes is judged.
+  ByteSearch(std::string_view needle, std::string_view sample);
+
+  /// Position of the next occurrence at or after `from`, or npos.
+  size_t Next(std::string_view run, size_t from) const;
+
+  static constexpr size_t npos = std::string_view::npos;
+
+ private:
+  bool EqualAt(const char* place) const;
+
+  std::string folded_;
+  bool hasLetters_ = false;
+  size_t first_ = 0;  // the two watched places in the needle, first_ <= second_
+  size_t second_ = 0;
+};
+
+/// ASCII capital to small; every other byte stays.
+inline char FoldAscii(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; }
+
+/// Whether two texts of equal length are the same, ASCII letters without case.
+bool SameFolded(std::string_view a, std::string_view b);
+
+}  // namespace store

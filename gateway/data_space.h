@@ -1,0 +1,38 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "gateway/recordset.h"
+
+namespace store {
+
+/// The server-side data object: reads and writes, each a complete round trip of its own. An object
+/// keeps no state between calls.
+class DataTier {
+ public:
+  virtual ~DataTier() = default;
+
+  /// Runs one SELECT against the data source that `connectString` names and gives all its rows.
+  /// Nothing on failure, with the server's own words in `errorText`. Anything but a SELECT is
+  /// refused in the same way.
+  virtual std::unique_ptr<Recordset> GETSQL(const std::string& statement, std::string& errorText,
+                                            const std::string& connectString) = 0;
+
+  /// Runs the statements in order as one transaction, passing over empty elements. True when all
+  /// of them ran; on false none of them took effect and `errorText` holds the server's own words.
+  virtual bool PUTSQL(const std::vector<std::string>& statements, std::string& errorText,
+                      const std::string& connectString) = 0;
+};
+
+/// Makes data objects by name and address.
+class DataSpaceObject {
+ public:
+  /// `address` is "http://" and the business server's host. With an empty host no service stands
+  /// between, and the object works in this process through ODBC; it answers to the name
+  /// "TWMGR.DEMON" only. Nothing when no such object can be reached.
+  std::shared_ptr<DataTier> CreateObject(const std::string& progId, const std::string& address);
+};
+
+}  // namespace store

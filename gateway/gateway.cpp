@@ -1,0 +1,123 @@
+#include "gateway/gateway.h"
+
+#include "forms/host.h"
+#include "session/options_record.h"
+#include "session/session_record.h"
+
+namespace store {
+
+std::unique_ptr<DataSpaceObject> DataSpace;
+RecordsetSlot SlotA;
+RecordsetSlot SlotB;
+RecordsetSlot SlotC;
+std::string SqlText;
+std::vector<std::string> SqlBatch;
+std::string ConnectString;
+std::string LastErrorText;
+
+namespace {
+
+constexpr const char* kProgId = "TWMGR.DEMON";
+constexpr const char* kPassword = "qz4471";
+
+std::shared_ptr<DataTier> ServerObject;  // the last one made; replaced on every call
+
+void MakeServerObject() {
+  LastErrorText.clear();
+  if (!DataSpace) DataSpace = std::make_unique<DataSpaceObject>();
+  ServerObject = DataSpace->CreateObject(kProgId, "http://" + AppOptions.BusinessServer);
+}
+
+}  // namespace
+
+bool AtEof(const RecordsetSlot& slot) { return !slot || slot->Eof(); }
+
+std::string FieldText(const RecordsetSlot& slot, int field) {
+  return slot ? std::string(slot->Text(field)) : std::string();
+}
+
+void SetFilter(const RecordsetSlot& slot, const std::string& criteria) {
+  if (slot) slot->Filter(criteria);
+}
+
+int RecordCountOf(const RecordsetSlot& slot) { return slot ? slot->RecordCount() : 0; }
+
+void BuildConnectString(const std::string& server, const std::string& user,
+                        const std::string& database) {
+  ConnectString = "DRIVER={MySQL ODBC 3.51 Driver};SERVER=" + server + ";DATABASE=" + database +
+                  ";UID=" + user + ";PWD=" + kPassword + ";OPTION=16386";
+  Session.DatabaseName = database;
+}
+
+void OpenRecordset(RecordsetSlot& slot, const std::string& statement) {
+  MakeServerObject();
+  if (!ServerObject) return;
+  slot = ServerObject->GETSQL(statement, LastErrorText, ConnectString);
+  if (&slot == &SlotC) ServerObject.reset();
+}
+
+void CloseRecordset(RecordsetSlot& slot) {
+  slot.reset();
+  ServerObject.reset();
+}
+
+RecordsetSlot FetchRecordset(const std::string& statement) {
+  MakeServerObject();
+  if (!ServerObject) return nullptr;
+  return ServerObject->GETSQL(statement, LastErrorText, ConnectString);
+}
+
+void QueryRows(const std::string& statement, StringTable& table, std::int32_t& rowCount,
+               std::int32_t& highestColumn) {
+  Host.SetPointer(PointerHourglass);
+  rowCount = 0;
+  OpenRecordset(SlotA, statement);
+  if (!LastErrorText.empty() || AtEof(SlotA)) {
+    Host.SetPointer(PointerNormal);
+    return;
+  }
+  rowCount = SlotA->RecordCount();
+  highestColumn = SlotA->FieldCount() - 1;
+  table.Redim(rowCount, highestColumn);
+  SlotA->MoveFirst();
+  for (int row = 1; !SlotA->Eof(); ++row, SlotA->MoveNext()) {
+    for (int column = 0; column <= highestColumn; ++column) {
+      table.Set(row, column, std::string(SlotA->Text(column)));
+    }
+  }
+  CloseRecordset(SlotA);
+  Host.SetPointer(PointerNormal);
+}
+
+std::string QueryText(const std::string& statement, const std::string& otherwise) {
+  StringTable table;
+  std::int32_t rows = 0;
+  std::int32_t highestColumn = 0;
+  QueryRows(statement, table, rows, highestColumn);
+  return rows > 0 ? table.At(1, 0) : otherwise;
+}
+
+std::int16_t ExecuteBatch(const std::vector<std::string>& statements) {
+  MakeServerObject();
+  if (!ServerObject) return 0;
+  return ServerObject->PUTSQL(statements, LastErrorText, ConnectString) ? std::int16_t{-1}
+                                                                        : std::int16_t{0};
+}
+
+void StartBatch() { SqlBatch.assign(1, std::string()); }
+
+void AddToBatch(const std::string& statement) { SqlBatch.push_back(statement); }
+
+void ResetGateway() {
+  DataSpace.reset();
+  ServerObject.reset();
+  SlotA.reset();
+  SlotB.reset();
+  SlotC.reset();
+  SqlText.clear();
+  SqlBatch.clear();
+  ConnectString.clear();
+  LastErrorText.clear();
+}
+
+}  // namespace store

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace store {
+
+/// What a text is compared with, and which ends of it must meet. ASCII letters compare without
+/// case, as in the database.
+struct TextMatch {
+  std::string needle;
+  bool fromStart = true;  ///< The text must begin with the needle.
+  bool toEnd = true;      ///< The text must end with the needle.
+};
+
+/// One column of a recordset: all its texts in one arena of bytes, each behind a separator byte, so
+/// that a search is a single scan. A text's place is found through its length: one byte a row where
+/// that does, nothing at all while every text is equally long, and the place of each 64th row.
+class TextColumn {
+ public:
+  void Append(std::string_view value);
+  void AppendNull();
+  void Seal();
+
+  std::uint32_t Rows() const { return rows_; }
+  std::string_view At(std::uint32_t row) const;
+  bool IsNull(std::uint32_t row) const;
+
+  /// Appends the numbers of all rows that meet `match`, rising. A NULL meets nothing.
+  void FindAll(const TextMatch& match, std::vector<std::uint32_t>& rows) const;
+  bool Meets(std::uint32_t row, const TextMatch& match) const;
+
+  size_t BytesHeld() const;
+  size_t BytesOfTexts() const { return arena_.size() - rows_ - 1; }
+
+ private:
+  void NoteLength(size_t length);
+  size_t Length(std::uint32_t row) const;
+  size_t Start(std::uint32_t row) const;
+
+  std::string arena_;  // separator, text, separator, text, ... and one separator at the end
+  std::vector<std::uint8_t> shortLengths_;  // a byte a row: 255 means look into longLengths_
+  std::vector<std::pair<std::uint32_t, std::uint32_t>> longLengths_;  // row, length; rising
+  std::vector<std::uint32_t> blockStarts_;  // arena position of each 64th row's text
+  std::vector<bool> nulls_;                 // empty while no row is NULL
+  std::uint32_t rows_ = 0;
+  std::uint32_t commonLength_ = 0;  // holds while uniform_
+  bool uniform_ = true;
+};
+
+}  // namespace store

@@ -1,0 +1,61 @@
+#include "lookup/combo_fillers.h"
+
+#include "gateway/gateway.h"
+#include "session/text.h"
+
+namespace store {
+namespace {
+
+constexpr const char* kAllEntry = "*전체*      ";
+constexpr int kLevelLength = 3;
+
+std::string BaseCodeStatement(const std::string& prefix, const std::string& order) {
+  return Splice(" SELECT BAS_CODE,BAS_NAME1 FROM BAS WHERE BAS_CODE LIKE '{0}%'  {1}",
+                {prefix, order});
+}
+
+std::string SubKindStatement(const std::string& parentId, int level) {
+  return Splice(
+      " SELECT KD_ID,KD_NAME FROM KIND WHERE KD_ID LIKE '{0}%' AND KD_LVL ='{1}' ORDER BY KD_NAME ",
+      {LeftChars(parentId, level * kLevelLength), std::to_string(level + 1)});
+}
+
+constexpr const char* kTopKindStatement =
+    " SELECT KD_ID,KD_NAME FROM KIND WHERE KD_LVL IN ('0','1') ORDER BY KD_LVL DESC ,KD_NAME ";
+
+std::string DepotStatement(const std::string& storeCode) {
+  return Splice(
+      " SELECT HCT_CODE,HCT_NAME FROM HCT WHERE RCT_CODE = '{0}' ORDER BY HCT_BAS DESC ,HCT_NAME ",
+      {storeCode});
+}
+
+void Fill(ComboBox& combo, const std::string& statement, bool all) {
+  combo.Clear();
+  if (all) combo.AddItem(kAllEntry);
+  SqlText = statement;
+  OpenRecordset(SlotA, SqlText);
+  for (; !AtEof(SlotA); SlotA->MoveNext()) {
+    combo.AddItem(FieldText(SlotA, 1) + std::string(30, ' ') + FieldText(SlotA, 0));
+  }
+  CloseRecordset(SlotA);
+}
+
+}  // namespace
+
+void FillBaseCodes(ComboBox& combo, const std::string& prefix, bool all, const std::string& order) {
+  Fill(combo, BaseCodeStatement(prefix, order), all);
+}
+
+void FillItemKinds(ComboBox& combo, const std::string& parentId, int level, bool all) {
+  Fill(combo, parentId.empty() ? kTopKindStatement : SubKindStatement(parentId, level), all);
+}
+
+void FillDepots(const std::string& storeCode, ComboBox& combo, bool all) {
+  if (storeCode.empty()) {
+    combo.Clear();
+    return;
+  }
+  Fill(combo, DepotStatement(storeCode), all);
+}
+
+}  // namespace store

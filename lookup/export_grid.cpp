@@ -1,0 +1,83 @@
+#include "lookup/export_grid.h"
+
+#include <xlsxwriter.h>
+
+#include <filesystem>
+
+#include "forms/host.h"
+#include "session/dates.h"
+#include "session/numbers.h"
+
+namespace store {
+namespace {
+
+constexpr size_t kLongestNumber = 11;  // a longer run of digits is a code, such as a barcode
+
+/// A number that a sheet may hold as one. A code keeps its leading zeros and its digits as text.
+bool ReadsAsNumber(const std::string& text) {
+  if (text.empty() || text.size() > kLongestNumber || !IsNumeric(text)) return false;
+  return text[0] != '0' || text.size() == 1 || text[1] == '.';
+}
+
+void WriteCell(lxw_worksheet* sheet, const std::string& address, const std::string& text) {
+  const lxw_row_t row = lxw_name_to_row(address.c_str());
+  const lxw_col_t column = lxw_name_to_col(address.c_str());
+  if (text.empty()) return;
+  if (ReadsAsNumber(text)) {
+    worksheet_write_number(sheet, row, column, ParseGrouped(text), nullptr);
+  } else {
+    worksheet_write_string(sheet, row, column, text.c_str(), nullptr);
+  }
+}
+
+/// A fresh file each time: the last one may still be open on the screen.
+std::string NewFileName() {
+  std::error_code failed;
+  const auto folder = std::filesystem::temp_directory_path(failed);
+  const std::string stamp = FormatDateValue(Host.Now(), "YYYYMMDDHHNNSS");
+  for (int number = 1;; ++number) {
+    const auto path = folder / ("grid_" + stamp + "_" + std::to_string(number) + ".xlsx");
+    if (!std::filesystem::exists(path, failed)) return path.string();
+  }
+}
+
+bool WriteWorkbook(const Grid& grid, const std::string& path) {
+  lxw_workbook* workbook = workbook_new(path.c_str());
+  if (workbook == nullptr) return false;
+  lxw_worksheet* sheet = workbook_add_worksheet(workbook, nullptr);
+  for (int row = 0; row < grid.Rows(); ++row) {
+    std::string letters;
+    for (int column = 0; column < grid.Cols(); ++column) {
+      letters = ColumnLetters(row, column, letters);
+      WriteCell(sheet, letters + std::to_string(row + 1), grid.TextMatrix(row, column));
+    }
+  }
+  return workbook_close(workbook) == LXW_NO_ERROR;
+}
+
+}  // namespace
+
+std::string ColumnLetters(int row, int column, const std::string& before) {
+  const auto letter = [](int index) { return static_cast<char>('A' + index); };
+  if (column < 26) return std::string(1, letter(column));
+  const char prefix = row <= 52 ? 'A' : 'B';
+  const int index = column - (row <= 52 ? 26 : 52);
+  if (row > 78 || index < 0 || index >= 26) return before;
+  return {prefix, letter(index)};
+}
+
+void ExportGrid(const Grid& grid) {
+  Host.SetPointer(PointerHourglass);
+  const std::string path = NewFileName();
+  const bool written = WriteWorkbook(grid, path);
+  const bool opened = written && Host.OpenAddress(path);
+  Host.SetPointer(PointerNormal);
+  if (!written) {
+    Host.MsgBox("사용자  작업   취소              ", box::Plain, "강제취소");
+  } else if (!opened) {
+    Host.MsgBox("호환가능한 엑셀이 설치되어있지 않거나 다른오류가 발생했습니다.              ",
+                box::Plain, "엑셀호환오류");
+  }
+}
+
+}  // namespace store

@@ -1,0 +1,29 @@
+#include "lookup/lookup_grid.h"
+
+#include "forms/host.h"
+#include "gateway/gateway.h"
+
+namespace store {
+
+void FillLookupGrid(const std::string& statement, Grid& grid) {
+  Host.SetPointer(PointerHourglass);
+  grid.SetRows(grid.FixedRows());
+  OpenRecordset(SlotA, statement);
+  if (!LastErrorText.empty() || AtEof(SlotA)) {
+    Host.SetPointer(PointerNormal);
+    return;
+  }
+  std::string row;
+  for (; !AtEof(SlotA); SlotA->MoveNext()) {
+    row.clear();
+    for (int field = 0; field < SlotA->FieldCount(); ++field) {
+      if (field > 0) row += '\t';
+      row += SlotA->Text(field);
+    }
+    grid.AddItem(row);
+  }
+  CloseRecordset(SlotA);
+  Host.SetPointer(PointerNormal);
+}
+
+}  // namespace store

@@ -1,0 +1,8 @@
+#pragma once
+
+namespace store {
+
+/// Makes the order forms known by name ("frm_Order").
+void RegisterOrderForms();
+
+}  // namespace store

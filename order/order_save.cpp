@@ -1,0 +1,150 @@
+// Saving an order: the checks in their order, the header and the lines that are handed to posting.
+#include "forms/host.h"
+#include "gateway/gateway.h"
+#include "order/order_form.h"
+#include "session/base_settings.h"
+#include "session/dates.h"
+#include "session/numbers.h"
+#include "session/partner_name.h"
+#include "session/session_record.h"
+#include "session/text.h"
+#include "slips/depot_choice.h"
+#include "slips/document_date.h"
+#include "slips/item_list.h"
+#include "slips/post_order.h"
+#include "slips/slip_keys.h"
+
+namespace store {
+
+void OrderForm::LaBtn_Click(int index) {
+  if (index != 0 && index != 1) return;
+  HeadValues.assign(head::OrderLast + 1, "");
+  HeadValues[head::State] = index == 0 ? "0" : choices_.ConfirmedState;
+  std::int16_t valid = 0;
+  ValidateOrder(valid);
+  if (valid == 0) return;
+
+  std::int16_t posted = 0;
+  if (Trim(SlipId).empty()) {
+    posted = PostNewOrder(HeadValues, LineValues, SlipTable);
+    SlipId = HeadValues[head::Id];
+  } else {
+    posted = PostOrderChange(HeadValues, LineValues, SlipTable);
+  }
+  if (posted == -1) SaveSucceeded();
+  if (posted == 0) SaveFailed();
+}
+
+void OrderForm::SaveSucceeded() {
+  const int answer = Host.MsgBox("발주가 정상적으로 처리되었습니다. 계속해서 발주하시겠습니까?",
+                                 box::Question + box::YesNo, "계속발주");
+  if (answer != box::Yes) {
+    Close();
+    return;
+  }
+  SlipId.clear();
+  ResetOrderForm();
+  SetFocus(Text1);
+}
+
+void OrderForm::SaveFailed() {
+  Host.MsgBox("저장이 실패하였습니다.\r\r MSG: " + LastErrorText, box::Question, "오류");
+}
+
+void OrderForm::ValidateOrder(std::int16_t& valid) {
+  valid = 0;
+  // The key comes before the checks: its date is the day that the document date is measured by.
+  HeadValues[head::Id] = ParseNumber(SlipId) != 0 ? SlipId : NextSlipId(SlipTable);
+  HeadValues[head::Date] = DTOrderDate.Value();
+  if (!DateFitsKey(HeadValues[head::Date], HeadValues[head::Id])) {
+    Host.MsgBox("발주일자를 확인바랍니다. 현재일기준 전후한달만 처리가능합니다.", box::Critical,
+                "발주일자오류");
+    return;
+  }
+  FillHeader();
+  if (Trim(HeadValues[head::FromCode]).empty() || Trim(HeadValues[head::FromName]).empty()) {
+    Host.MsgBox("본사/가맹점입력은 필수입력입니다.                ", box::Critical, "본사/가맹점");
+    return;
+  }
+  if (Trim(PartnerNameOf(HeadValues[head::ToCode])) != Trim(Text1.Text()) ||
+      Trim(Text1.Text()).empty()) {
+    Host.MsgBox("거래처입력오류 확인바랍니다.             ", box::Critical, "거래처");
+    SetFocus(Text1);
+    return;
+  }
+  std::int16_t lines = 0;
+  BuildOrderLines(lines);
+  if (lines == 0) {
+    Host.MsgBox("전표순번자료가 없습니다.                    ", box::Critical, "전표순번");
+    return;
+  }
+  valid = -1;
+}
+
+void OrderForm::FillHeader() {
+  HeadValues[head::Today] = FormatDateValue(Today(), "YYYY-MM-DD");
+  HeadValues[head::FromCode] = Session.StoreCode;
+  HeadValues[head::FromName] = Session.StoreName;
+  HeadValues[head::ToCode] = Text1.Tag;
+  HeadValues[head::ToName] = Text1.Text();
+  HeadValues[head::Supply] = PlainNumber(LaAmt[2].Caption);
+  HeadValues[head::Tax] = PlainNumber(LaAmt[3].Caption);
+  HeadValues[head::Total] = PlainNumber(LaAmt[1].Caption);
+  // One blank, not an empty text, is how head office's side knows an order that nobody filled in.
+  for (size_t i = head::OrderFirstBlank; i <= head::OrderLast; ++i) HeadValues[i] = " ";
+}
+
+void OrderForm::PrepareLineArray() {
+  LineValues.Clear();
+  LineValues.Redim(BaseSettings.MaxSlipLines, line::OrderLast);
+}
+
+void OrderForm::BuildOrderLines(std::int16_t& count) {
+  count = 0;
+  PrepareLineArray();
+  int number = 0;
+  for (int row = 1; row < FLEX1.Rows(); ++row) {
+    const std::string& code = FLEX1.TextMatrix(row, 1);
+    if (MidChars(code, 2).empty()) continue;
+    ++number;
+    if (!FindItem(code)) {
+      Host.MsgBox("[" + code + "] 품목정보가 부족하여 \r\r 순번항목을 구성할 수 없습니다.",
+                  box::Critical, "품목정보오류");
+      return;
+    }
+    FillLine(number, row);
+    if (Trim(DepotCodeOf(Combo1)).empty()) {
+      Host.MsgBox("입고될 기본하치장을 반드시 선택하세요.     ", box::Critical, "하치장선택");
+      return;
+    }
+  }
+  ToInt16(number, count);
+}
+
+void OrderForm::FillLine(int number, int row) {
+  const auto put = [&](int column, const std::string& text) {
+    LineValues.Set(number, column, text);
+  };
+  put(line::Id, HeadValues[head::Id]);
+  put(line::Number, std::to_string(number));
+  put(line::Date, HeadValues[head::Date]);
+  put(line::ProductCode, FLEX1.TextMatrix(row, 1));
+  // The master data of this moment, not of the moment the line was written.
+  put(line::ProductName, ItemText(item::Name));
+  put(line::Standard, ItemText(item::Standard));
+  put(line::TaxKind, ItemText(item::TaxKind));
+  put(line::Unit, ItemText(item::Unit));
+  put(line::Quantity, PlainNumber(FLEX1.TextMatrix(row, 7)));
+  put(line::OtherQty, "0");
+  put(line::Cost, "0");
+  put(line::Price, PlainNumber(FLEX1.TextMatrix(row, 5)));
+  put(line::Supply, PlainNumber(FLEX1.TextMatrix(row, 8)));
+  put(line::Tax, PlainNumber(FLEX1.TextMatrix(row, 9)));
+  put(line::User, Session.UserCode);
+  put(line::Type, "0");
+  put(line::Memo, "");
+  put(line::DepotCode, DepotCodeOf(Combo1));
+  put(line::DepotName, DepotNameOf(Combo1));
+}
+
+}  // namespace store

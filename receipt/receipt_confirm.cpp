@@ -1,0 +1,160 @@
+// Confirming a receipt: the checks in their order, the slip that is handed to posting.
+#include "forms/host.h"
+#include "gateway/gateway.h"
+#include "receipt/frm_PE_UNIT.h"
+#include "receipt/receipt_columns.h"
+#include "session/base_settings.h"
+#include "session/dates.h"
+#include "session/numbers.h"
+#include "session/options_record.h"
+#include "session/session_record.h"
+#include "session/text.h"
+#include "slips/depot_choice.h"
+#include "slips/document_date.h"
+#include "slips/item_list.h"
+#include "slips/post_receipt.h"
+#include "slips/slip_keys.h"
+
+namespace store {
+
+void frm_PE_UNIT::Command1_Click(int index) {
+  if (index != 1) return;
+  if (Host.MsgBox("입고확정처리 하시겠습니까?           ", box::Question + box::YesNo,
+                  "입고확정") != box::Yes) {
+    return;
+  }
+  HeadValues.assign(head::PostedLast + 1, "");
+  std::int16_t valid = 0;
+  ValidateReceipt(valid);
+  if (valid == 0) return;
+  if (PostReceipt(HeadValues, LineValues, SlipTable) == 0) {
+    Host.MsgBox("저장이 실패하였습니다.\r\r MSG: " + LastErrorText, box::Question, "오류");
+    return;
+  }
+  Host.MsgBox("입고처리가 정상적으로 처리되었습니다.", box::Information, "입고완료");
+  Close();
+}
+
+void frm_PE_UNIT::ValidateReceipt(std::int16_t& valid) {
+  valid = 0;
+  HeadValues[head::Id] = NextSlipId(SlipTable);
+  HeadValues[head::State] = "1";
+  HeadValues[head::Date] = DTPicker1.Value();
+  if (!DateFitsKey(HeadValues[head::Date], HeadValues[head::Id])) {
+    Host.MsgBox("발주일자를 확인바랍니다. 현재일기준 전후한달만 처리가능합니다.", box::Critical,
+                "발주일자오류");
+    return;
+  }
+  FillHeader();
+  if (Trim(HeadValues[head::FromCode]).empty() || Trim(HeadValues[head::FromName]).empty()) {
+    Host.MsgBox("본사/가맹점입력은 필수입력입니다.                ", box::Critical, "본사/가맹점");
+    return;
+  }
+  if (Trim(HeadValues[head::ToName]).empty()) {
+    Host.MsgBox("거래처입력오류 확인바랍니다.             ", box::Critical, "거래처");
+    return;
+  }
+  std::int16_t lines = 0;
+  BuildReceiptLines(lines);
+  if (lines == 0) {
+    Host.MsgBox("전표순번자료가 없습니다.                    ", box::Critical, "전표순번");
+    return;
+  }
+  valid = -1;
+}
+
+void frm_PE_UNIT::FillHeader() {
+  HeadValues[head::Today] = FormatDateValue(Today(), "YYYY-MM-DD");
+  HeadValues[head::FromCode] = Session.StoreCode;
+  HeadValues[head::FromName] = Session.StoreName;
+  HeadValues[head::ToCode] = Text1.Tag;
+  HeadValues[head::ToName] = Text1.Text();
+  HeadValues[head::Supply] = PlainNumber(LaAmt[2].Caption);
+  HeadValues[head::Tax] = PlainNumber(LaAmt[3].Caption);
+  HeadValues[head::Total] = PlainNumber(LaAmt[1].Caption);
+  HeadValues[head::Unpaid] = "0";
+  HeadValues[head::Extra] = "0";
+  HeadValues[head::Discount] = "0";
+  HeadValues[head::PayKind] = "E005";
+  HeadValues[head::Accounting] = " ";
+  HeadValues[head::Manager] = " ";
+  HeadValues[head::Memo] = " ";
+  HeadValues[head::PostedUser] = Session.UserCode;
+  HeadValues[head::Project] = " ";
+  HeadValues[head::Link] = SlipId;
+}
+
+void frm_PE_UNIT::PrepareReceiptLines() {
+  LineValues.Clear();
+  LineValues.Redim(BaseSettings.MaxSlipLines, line::PostedLast);
+  for (int row = 1; row <= LineValues.LastRow(); ++row) {
+    LineValues.Set(row, line::Number, std::to_string(row));
+    for (int column = line::Quantity; column <= line::Tax; ++column) {
+      LineValues.Set(row, column, "0");
+    }
+    LineValues.Set(row, line::User, Session.UserCode);
+  }
+}
+
+bool frm_PE_UNIT::RowIsReceived(int row) const {
+  if (MidChars(FLEX1.TextMatrix(row, receipt::Code), 2).empty()) return false;
+  if (AppOptions.SkipZeroReceipt == 0) return true;
+  return AppOptions.SkipZeroReceipt == 1 &&
+         ParseGrouped(FLEX1.TextMatrix(row, receipt::Received)) != 0;
+}
+
+void frm_PE_UNIT::BuildReceiptLines(std::int16_t& count) {
+  count = 0;
+  PrepareReceiptLines();
+  int number = 0;
+  for (int row = 1; row < FLEX1.Rows(); ++row) {
+    if (!RowIsReceived(row)) continue;
+    ++number;
+    if (!FillLine(number, row)) return;
+  }
+  ToInt16(number, count);
+}
+
+bool frm_PE_UNIT::FillLine(int number, int row) {
+  const auto put = [&](int column, const std::string& text) {
+    LineValues.Set(number, column, text);
+  };
+  put(line::Id, HeadValues[head::Id]);
+  put(line::Number, std::to_string(number));
+  put(line::Date, HeadValues[head::Date]);
+  put(line::ProductCode, FLEX1.TextMatrix(row, receipt::Code));
+  if (!FindItem(Trim(FLEX1.TextMatrix(row, receipt::Code)))) {
+    Host.MsgBox("[" + FLEX1.TextMatrix(row, receipt::Name) +
+                    " ] 상품의 발주단가정보에서 오류가 발생하였습니다. \r\r 다시 시도하여주세요.  "
+                    "지속적인 문제발생시 본사단가정책담당자에게 문의바랍니다. ",
+                box::Critical, "단가정책오류");
+    return false;
+  }
+  put(line::ProductName, ItemText(item::Name));
+  put(line::Standard, ItemText(item::Standard));
+  put(line::TaxKind, ItemText(item::TaxKind));
+  put(line::Unit, ItemText(item::Unit));
+  put(line::Quantity, PlainNumber(FLEX1.TextMatrix(row, receipt::Received)));
+  put(line::OtherQty, PlainNumber(FLEX1.TextMatrix(row, receipt::Ordered)));
+  put(line::Cost, "0");
+  put(line::Price, PlainNumber(FLEX1.TextMatrix(row, receipt::Price)));
+  put(line::Supply, PlainNumber(FLEX1.TextMatrix(row, receipt::Supply)));
+  put(line::Tax, PlainNumber(FLEX1.TextMatrix(row, receipt::Tax)));
+  put(line::User, Session.UserCode);
+  put(line::Type, "0");
+  put(line::Memo, "");
+  put(line::DepotCode, DepotCodeOf(Combo1));
+  put(line::DepotName, DepotNameOf(Combo1));
+  // A row beyond the limit took nothing in, so it has no depot either: one message for both.
+  if (Trim(LineValues.At(number, line::DepotCode)).empty()) {
+    Host.MsgBox(
+        "입고될 기본하치장을 반드시 선택하세요.  \r또는 최대전표건수를 확인하세요 "
+        "셋팅최대처리건수(" +
+            std::to_string(BaseSettings.MaxSlipLines) + "건)\r",
+        box::Critical, "하치장선택");
+    return false;
+  }
+  return true;
+}
+
+}  // namespace store

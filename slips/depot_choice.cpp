@@ -1,0 +1,30 @@
+#include "slips/depot_choice.h"
+
+#include "session/main_window.h"
+#include "session/text.h"
+
+namespace store {
+namespace {
+
+constexpr int kCodeLength = 6;
+
+}  // namespace
+
+std::string DepotEntry(const std::string& name, const std::string& code) {
+  return name + std::string(30, ' ') + code;
+}
+
+std::string DepotCodeOf(const ComboBox& depots) { return RightChars(depots.Text(), kCodeLength); }
+
+std::string DepotNameOf(const ComboBox& depots) {
+  const std::string entry = depots.Text();
+  return Trim(LeftChars(entry, CharLength(entry) - kCodeLength));
+}
+
+void CopyDepots(ComboBox& depots) {
+  const MainWindow* board = TheMainWindow();
+  if (board == nullptr) return;
+  for (const std::string& entry : board->Combo1.List()) depots.AddItem(entry);
+}
+
+}  // namespace store

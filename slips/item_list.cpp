@@ -1,0 +1,30 @@
+#include "slips/item_list.h"
+
+#include "gateway/gateway.h"
+#include "session/session_record.h"
+
+namespace store {
+namespace {
+
+std::string ScopedItemList(const std::string& supplier) {
+  return Splice(
+      "SELECT PR.PR_CODE,PR_NAME,PR_STD,PR_UNT,PR_TAX2,PR_PTNO,' ',' ',PR.PR_BCODE,' ',KD_ID FROM "
+      "SAFEIV LEFT JOIN PR ON SAFEIV.PR_CODE = PR.PR_CODE  WHERE PR_END = '0' AND RCT_CODE = '{0}' "
+      "AND CT_CODE = '{1}' ",
+      {Session.StoreCode, supplier});
+}
+
+}  // namespace
+
+void OpenScopedItemList(const std::string& supplier) {
+  OpenRecordset(SlotC, ScopedItemList(supplier));
+}
+
+bool FindItem(const std::string& productCode) {
+  SetFilter(SlotC, Splice(" PR_CODE = '{0}'", {productCode}));
+  return !AtEof(SlotC);
+}
+
+std::string ItemText(int field) { return FieldText(SlotC, field); }
+
+}  // namespace store

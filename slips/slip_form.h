@@ -1,0 +1,24 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "forms/form.h"
+
+namespace store {
+
+/// A form that works on one slip. The board sets these fields before it shows the form.
+class SlipForm : public Form {
+ public:
+  using Form::Form;
+
+  std::string SlipId;            ///< PE_ID of the slip; empty on a new order.
+  std::string SlipTable;         ///< Header table: "PEM22" for an order, "PEM23" for a receipt.
+  std::int16_t NoPriceMode = 0;  ///< 1 leaves out the price lookup when a line is added.
+
+  /// Whether the form holds something that a person has entered and that is not stored. The board
+  /// never puts another slip in its place.
+  virtual bool HoldsWork() const { return false; }
+};
+
+}  // namespace store

@@ -1,0 +1,62 @@
+#include "slips/slip_keys.h"
+
+#include "gateway/gateway.h"
+#include "session/numbers.h"
+#include "session/session_record.h"
+#include "session/text.h"
+
+namespace store {
+
+std::int16_t SlipSeqCounter = 0;
+std::string SlipKeyPrefix;
+
+namespace {
+
+constexpr const char* kNumberMask = "0000";
+
+std::string SlipIdStatement(const std::string& table) {
+  return Splice(
+      " SELECT  CONCAT(date_format(now(),'%Y%m%d'),'', '{0}'),IF(COUNT(PE_ID)=0,1,"
+      "MAX(RIGHT(PE_ID,4))+1)  from {1} WHERE   PE_ID LIKE CONCAT(date_format(now(),'%Y%m%d'),'',"
+      " '{0}%')",
+      {Session.StoreCode, table});
+}
+
+std::string StockCountIdStatement() {
+  return Splice(
+      " SELECT  CONCAT(date_format(now(),'%Y%m%d'),'', '{0}'),IF(COUNT(ME_ID)=0,1,"
+      "MAX(RIGHT(ME_ID,4))+1)  from ME  WHERE   ME_ID LIKE CONCAT(date_format(now(),'%Y%m%d'),'',"
+      " '{0}%')",
+      {Session.StoreCode});
+}
+
+}  // namespace
+
+std::string NextSlipId(const std::string& table) {
+  const std::string kind = RightChars(table, 2);
+  if (SlipSeqCounter != 0) {
+    // Past the 16 bits the addition has no place to go and the same key comes out again.
+    ToInt16(SlipSeqCounter + 1.0, SlipSeqCounter);
+    return SlipKeyPrefix + Session.UserCode + kind + FormatNumber(SlipSeqCounter, kNumberMask);
+  }
+  StringTable found;
+  std::int32_t rows = 0;
+  std::int32_t highestColumn = 0;
+  QueryRows(SlipIdStatement(table), found, rows, highestColumn);
+  if (rows == 0) return "0001";
+  const double number = ParseNumber(found.At(1, 1));
+  ToInt16(number, SlipSeqCounter);
+  SlipKeyPrefix = found.At(1, 0);
+  return SlipKeyPrefix + Session.UserCode + kind + FormatNumber(number, kNumberMask);
+}
+
+std::string NextStockCountId() {
+  StringTable found;
+  std::int32_t rows = 0;
+  std::int32_t highestColumn = 0;
+  QueryRows(StockCountIdStatement(), found, rows, highestColumn);
+  if (rows == 0) return "0001";
+  return found.At(1, 0) + Session.UserCode + FormatNumber(ParseNumber(found.At(1, 1)), kNumberMask);
+}
+
+}  // namespace store

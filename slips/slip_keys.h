@@ -1,0 +1,26 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace store {
+
+/// Keys of documents: 8 digits of the database's date, store code, user code, two digits of kind
+/// and a number of four digits or more. The number is taken from the highest key of the store and
+/// day, and then counted in memory; nothing reserves it, and the user code inside the key keeps two
+/// people apart.
+
+/// Last number handed out in this run; 0 means that the next key reads the database.
+extern std::int16_t SlipSeqCounter;
+/// Date and store of the last database read.
+extern std::string SlipKeyPrefix;
+
+/// A key for a header table ("PEM22", "PEM23", ...), whose last two characters are the kind. If the
+/// database cannot be read the result is "0001", which no date check lets pass.
+std::string NextSlipId(const std::string& table);
+
+/// A key for the stock-count header ME. It always reads the database and leaves the counter alone;
+/// it carries no kind.
+std::string NextStockCountId();
+
+}  // namespace store

@@ -1,0 +1,187 @@
+#include "slips/unit_price.h"
+
+#include <algorithm>
+#include <array>
+
+#include "gateway/gateway.h"
+#include "session/numbers.h"
+#include "session/options_record.h"
+#include "session/session_record.h"
+#include "session/text.h"
+
+namespace store {
+namespace {
+
+constexpr const char* kPartnerDecides = "4";
+constexpr const char* kLevelOfParty = "NONE";
+
+/// Which party a price is for: it decides whose default level counts and which rows of UP.
+enum class Side { Partner, Store };
+
+std::string PartnerPolicyStatement(const std::string& partner) {
+  return Splice(" SELECT CT_DANCK FROM CT WHERE CT_CODE = '{0}'  ", {partner});
+}
+
+std::string LastTradeStatement(const std::string& partner, const std::string& product,
+                               const std::string& source, const std::string& lines) {
+  return Splice(
+      " SELECT PS_TAXGU,PS_UP  FROM   {0} INNER JOIN {1} ON {0}.PE_ID = {1}.PE_ID   Where  "
+      "PE_TCTCODE = '{2}' AND PR_CODE = '{3}' ORDER BY PE_PDATE DESC limit 1 ",
+      {source, lines, partner, product});
+}
+
+std::string PartnerContractStatement(const std::string& partner, const std::string& product,
+                                     const std::string& date) {
+  // Under the partner's own policy a contract of any store counts, otherwise only head office's.
+  const std::string clause =
+      AppOptions.BulkOrderPrice == kPartnerDecides ? "" : " and rct_code = '1000'";
+  return Splice(
+      " SELECT  CTP_GU,CTP_UP  FROM   CTP   Where  CT_CODE    = '{0}' AND         PR_CODE = '{1}' "
+      "AND         ((CTP_FDATE <= '{2}'   AND  CTP_TDATE >= '{2}' ) OR (CTP_FDATE = '0000-00-00' "
+      "AND CTP_TDATE = '0000-00-00')) {3}",
+      {partner, product, date, clause});
+}
+
+std::string StoreContractStatement(const std::string& storeCode, const std::string& product,
+                                   const std::string& date) {
+  return Splice(
+      " SELECT  CTP_GU,CTP_UP  FROM   RCTP   Where  RCT_CODE    = '{0}' AND         PR_CODE = "
+      "'{1}' AND         ((CTP_FDATE <= '{2}'   AND  CTP_TDATE >= '{2}' ) OR (CTP_FDATE = "
+      "'0000-00-00' AND CTP_TDATE = '0000-00-00')) ",
+      {storeCode, product, date});
+}
+
+std::string PartnerLevelStatement(const std::string& partner) {
+  return Splice(" SELECT CT_DANLV FROM CT WHERE CT_CODE = '{0}'  ", {partner});
+}
+
+std::string StoreLevelStatement(const std::string& storeCode) {
+  return Splice(" SELECT RCT_DANLV FROM RCT WHERE RCT_CODE = '{0}'  ", {storeCode});
+}
+
+std::string ThirdPriceStatement(const std::string& product) {
+  return Splice(" SELECT PR_OP2 AS COL0  FROM   PR   Where  PR_CODE = '{0}'  ", {product});
+}
+
+std::string SalePriceStatement(const std::string& product) {
+  return Splice(" SELECT PR_OP1 AS COL0   FROM   PR   Where  PR_CODE = '{0}'  ", {product});
+}
+
+std::string LevelPriceStatement(const std::string& product, int column, const std::string& kind) {
+  return Splice(" SELECT DP{0}  AS COL0  FROM   UP   Where  DP_GUBUN = '{1}' AND PR_CODE = '{2}'  ",
+                {std::to_string(column), kind, product});
+}
+
+std::string OrderSettingStatement(const std::string& partner, const std::string& product) {
+  if (partner.empty()) {
+    return Splice(" SELECT ORD_UP FROM SAFEIV WHERE RCT_CODE = '{0}' AND PR_CODE = '{1}'  ",
+                  {Session.StoreCode, product});
+  }
+  return Splice(
+      " SELECT ORD_UP FROM SAFEIV WHERE RCT_CODE = '{0}' AND PR_CODE = '{1}' AND CT_CODE = '{2}'  ",
+      {Session.StoreCode, product, partner});
+}
+
+double LastTradePrice(const std::string& partner, const std::string& product,
+                      const std::string& source) {
+  const std::string lines = source == "PES13" ? "PSS13" : "PSM23";
+  SqlText = LastTradeStatement(partner, product, source, lines);
+  StringTable found;
+  std::int32_t rows = 0;
+  std::int32_t highestColumn = 0;
+  QueryRows(SqlText, found, rows, highestColumn);
+  return rows > 0 ? ParseNumber(found.At(1, 1)) : 0;
+}
+
+double PriceFromLevel(Side side, const std::string& party, const std::string& product,
+                      std::string level) {
+  if (level == kLevelOfParty) {
+    SqlText = side == Side::Partner ? PartnerLevelStatement(party) : StoreLevelStatement(party);
+    level = RightChars(QueryText(SqlText, "0"), 2);
+  }
+  std::int16_t n = 0;
+  ToInt16(ParseNumber(level) - 2, n);
+  if (n == -1) {
+    SqlText = ThirdPriceStatement(product);
+  } else if (n == 0) {
+    SqlText = SalePriceStatement(product);
+  } else {
+    // A level that means nothing names a column that does not exist; the refusal reads as 0.
+    SqlText = LevelPriceStatement(product, n, side == Side::Partner ? "C" : "R");
+  }
+  return ParseNumber(QueryText(SqlText, "0"));
+}
+
+/// The price of a contract row, or of the level that the row names in its place; without a row, of
+/// the party's own level.
+double PriceOfContract(Side side, const std::string& party, const std::string& product,
+                       const std::string& statement) {
+  SqlText = statement;
+  StringTable found;
+  std::int32_t rows = 0;
+  std::int32_t highestColumn = 0;
+  QueryRows(SqlText, found, rows, highestColumn);
+  if (rows == 0) return PriceFromLevel(side, party, product, kLevelOfParty);
+  const double price = ParseNumber(found.At(1, 1));
+  return price != 0 ? price : PriceFromLevel(side, party, product, found.At(1, 0));
+}
+
+double ContractPrice(const std::string& partner, const std::string& product,
+                     const std::string& date) {
+  return PriceOfContract(Side::Partner, partner, product,
+                         PartnerContractStatement(partner, product, date));
+}
+
+double OrderSettingPrice(const std::string& partner, const std::string& product) {
+  SqlText = OrderSettingStatement(partner, product);
+  OpenRecordset(SlotA, SqlText);
+  const double price = AtEof(SlotA) ? 0 : ParseNumber(FieldText(SlotA, 0));
+  CloseRecordset(SlotA);
+  return price;
+}
+
+/// The header table that holds the trades of a slip kind's side; empty for a kind of neither.
+std::string TradeTable(const std::string& slipKind) {
+  static constexpr std::array<const char*, 3> sale = {"11", "12", "13"};
+  static constexpr std::array<const char*, 3> purchase = {"21", "22", "23"};
+  const std::string kind = RightChars(slipKind, 2);
+  if (std::find(sale.begin(), sale.end(), kind) != sale.end()) return "PES13";
+  if (std::find(purchase.begin(), purchase.end(), kind) != purchase.end()) return "PEM23";
+  return "";
+}
+
+}  // namespace
+
+double ResolveUnitPrice(const std::string& partner, const std::string& product,
+                        const std::string& date, const std::string& kindOverride,
+                        const std::string& slipKind, const std::string& /*unused*/) {
+  std::string policy = AppOptions.BulkOrderPrice;
+  if (policy == kPartnerDecides) {
+    SqlText = PartnerPolicyStatement(partner);
+    policy = kindOverride.empty() ? QueryText(SqlText, "0") : kindOverride;
+  }
+  // Options that were never saved leave no digit; an order then has no price.
+  if (!IsNumeric(policy)) return 0;
+  if (ParseNumber(policy) == 5) return OrderSettingPrice(partner, product);
+  const std::string source = TradeTable(slipKind);
+  if (source.empty()) return 0;
+  if (policy == "0") return LastTradePrice(partner, product, source);
+  if (policy == "1") return ContractPrice(partner, product, date);
+  if (policy == "2") {
+    const double price = LastTradePrice(partner, product, source);
+    return price != 0 ? price : ContractPrice(partner, product, date);
+  }
+  if (policy == "3") {
+    const double price = ContractPrice(partner, product, date);
+    return price != 0 ? price : LastTradePrice(partner, product, source);
+  }
+  return 0;
+}
+
+double ResolveStorePrice(const std::string& storeCode, const std::string& product,
+                         const std::string& date) {
+  return PriceOfContract(Side::Store, storeCode, product,
+                         StoreContractStatement(storeCode, product, date));
+}
+
+}  // namespace store

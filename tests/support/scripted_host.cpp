@@ -1,0 +1,135 @@
+#include "tests/support/scripted_host.h"
+
+#include <gtest/gtest.h>
+#include <stdlib.h>
+
+#include "forms/open_forms.h"
+
+namespace store {
+namespace {
+
+std::filesystem::path FreshFolder() {
+  std::string path = (std::filesystem::temp_directory_path() / "store_host_XXXXXX").string();
+  if (mkdtemp(path.data()) == nullptr) ADD_FAILURE() << "no folder for the program: " << path;
+  return path;
+}
+
+std::string Described(const std::string& text, int style, const std::string& title) {
+  return "box [" + title + "] \"" + text + "\", style " + std::to_string(style);
+}
+
+}  // namespace
+
+ScriptedHost::ScriptedHost() : Folder(FreshFolder()) {
+  Host = EmptyHost();
+  FillWindows();
+  FillWorkstation();
+  Host.ProgramFolder = Folder.string();
+  Host.ProgramTitle = "STORE";
+  Host.Version = {1, 2, 35};
+}
+
+ScriptedHost::~ScriptedHost() {
+  ExpectAllShown();
+  DropAllForms();
+  Host = EmptyHost();
+  std::error_code ignored;
+  std::filesystem::remove_all(Folder, ignored);
+}
+
+void ScriptedHost::ExpectBox(const std::string& fragment, int answer) {
+  expectedBoxes_.push_back({fragment, answer});
+}
+
+void ScriptedHost::OnModal(const std::string& formName, std::function<void(Form&)> handler) {
+  modalHandlers_[formName].push_back(std::move(handler));
+}
+
+void ScriptedHost::ExpectAllShown() {
+  for (const Expected& box : expectedBoxes_)
+    ADD_FAILURE() << "a box was announced and never shown: " << box.fragment;
+  expectedBoxes_.clear();
+  for (const auto& [name, handlers] : modalHandlers_)
+    if (!handlers.empty()) ADD_FAILURE() << "a modal form was announced and never shown: " << name;
+  modalHandlers_.clear();
+}
+
+void ScriptedHost::FillWindows() {
+  Host.MsgBox = [this](const std::string& text, int style, const std::string& title) {
+    return ShowBox(text, style, title);
+  };
+  Host.ShowModal = [this](Form& form) { ShowModal(form); };
+  Host.Show = [this](Form& form) {
+    FormsShown.push_back(form.Name);
+    form.EnsureLoaded();
+    if (!form.IsClosed()) form.Activate();
+  };
+  Host.Hide = [this](Form& form) { FormsHidden.push_back(form.Name); };
+  Host.Minimize = [this](Form& form) { FormsMinimized.push_back(form.Name); };
+  Host.CloseWindow = [this](Form& form) { FormsClosed.push_back(form.Name); };
+  Host.EndProgram = [this] { Ended = true; };
+  Host.ScreenSize = [this](int& width, int& height) {
+    width = ScreenWidth;
+    height = ScreenHeight;
+  };
+  Host.SetPointer = [this](int pointer) { Pointers.push_back(pointer); };
+  Host.Beep = [this] { ++Beeps; };
+  Host.DoEvents = [this] { ++EventRounds; };
+}
+
+void ScriptedHost::FillWorkstation() {
+  Host.Now = [this] { return Clock; };
+  Host.Sleep = [this](int milliseconds) { Sleeps.push_back(milliseconds); };
+  Host.OpenAddress = [this](const std::string& address) {
+    Addresses.push_back(address);
+    return OpensAddresses;
+  };
+  Host.StartProgram = [this](const std::string& path, const std::string& arguments) {
+    Programs.emplace_back(path, arguments);
+    return StartsPrograms;
+  };
+  Host.GetSetting = [this](const std::string& application, const std::string& section,
+                           const std::string& key) {
+    const auto found = Settings.find({application, section, key});
+    return found == Settings.end() ? std::string() : found->second;
+  };
+  Host.SaveSetting = [this](const std::string& application, const std::string& section,
+                            const std::string& key, const std::string& value) {
+    Settings[{application, section, key}] = value;
+  };
+  Host.PreviousInstance = [this] { return OtherInstance; };
+}
+
+int ScriptedHost::ShowBox(const std::string& text, int style, const std::string& title) {
+  Boxes.push_back({text, style, title});
+  if (expectedBoxes_.empty()) {
+    ADD_FAILURE() << "not announced: " << Described(text, style, title);
+    return (style & box::YesNo) != 0 ? box::No : box::Ok;
+  }
+  const Expected expected = expectedBoxes_.front();
+  expectedBoxes_.pop_front();
+  const bool shown = text.find(expected.fragment) != std::string::npos ||
+                     title.find(expected.fragment) != std::string::npos;
+  if (!shown)
+    ADD_FAILURE() << "announced: " << expected.fragment
+                  << "\n shown: " << Described(text, style, title);
+  return expected.answer;
+}
+
+void ScriptedHost::ShowModal(Form& form) {
+  FormsShown.push_back(form.Name);
+  form.EnsureLoaded();
+  if (form.IsClosed()) return;  // closed by its own load
+  form.Activate();
+  auto& handlers = modalHandlers_[form.Name];
+  if (handlers.empty()) {
+    ADD_FAILURE() << "a modal form that was not announced: " << form.Name;
+  } else {
+    const std::function<void(Form&)> handler = handlers.front();
+    handlers.pop_front();
+    handler(form);
+  }
+  form.Close();
+}
+
+}  // namespace store
