@@ -1,9 +1,12 @@
 #include "gateway/odbc_connection.h"
 
-#include <algorithm>
+#include <chrono>
+#include <condition_variable>
 #include <cstdlib>
 #include <filesystem>
 #include <memory>
+#include <mutex>
+#include <thread>
 
 namespace store {
 namespace {
@@ -49,6 +52,45 @@ SQLHENV Environment() {
   return environment.Handle();
 }
 
+/// One login, made beside the program's own thread: the driver's time-out covers the way to the
+/// server, but neither a name that nobody resolves nor a server that takes the call and stays mute.
+class ConnectAttempt {
+ public:
+  ConnectAttempt(SQLHDBC connection, std::string connectString)
+      : connection_(connection), connectString_(std::move(connectString)) {}
+
+  void Run() {
+    const SQLRETURN result =
+        SQLDriverConnect(connection_, nullptr, reinterpret_cast<SQLCHAR*>(connectString_.data()),
+                         SQL_NTS, nullptr, 0, nullptr, SQL_DRIVER_NOPROMPT);
+    const std::lock_guard<std::mutex> lock(mutex_);
+    if (abandoned_) {
+      if (SQL_SUCCEEDED(result)) SQLDisconnect(connection_);
+      SQLFreeHandle(SQL_HANDLE_DBC, connection_);
+    }
+    result_ = result;
+    done_ = true;
+    finished_.notify_all();
+  }
+
+  /// False when the attempt has not come back in time; the connection is then its own to free.
+  bool WaitUntil(std::chrono::seconds limit) {
+    std::unique_lock<std::mutex> lock(mutex_);
+    abandoned_ = !finished_.wait_for(lock, limit, [this] { return done_; });
+    return !abandoned_;
+  }
+  SQLRETURN Result() const { return result_; }
+
+ private:
+  SQLHDBC connection_;
+  std::string connectString_;
+  std::mutex mutex_;
+  std::condition_variable finished_;
+  SQLRETURN result_ = SQL_ERROR;
+  bool done_ = false;
+  bool abandoned_ = false;
+};
+
 }  // namespace
 
 OdbcConnection::OdbcConnection() {
@@ -59,15 +101,18 @@ OdbcConnection::OdbcConnection() {
 
 OdbcConnection::~OdbcConnection() {
   Disconnect();
-  SQLFreeHandle(SQL_HANDLE_DBC, handle_);
+  if (handle_ != SQL_NULL_HDBC) SQLFreeHandle(SQL_HANDLE_DBC, handle_);
 }
 
 bool OdbcConnection::Connect(const std::string& connectString, std::string& errorText) {
-  std::string text = connectString;
-  const SQLRETURN result =
-      SQLDriverConnect(handle_, nullptr, reinterpret_cast<SQLCHAR*>(text.data()), SQL_NTS, nullptr,
-                       0, nullptr, SQL_DRIVER_NOPROMPT);
-  if (!SQL_SUCCEEDED(result)) {
+  const auto attempt = std::make_shared<ConnectAttempt>(handle_, connectString);
+  std::thread([attempt] { attempt->Run(); }).detach();
+  if (!attempt->WaitUntil(std::chrono::seconds(ConnectTimeout() + 1))) {
+    handle_ = SQL_NULL_HDBC;  // the attempt frees it whenever it comes back
+    errorText = "데이터서버가 응답하지 않습니다.";
+    return false;
+  }
+  if (!SQL_SUCCEEDED(attempt->Result())) {
     errorText = Diagnostics(SQL_HANDLE_DBC, handle_);
     return false;
   }
@@ -101,7 +146,7 @@ OdbcConnection* ConnectionTo(const std::string& connectString, std::string& erro
 bool OdbcConnection::Prepare(std::string& errorText) {
   // The statements group by less than they select, store "0000-00-00" as a date, and quote texts
   // with single quotes in which a backslash escapes; and nobody waits for a lock for ever.
-  static const std::string settings =
+  const std::string settings =
       "SET innodb_lock_wait_timeout=" + std::to_string(LockWait()) +
       ", sql_mode=REPLACE(REPLACE(REPLACE(REPLACE(REPLACE(@@sql_mode,'ONLY_FULL_GROUP_BY',''),"
       "'NO_ZERO_IN_DATE',''),'NO_ZERO_DATE',''),'NO_BACKSLASH_ESCAPES',''),'ANSI_QUOTES','')";

@@ -120,6 +120,10 @@ void TextColumn::FindAll(const TextMatch& match, std::vector<std::uint32_t>& row
     const size_t hit = search.Next(arena_, from);
     if (hit == ByteSearch::npos) return;
     const size_t place = hit + (match.fromStart ? 1 : 0);  // where the needle itself begins
+    if (place == 0) {  // a needle that begins with the separator byte met the first border
+      from = 1;
+      continue;
+    }
     if (uniform_) {
       row = static_cast<std::uint32_t>((place - 1) / (commonLength_ + 1));
       start = Start(row);

@@ -76,8 +76,7 @@ const char* const kSmall = "small";
 }  // namespace
 
 PrivateServer::PrivateServer() : port_(FreePort()) {
-  folder_ = (std::filesystem::temp_directory_path() /
-             ("store_test_" + std::to_string(getpid())))
+  folder_ = (std::filesystem::temp_directory_path() / ("store_test_" + std::to_string(getpid())))
                 .string();
   setenv("DEMO_DATA", STORE_DEMO_DATA, 1);
 }

@@ -14,7 +14,7 @@ class PrivateServer {
 
   void Start();  ///< Also again after `Stop` or `Kill`; the data stays.
   void Stop();
-  void Kill();   ///< SIGKILL, as when the machine loses its power.
+  void Kill();  ///< SIGKILL, as when the machine loses its power.
   int Port() const { return port_; }
   /// What a data server option names: "127.0.0.1;PORT=...".
   std::string ServerOption() const;

@@ -1,0 +1,153 @@
+// From the board into the order and receipt forms.
+#include "forms/host.h"
+#include "session/options_record.h"
+#include "tests/board/board_test.h"
+
+namespace store {
+namespace {
+
+using Texts = std::vector<std::string>;
+
+class BoardOpens : public BoardTest {
+ protected:
+  BoardOpens() {
+    ShowMay();
+    host.FormsShown.clear();
+  }
+  /// The receipt form comes up modally for that slip.
+  void ExpectReceipt(const std::string& slipId) {
+    host.OnModal("frm_PE_UNIT", [slipId](Form& form) {
+      EXPECT_EQ(dynamic_cast<SlipForm&>(form).SlipId, slipId);
+      EXPECT_EQ(dynamic_cast<SlipForm&>(form).SlipTable, "PEM23");
+    });
+  }
+};
+
+TEST_F(BoardOpens, NothingOnAClickBesideTheConfirmColumn) {
+  Click(kConfirmed);
+  EXPECT_EQ(board.SelectedSlipId, kConfirmed);
+  EXPECT_EQ(board.SelectedSlipState, "발주확정");
+  Click(kShipped, col::Total);
+  EXPECT_EQ(board.SelectedSlipId, kShipped);
+  EXPECT_EQ(board.SelectedSlipState, "물류출고");
+  EXPECT_EQ(host.FormsShown, Texts{});
+  board.Image1_Click(3);
+  EXPECT_EQ(board.SelectedSlipId, kShipped);
+}
+
+TEST_F(BoardOpens, AnOrderInTheFormOfTheOrderType) {
+  const struct {
+    int type;
+    const char* form;
+  } cases[] = {{0, "frm_Order"}, {1, "frm_Order02"}, {2, "frm_Order01"}, {3, "frm_Order03"}};
+  for (const auto& c : cases) {
+    for (const std::string& slip : {kEditing, kConfirmed}) {
+      SCOPED_TRACE(testing::Message() << c.form << ", " << slip);
+      AppOptions.OrderType = static_cast<std::int16_t>(c.type);
+      host.FormsShown.clear();
+      Click(slip, col::Confirm);
+      EXPECT_EQ(host.FormsShown, (Texts{c.form}));
+      EXPECT_EQ(Opened(c.form).SlipId, slip);
+      EXPECT_EQ(Opened(c.form).SlipTable, "PEM22");
+      EXPECT_EQ(Opened(c.form).NoPriceMode, 0);
+    }
+  }
+}
+
+TEST_F(BoardOpens, AnOrderByADoubleClickAnywhereAndByEnter) {
+  PointAt(kEditing, 2);
+  board.FLEX1_DblClick();
+  EXPECT_EQ(Opened("frm_Order").SlipId, kEditing);
+  PointAt(kConfirmed, 2);
+  board.FLEX1_KeyDown(Key::Enter);
+  EXPECT_EQ(Opened("frm_Order").SlipId, kConfirmed);
+  EXPECT_EQ(board.SelectedSlipId, kConfirmed);
+}
+
+TEST_F(BoardOpens, ASlipThatHeadOfficeHasMovedAsAReceiptAndRefreshes) {
+  for (const std::string& slip : {kApproved, kShipped}) {
+    ExpectReceipt(slip);
+    Sql("DELETE FROM PEM22 WHERE PE_ID='" + slip + "'");  // as if it were received
+    Click(slip, col::Confirm);
+    EXPECT_EQ(Slips().size(), slip == kApproved ? 3u : 2u);
+  }
+  EXPECT_FALSE(IsOpen("frm_Order"));
+}
+
+TEST_F(BoardOpens, NothingFromTheHeaderAndNothingForAnUnknownOrderType) {
+  board.FLEX1.Select(0, col::Confirm);
+  board.FLEX1_Click();
+  board.FLEX1_DblClick();
+  EXPECT_EQ(board.SelectedSlipId, "");
+  AppOptions.OrderType = 4;
+  Click(kEditing, col::Confirm);
+  board.Image1_Click(0);
+  AppOptions.OrderType = -1;
+  board.Image1_Click(1);
+  EXPECT_EQ(host.FormsShown, Texts{});
+}
+
+TEST_F(BoardOpens, ANewOrderWithOrWithoutPrices) {
+  for (const int button : {0, 1}) {
+    AppOptions.OrderType = static_cast<std::int16_t>(button + 2);
+    const char* form = button == 0 ? "frm_Order01" : "frm_Order03";
+    Click(kEditing);
+    board.Image1_Click(button);
+    EXPECT_EQ(Opened(form).NoPriceMode, button);
+    EXPECT_EQ(Opened(form).SlipTable, "PEM22");
+    EXPECT_EQ(Opened(form).SlipId, "") << "a selected slip has no part in a new order";
+  }
+}
+
+TEST_F(BoardOpens, AFreshFormUnlessThereIsWorkInIt) {
+  Click(kEditing, col::Confirm);
+  board.Image1_Click(1);  // nothing was entered: the form is used anew
+  EXPECT_EQ(Opened("frm_Order").SlipId, "");
+  EXPECT_EQ(Opened("frm_Order").NoPriceMode, 1);
+
+  StandInForm& form = Opened("frm_Order");
+  form.Work = true;
+  host.FormsShown.clear();
+  Click(kConfirmed, col::Confirm);
+  board.Image1_Click(0);
+  EXPECT_EQ(&Opened("frm_Order"), &form);
+  EXPECT_EQ(form.SlipId, "");
+  EXPECT_EQ(form.NoPriceMode, 1);
+  EXPECT_EQ(host.FormsShown, (Texts{"frm_Order", "frm_Order"})) << "it comes forward instead";
+}
+
+TEST_F(BoardOpens, AnySlipByItsNumberAsAReceipt) {
+  // The neighbour's slip and one in editing among them: the receipt form has the last word.
+  for (const std::string& slip :
+       {kShipped, kEditing, kReceived, std::string("202405171002u09220001")}) {
+    ExpectReceipt(slip);
+    board.Text2.SetText(" " + slip + " ");
+    board.Text2_KeyPress(Key::Enter);
+    EXPECT_EQ(board.Text2.Text(), "");
+    EXPECT_EQ(board.SelectedSlipId, slip);
+    EXPECT_EQ(board.SelectedSlipState, "물류출고");
+  }
+  board.Text2.SetText(kShipped);
+  board.Text2_KeyPress(Key::Tab);
+  EXPECT_EQ(board.Text2.Text(), kShipped);
+}
+
+TEST_F(BoardOpens, NoSlipForANumberThatIsNone) {
+  for (const char* text : {"", "99", "202405151001u0222000", "x'"}) {
+    SCOPED_TRACE(text);
+    Click(kEditing);
+    host.ExpectBox(
+        "해당전표는 [본부승인] 또는 [물류출고]완료되지 않은 전표이거나 \r\r 전표를 찾을 수 "
+        "없습니다.");
+    board.Text2.SetText(text);
+    board.Text2_KeyPress(Key::Enter);
+    EXPECT_EQ(host.Boxes.at(host.Boxes.size() - 1).Title, "전표확인");
+    EXPECT_EQ(host.Boxes.at(host.Boxes.size() - 1).Style, box::Critical);
+    EXPECT_EQ(board.Text2.Text(), "");
+    EXPECT_EQ(board.SelectedSlipId, "");
+  }
+  EXPECT_EQ(host.FormsShown, Texts{});
+}
+
+}  // namespace
+}  // namespace store

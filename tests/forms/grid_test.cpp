@@ -1,0 +1,87 @@
+#include "forms/grid.h"
+
+#include <gtest/gtest.h>
+
+namespace store {
+namespace {
+
+class GridTest : public testing::Test {
+ protected:
+  GridTest() {
+    grid.SetColumns({{.Header = "가"}, {.Header = "나"}, {.Header = "다"}});
+    grid.RowColChange = [this] { ++moves; };
+  }
+  std::string Column(int col) const {
+    std::string joined;
+    for (int row = 1; row < grid.Rows(); ++row) joined += grid.TextMatrix(row, col) + ";";
+    return joined;
+  }
+  Grid grid;
+  int moves = 0;
+};
+
+TEST_F(GridTest, TakesTabJoinedRowsAndDropsWhatHasNoColumn) {
+  grid.AddItem("1\t2\t3\t4");
+  grid.AddItem("5", 1);
+  grid.AddItem("6\t\t7", 99);
+  EXPECT_EQ(Column(0), "5;1;6;");
+  EXPECT_EQ(Column(1), ";2;;");
+  EXPECT_EQ(Column(2), ";3;7;");
+  EXPECT_EQ(grid.TextMatrix(0, 1), "나");
+  EXPECT_EQ(grid.TextMatrix(9, 9), "");
+}
+
+TEST_F(GridTest, ForgetsTheCurrentRowWhenItIsCutOff) {
+  for (int i = 0; i < 3; ++i) grid.AddItem(std::to_string(i));
+  grid.SetRow(3);
+  grid.RemoveItem(3);
+  EXPECT_EQ(grid.Row(), 2);
+  grid.RemoveItem(1);
+  grid.RemoveItem(1);
+  EXPECT_EQ(grid.Row(), 0);
+  grid.AddItem("x");
+  grid.SetRow(1);
+  grid.SetRows(1);
+  EXPECT_EQ(grid.Row(), 0);
+  EXPECT_EQ(grid.Rows(), 1);
+}
+
+TEST_F(GridTest, TellsOnlyRealMovesOfTheCurrentCell) {
+  grid.AddItem("1");
+  grid.SetRow(1);
+  grid.SetRow(1);
+  grid.SetRow(7);
+  grid.Select(1, 2);
+  grid.Select(1, 3);
+  EXPECT_EQ(moves, 2);
+}
+
+TEST_F(GridTest, MovesItsRevisionOnEveryChangeOfWhatIsShown) {
+  grid.AddItem("1");
+  const std::vector<std::function<void()>> changes = {
+      [&] { grid.SetTextMatrix(1, 0, "2"); },
+      [&] { grid.SetBackColor(1, 0, 0xFFFF00); },
+      [&] { grid.SetRowHidden(1, true); },
+      [&] { grid.Column(1).Width = 5; },
+      [&] { grid.AddItem("3"); },
+      [&] { grid.RemoveItem(1); },
+      [&] { grid.SetRows(5); },
+  };
+  for (size_t i = 0; i < changes.size(); ++i) {
+    const unsigned before = grid.Revision();
+    changes[i]();
+    EXPECT_NE(grid.Revision(), before) << "change " << i;
+  }
+}
+
+TEST_F(GridTest, LooksTravelWithTheirRow) {
+  grid.AddItem("1");
+  grid.SetLook(1, 2, {.BackColor = 0xFFFF00, .Bold = true});
+  grid.AddItem("0", 1);
+  EXPECT_EQ(grid.Look(1, 2).BackColor, -1);
+  EXPECT_EQ(grid.Look(2, 2).BackColor, 0xFFFF00);
+  EXPECT_TRUE(grid.Look(2, 2).Bold);
+}
+
+}  // namespace
+}  // namespace store

@@ -1,0 +1,82 @@
+#include "slips/slip_keys.h"
+
+#include "tests/support/small_store_test.h"
+
+namespace store {
+namespace {
+
+class SlipKeys : public SmallStoreTest {
+ protected:
+  /// Keys carry the database's day, not the one of the workstation.
+  const std::string today = Value("SELECT date_format(now(),'%Y%m%d')");
+
+  void AddSlip(const std::string& table, const std::string& key) {
+    Sql("INSERT INTO " + table +
+        " (PE_ID,PE_CK,PE_PDATE,PE_SDATE,PE_FCTCODE,PE_TCTCODE) VALUES ('" + key +
+        "','0','2024-05-17',now(),'','')");
+  }
+};
+
+TEST_F(SlipKeys, BeginAtOneEachDay) {
+  AddSlip("PEM22", "200001011001u01220099");
+  EXPECT_EQ(NextSlipId("PEM22"), today + "1001u01220001");
+  EXPECT_EQ(SlipSeqCounter, 1);
+  EXPECT_EQ(SlipKeyPrefix, today + "1001");
+}
+
+TEST_F(SlipKeys, FollowTheHighestOfTheStoreWhoeverWroteIt) {
+  AddSlip("PEM22", today + "1001u01220007");
+  AddSlip("PEM22", today + "1001u02220042");
+  AddSlip("PEM22", today + "1002u09220300");
+  AddSlip("PEM23", today + "1001u01230500");
+  EXPECT_EQ(NextSlipId("PEM22"), today + "1001u01220043");
+}
+
+TEST_F(SlipKeys, CountOnInMemoryForEveryKind) {
+  AddSlip("PEM22", today + "1001u01220042");
+  AddSlip("PEM23", today + "1001u01230500");
+  NextSlipId("PEM22");
+  Disconnect();  // a read would fail now
+  EXPECT_EQ(NextSlipId("PEM23"), today + "1001u01230044");
+  EXPECT_EQ(NextSlipId("PES13"), today + "1001u01130045");
+  EXPECT_EQ(SlipSeqCounter, 45);
+}
+
+TEST_F(SlipKeys, HaveNoDateAndUseUpNoNumberWhenTheReadFails) {
+  Disconnect();
+  EXPECT_EQ(NextSlipId("PEM22"), "0001");
+  EXPECT_EQ(NextStockCountId(), "0001");
+  EXPECT_EQ(SlipSeqCounter, 0);
+  Reconnect();
+  EXPECT_EQ(NextSlipId("PEM22"), today + "1001u01220001");
+}
+
+TEST_F(SlipKeys, PrintAllDigitsAndStopAtTheEndOf16Bits) {
+  SlipKeyPrefix = "202405171001";
+  SlipSeqCounter = 9999;
+  EXPECT_EQ(NextSlipId("PEM22"), "202405171001u012210000");
+  SlipSeqCounter = 32766;
+  EXPECT_EQ(NextSlipId("PEM22"), "202405171001u012232767");
+  EXPECT_EQ(NextSlipId("PEM22"), "202405171001u012232767");
+}
+
+TEST_F(SlipKeys, OfAStoreWhoseCodeBeginsAnothersFollowBoth) {
+  Session.StoreCode = "100";
+  AddSlip("PEM22", today + "1000u05220042");
+  EXPECT_EQ(NextSlipId("PEM22"), today + "100u01220043");
+  EXPECT_EQ(SlipKeyPrefix, today + "100");
+}
+
+TEST_F(SlipKeys, OfStockCountsHaveNoKindAndLeaveTheCounterAlone) {
+  SlipSeqCounter = 5;
+  SlipKeyPrefix = "202405171001";
+  EXPECT_EQ(NextStockCountId(), today + "1001u010001");
+  Sql("INSERT INTO ME (ME_ID,ME_CK,ME_GU,ME_IO,ME_PDATE,ME_SDATE,ME_FCTCODE) VALUES ('" + today +
+      "1001u020041','1','82','I','2024-05-17',now(),'1001')");
+  EXPECT_EQ(NextStockCountId(), today + "1001u010042");
+  EXPECT_EQ(SlipSeqCounter, 5);
+  EXPECT_EQ(SlipKeyPrefix, "202405171001");
+}
+
+}  // namespace
+}  // namespace store
