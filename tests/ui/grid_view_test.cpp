@@ -1,0 +1,215 @@
+#include "ui/grid_view.h"
+
+#include <QHeaderView>
+#include <QtTest>
+
+#include "tests/ui/probe_form.h"
+#include "ui/desk.h"
+
+namespace store {
+namespace {
+
+class GridViewTest : public DeskTest {
+ protected:
+  void SetUp() override {
+    DeskTest::SetUp();
+    for (const char* row : {"우유\t1", "콜라\t2", "라면\t3"}) form_.FLEX1.AddItem(row);
+    window_ = &Open(form_);
+    view_ = &FindGrid(*window_, "FLEX1");
+    view_->Events.KeyPress = [this](const std::string& text) { typed_ += text; };
+    view_->Events.AfterEdit = [this](int row, int col) { edited_ = {row, col}; };
+    view_->setFocus();
+  }
+
+  /// Row 1 is current and its second column may be edited.
+  void MakeEditable() {
+    Dispatch([this] {
+      form_.FLEX1.EditableColumn = 1;
+      form_.FLEX1.Select(1, 0);
+    });
+  }
+  /// As a person at the keyboard: into whatever has the keyboard now.
+  void Press(Qt::Key key) { QTest::keyClick(window_->focusWidget(), key); }
+  void Type(const char* text) {
+    for (; *text != '\0'; ++text) QTest::keyClick(window_->focusWidget(), *text);
+  }
+  bool CellIsOpen() const { return view_->IsOpenCell(*window_->focusWidget()); }
+  std::string Held(int row) const { return form_.FLEX1.TextMatrix(row, 1); }
+  void ClickCell(int row, int column) {
+    QTest::mouseClick(view_->viewport(), Qt::LeftButton, {},
+                      view_->visualRect(view_->model()->index(row, column)).center());
+  }
+
+  ProbeForm form_;
+  FormWindow* window_ = nullptr;
+  GridView* view_ = nullptr;
+  std::string typed_;
+  std::pair<int, int> edited_{0, 0};
+};
+
+TEST_F(GridViewTest, CurrentCellBothWays) {
+  EXPECT_FALSE(view_->currentIndex().isValid())
+      << "getting the keyboard makes no row current: a key might delete it";
+  Press(Qt::Key_Down);
+  EXPECT_EQ(form_.FLEX1.Row(), 1);
+  Press(Qt::Key_Down);
+  Press(Qt::Key_Right);
+  EXPECT_EQ(form_.FLEX1.Row(), 2);
+  EXPECT_EQ(form_.FLEX1.Col(), 1);
+  Dispatch([this] { form_.FLEX1.Select(3, 0); });
+  EXPECT_EQ(view_->currentIndex(), view_->model()->index(2, 0));
+  Dispatch([this] { form_.FLEX1.SetRows(1); });
+  EXPECT_FALSE(view_->currentIndex().isValid());
+}
+
+TEST_F(GridViewTest, AHiddenCurrentColumnCanBeWalkedFrom) {
+  Dispatch([this] {
+    form_.FLEX1.Column(0).Hidden = true;
+    form_.FLEX1.Select(1, 0);
+  });
+  EXPECT_TRUE(view_->isColumnHidden(0));
+  Press(Qt::Key_Down);
+  EXPECT_EQ(form_.FLEX1.Row(), 2);
+}
+
+TEST_F(GridViewTest, HiddenRowsAreNotSeen) {
+  Dispatch([this] { form_.FLEX1.SetRowHidden(2, true); });
+  EXPECT_TRUE(view_->isRowHidden(1));
+  EXPECT_FALSE(view_->isRowHidden(2));
+  Dispatch([this] { form_.FLEX1.SetRowHidden(2, false); });
+  EXPECT_FALSE(view_->isRowHidden(1));
+}
+
+TEST_F(GridViewTest, ClickAndDoubleClick) {
+  std::vector<std::string> events;
+  view_->Events.Click = [&] { events.push_back("click " + std::to_string(form_.FLEX1.Row())); };
+  view_->Events.DblClick = [&] { events.emplace_back("double"); };
+  view_->Events.Walk = [&] { events.push_back("walk " + std::to_string(form_.FLEX1.Row())); };
+  ClickCell(1, 1);
+  EXPECT_EQ(form_.FLEX1.Col(), 1);
+  Press(Qt::Key_Down);
+  ClickCell(0, 0);
+  QTest::mouseDClick(view_->viewport(), Qt::LeftButton, {},
+                     view_->visualRect(view_->model()->index(0, 0)).center());
+  EXPECT_EQ(events.front(), "click 2");
+  EXPECT_NE(std::find(events.begin(), events.end(), "walk 3"), events.end());
+  EXPECT_NE(std::find(events.begin(), events.end(), "double"), events.end());
+}
+
+TEST_F(GridViewTest, TypedTextGoesToTheForm) {
+  Type("8");
+  QInputMethodEvent composing(QStringLiteral("ㅇ"), {});
+  QCoreApplication::sendEvent(view_, &composing);
+  QInputMethodEvent committed;
+  committed.setCommitString(QStringLiteral("우"));
+  QCoreApplication::sendEvent(view_, &committed);
+  EXPECT_EQ(typed_, "8우") << "what the input method is still putting together is not typed yet";
+}
+
+TEST_F(GridViewTest, TypingOpensTheEditableCell) {
+  MakeEditable();
+  Type("12");
+  EXPECT_TRUE(CellIsOpen());
+  EXPECT_EQ(Held(1), "1") << "nothing is taken over before it is finished";
+  Press(Qt::Key_Enter);
+  EXPECT_EQ(Held(1), "12");
+  EXPECT_EQ(edited_, std::make_pair(1, 1));
+  EXPECT_EQ(form_.FLEX1.Row(), 2) << "on to the next quantity";
+  EXPECT_TRUE(view_->hasFocus());
+  EXPECT_EQ(typed_, "");
+}
+
+TEST_F(GridViewTest, EscapeLeavesTheCellAndNotTheForm) {
+  bool formSawEscape = false;
+  form_.OnKeyDown = [&](Key key) { return formSawEscape = key == Key::Escape; };
+  MakeEditable();
+  Type("12");
+  Press(Qt::Key_Escape);
+  EXPECT_EQ(Held(1), "1");
+  EXPECT_FALSE(formSawEscape);
+  EXPECT_EQ(edited_, std::make_pair(0, 0));
+  Press(Qt::Key_Escape);
+  EXPECT_TRUE(formSawEscape);
+}
+
+TEST_F(GridViewTest, ARefusedEntryStaysInFront) {
+  view_->Events.AfterEdit = [this](int row, int col) { form_.FLEX1.SetTextMatrix(row, col, ""); };
+  MakeEditable();
+  Type("9999999");
+  Press(Qt::Key_Enter);
+  EXPECT_EQ(Held(1), "");
+  EXPECT_EQ(form_.FLEX1.Row(), 1);
+}
+
+TEST_F(GridViewTest, TheFormMayKeepACellClosed) {
+  view_->Events.BeforeEdit = [](int row, int) { return row != 1; };
+  MakeEditable();
+  Type("5");
+  EXPECT_FALSE(CellIsOpen());
+  Press(Qt::Key_Down);
+  Type("5");
+  EXPECT_TRUE(CellIsOpen());
+}
+
+// A quantity that was typed and not confirmed would otherwise be missing from the saved order.
+TEST_F(GridViewTest, ASaveKeyTakesTheOpenCellOverFirst) {
+  MakeEditable();
+  std::string heldAtSave;
+  form_.OnCommand1 = [&] { heldAtSave = Held(1); };
+  Type("24");
+  Press(Qt::Key_F9);
+  EXPECT_EQ(heldAtSave, "24");
+  EXPECT_FALSE(CellIsOpen());
+}
+
+TEST_F(GridViewTest, LeavingTheGridTakesTheOpenCellOverOnce) {
+  int edits = 0;
+  view_->Events.AfterEdit = [&](int, int) { ++edits; };
+  MakeEditable();
+  Type("24");
+  Find<QLineEdit>(*window_, "Text1").setFocus();
+  EXPECT_EQ(Held(1), "24");
+  EXPECT_EQ(edits, 1);
+}
+
+TEST_F(GridViewTest, ACheckColumnIsTicked) {
+  Dispatch([this] {
+    form_.FLEX1.SetColumns({{.Header = "품명"}, {.Header = "S", .CheckBox = true}});
+    form_.FLEX1.AddItem("우유");
+  });
+  ClickCell(0, 1);
+  EXPECT_EQ(Held(1), "-1");
+  Press(Qt::Key_Space);
+  EXPECT_EQ(Held(1), "0");
+}
+
+TEST_F(GridViewTest, AWholeItemListFillsWithoutMeasuringRows) {
+  constexpr int kItems = 20000;
+  QSignalSpy resets(view_->model(), &QAbstractItemModel::modelReset);
+  Dispatch([this] {
+    for (int i = 0; i < kItems; ++i) form_.FLEX1.AddItem("품목\t" + std::to_string(i));
+  });
+  EXPECT_EQ(resets.count(), 1);
+  EXPECT_EQ(view_->model()->rowCount(), kItems + 3);
+  EXPECT_EQ(view_->verticalHeader()->sectionResizeMode(kItems), QHeaderView::Fixed);
+  Dispatch([this] { form_.FLEX1.Select(kItems, 0); });
+  EXPECT_TRUE(view_->viewport()->rect().intersects(view_->visualRect(view_->currentIndex())))
+      << "the current row is scrolled to";
+  EXPECT_FALSE(window_->grab().isNull());
+}
+
+TEST_F(GridViewTest, TheGridFillsItsWidth) {
+  for (const int width : {400, 900}) {
+    window_->resize(width, 500);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(view_->columnWidth(0) + view_->columnWidth(1), view_->viewport()->width());
+  }
+  Dispatch([this] { form_.FLEX1.SetTextMatrix(1, 1, "123456789012"); });
+  window_->resize(230, 500);
+  QCoreApplication::processEvents();
+  EXPECT_GE(view_->columnWidth(1), view_->fontMetrics().horizontalAdvance("123,456,789,012"))
+      << "money is never cut";
+}
+
+}  // namespace
+}  // namespace store

@@ -1,0 +1,108 @@
+// The order form in its window, as far as no database is needed.
+#include <QLabel>
+#include <QPushButton>
+#include <QtTest>
+
+#include "forms/host.h"
+#include "order/order_form.h"
+#include "tests/ui/probe_form.h"
+#include "ui/desk.h"
+#include "ui/grid_view.h"
+#include "ui/store_windows.h"
+
+namespace store {
+namespace {
+
+class OrderWindowTest : public DeskTest {
+ protected:
+  void SetUp() override {
+    DeskTest::SetUp();
+    RegisterStoreWindows();
+    Host.Show(form_);
+    window_ = TheDesk().WindowOf(form_);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window_));
+    // The first activation gives the keyboard to the supplier.
+    ASSERT_TRUE(QTest::qWaitFor([this] { return form_.ActiveControl == &form_.Text1; }));
+    Dispatch([this] {
+      form_.FLEX1.AddItem("\t1000001\t8801\r 우유\t\t0\t1000\t\t5\t5000\t500\t5500");
+      form_.FLEX1.AddItem("\t1000002\t8802\r 콜라\t\t0\t2000\t\t1\t2000\t200\t2200");
+      form_.FLEX1.SetRow(1);
+    });
+  }
+  void TearDown() override {
+    TheDesk().CloseWindow(form_);
+    DeskTest::TearDown();
+  }
+  QLineEdit& Box() { return Find<QLineEdit>(*window_, "inBox"); }
+
+  OrderForm form_{BasicOrderType()};
+  FormWindow* window_ = nullptr;
+};
+
+TEST_F(OrderWindowTest, TypingOnTheLinesIsTypingInTheBox) {
+  GridView& lines = FindGrid(*window_, "FLEX1");
+  Dispatch([this] { form_.inBox.SetText("그전"); });
+  lines.setFocus();
+  QTest::keyClick(&lines, Qt::Key_8);
+  EXPECT_TRUE(Box().hasFocus());
+  QTest::keyClicks(window_->focusWidget(), "801");
+  EXPECT_EQ(form_.inBox.Text(), "8801") << "a scanner's first digit must not be lost or selected";
+}
+
+TEST_F(OrderWindowTest, TheBoxWalksAndDeletesInTheLines) {
+  Box().setFocus();
+  QTest::keyClick(&Box(), Qt::Key_Down);
+  EXPECT_EQ(form_.FLEX1.Row(), 2);
+  EXPECT_TRUE(FindGrid(*window_, "FLEX1").hasFocus());
+  QTest::keyClick(window_->focusWidget(), Qt::Key_Delete);
+  EXPECT_EQ(form_.FLEX1.Rows(), 2);
+  EXPECT_EQ(form_.LaAmt[1].Caption, "5500");
+  EXPECT_EQ(Find<QLabel>(*window_, "LaAmt_1").text(), "5500");
+}
+
+TEST_F(OrderWindowTest, AShortNumberSetsTheQuantityOfTheCurrentLine) {
+  Dispatch([this] {
+    form_.Text1.Tag = "10006";
+    form_.Text1.Change = nullptr;
+    form_.Text1.SetText("참나무커피");
+  });
+  Box().setFocus();
+  QTest::keyClicks(&Box(), "12");
+  QTest::keyClick(&Box(), Qt::Key_Enter);
+  EXPECT_EQ(form_.FLEX1.TextMatrix(1, 7), "12");
+  EXPECT_EQ(Box().text(), "");
+  EXPECT_EQ(FindGrid(*window_, "FLEX1").model()->index(0, 8).data().toString(), "12,000");
+}
+
+TEST_F(OrderWindowTest, AStoredSlipCannotBeSavedByItsKey) {
+  bool boxShown = false;
+  Host.MsgBox = [&](const std::string&, int, const std::string&) {
+    boxShown = true;
+    return box::Ok;
+  };
+  Dispatch([this] { form_.LaBtn[0].Enabled = form_.LaBtn[1].Enabled = false; });
+  QTest::keyClick(window_->focusWidget(), Qt::Key_F9);
+  QTest::keyClick(window_->focusWidget(), Qt::Key_F9, Qt::ShiftModifier);
+  EXPECT_FALSE(boxShown) << "a save without a date in its key ends in a box";
+  Dispatch([this] { form_.LaBtn[0].Enabled = true; });
+  QTest::keyClick(window_->focusWidget(), Qt::Key_F9);
+  EXPECT_TRUE(boxShown);
+}
+
+TEST_F(OrderWindowTest, TheHistoryIsSeenWhenTheFormShowsIt) {
+  auto& history = Find<QWidget>(*window_, "PRGHP");
+  EXPECT_FALSE(history.isVisible());
+  Dispatch([this] { form_.PRGHP.Visible = true; });
+  EXPECT_TRUE(history.isVisible());
+  const int wide = history.sizeHint().height();
+  QTest::keyClick(window_->focusWidget(), Qt::Key_F5);
+  EXPECT_LT(history.sizeHint().height(), wide) << "narrow, it is out of the way";
+}
+
+TEST_F(OrderWindowTest, NothingIsCutOnASmallScreen) {
+  EXPECT_LE(window_->minimumSizeHint().width(), 960);
+  EXPECT_LE(window_->minimumSizeHint().height(), 540);
+}
+
+}  // namespace
+}  // namespace store

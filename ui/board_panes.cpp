@@ -1,0 +1,161 @@
+// What stands below the board: notices, the partner of a slip, its conditions.
+#include <QFrame>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QVBoxLayout>
+#include <array>
+
+#include "board/frm_Start.h"
+#include "ui/bindings.h"
+#include "ui/board_window.h"
+#include "ui/grid_view.h"
+#include "ui/key_button.h"
+#include "ui/layout_pieces.h"
+
+namespace store {
+namespace {
+
+/// A value of a pane: its caption and its label's index in the form.
+struct Place {
+  const char* Caption;
+  size_t Index;
+};
+
+/// In the order in which they are read, two to a line.
+constexpr std::array<Place, 11> kPartner = {{{"발 주 처", 0},
+                                             {"사 업 자", 1},
+                                             {"대 표 자", 4},
+                                             {"담 당 자", 7},
+                                             {"전    화", 2},
+                                             {"팩    스", 3},
+                                             {"휴 대 폰", 5},
+                                             {"휴 대 폰", 8},
+                                             {"메    일", 6},
+                                             {"메    일", 9},
+                                             {"주    소", 10}}};
+constexpr std::array<Place, 8> kConditions = {{{"결제조건", 0},
+                                               {"납 기 일", 1},
+                                               {"유 효 일", 6},
+                                               {"납품장소", 2},
+                                               {"납품형태", 7},
+                                               {"참   조1", 3},
+                                               {"참   조1", 4},
+                                               {"참   조1", 5}}};
+constexpr QSize kNoticePane(460, 320);
+constexpr int kPaneMargin = 12;
+
+/// Captions and values, two pairs to a line.
+class PairGrid {
+ public:
+  PairGrid() {
+    grid_->setHorizontalSpacing(6);
+    grid_->setVerticalSpacing(3);
+    grid_->setColumnStretch(1, 1);
+    grid_->setColumnStretch(3, 1);
+  }
+  void Heading(QWidget* heading) { grid_->addWidget(heading, 0, 0, 1, 4); }
+  /// The next pair; the last one of an odd number gets the whole line.
+  void Add(const char* caption, QWidget* value, bool wholeLine) {
+    const int line = 1 + count_ / 2;
+    const int column = count_++ % 2 == 0 ? 0 : 2;
+    grid_->addWidget(CaptionLabel(caption), line, column);
+    grid_->addWidget(value, line, column + 1, 1, wholeLine ? 3 : 1);
+    grid_->setRowStretch(line, 0);
+    grid_->setRowStretch(line + 1, 1);
+  }
+  QLayout* Layout() const { return grid_; }
+
+ private:
+  QGridLayout* grid_ = new QGridLayout;
+  int count_ = 0;
+};
+
+}  // namespace
+
+QWidget* BoardWindow::Notices() {
+  notices_ = new GridView(board_.FLEX0);
+  notices_->Events.DblClick = [this] { board_.FLEX0_DblClick(); };
+  notices_->setMinimumHeight(60);
+  BindGrid(*this, "FLEX0", board_.FLEX0, *notices_);
+  OnKey(board_.FLEX0, [this](Key key) {
+    if (key == Key::Enter) board_.FLEX0_DblClick();
+    return key == Key::Enter;
+  });
+  auto* column = Column();
+  column->addWidget(HeadingLabel("공지사항"));
+  column->addWidget(notices_, 1);
+  return Group("card", column);
+}
+
+QWidget* BoardWindow::PartnerPane() {
+  PairGrid pairs;
+  auto* details = new KeyButton("상세", Qt::Key_F4);
+  auto* heading = Row();
+  heading->setContentsMargins(0, 0, 0, 0);
+  heading->addWidget(HeadingLabel("거래처 정보"));
+  heading->addStretch();
+  heading->addWidget(details);
+  auto* top = new QWidget;
+  top->setLayout(heading);
+  pairs.Heading(top);
+  Bind("Image5", board_.Image5, *details);
+  connect(details, &QPushButton::clicked, this, [this] { Act([this] { board_.Image5_Click(); }); });
+  OnShortcut(details->Keys(), [details] { details->click(); });
+  for (const auto& [caption, index] : kPartner) {
+    QLabel* value = ValueLabel();
+    pairs.Add(caption, value, &caption == &kPartner.back().Caption);
+    BindLabel(*this, QString("LaCT_%1").arg(index), board_.LaCT[index], *value);
+  }
+  return Group("card", pairs.Layout());
+}
+
+QWidget* BoardWindow::ConditionPane() {
+  PairGrid pairs;
+  pairs.Heading(HeadingLabel("거래 조건"));
+  for (const auto& [caption, index] : kConditions) {
+    QLabel* value = ValueLabel();
+    pairs.Add(caption, value, false);
+    BindLabel(*this, QString("LaPM_%1").arg(index), board_.LaPM[index], *value);
+  }
+  return Group("card", pairs.Layout());
+}
+
+void BoardWindow::MakeNoticePane() {
+  auto* subject = new QLineEdit;
+  auto* body = new QPlainTextEdit;
+  QLabel* date = CaptionLabel({});
+  auto* close = new KeyButton("닫기", Qt::Key_Escape);
+  subject->setReadOnly(true);
+  subject->setFocusPolicy(Qt::ClickFocus);
+  auto* top = Row();
+  top->addWidget(subject, 1);
+  top->addWidget(date);
+  auto* column = Column();
+  column->addLayout(top);
+  column->addWidget(body, 1);
+  column->addWidget(close, 0, Qt::AlignRight);
+  noticePane_ = Group("popup", column);
+  noticePane_->setParent(this);
+  noticePane_->setAutoFillBackground(true);
+  BindTextBox(*this, "Text1_0", board_.Text1[0], *subject);
+  BindReadText(*this, "Text1_1", board_.Text1[1], *body);
+  BindLabel(*this, "Label2", board_.Label2, *date);
+  BindPress(*this, "Image3", board_.Image3, *close, [this] { board_.Image3_Click(); });
+  Bind("Frame1", board_.Frame1, *noticePane_, [this] {
+    if (noticePane_->isVisible()) PlaceNoticePane();
+  });
+}
+
+// Over the notices, as far to the left and up as its text wants.
+void BoardWindow::PlaceNoticePane() {
+  if (noticePane_ == nullptr) return;
+  const QPoint corner = notices_->mapTo(this, notices_->rect().bottomLeft());
+  const QSize size(std::min(kNoticePane.width(), width() - 2 * kPaneMargin),
+                   std::min(kNoticePane.height(), height() - 2 * kPaneMargin));
+  noticePane_->setGeometry(corner.x(), corner.y() - size.height(), size.width(), size.height());
+  noticePane_->raise();
+}
+
+}  // namespace store

@@ -1,0 +1,208 @@
+#include "ui/desk.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QDateEdit>
+#include <QEventLoop>
+#include <QKeyEvent>
+#include <QPointer>
+#include <QTimer>
+#include <algorithm>
+
+#include "forms/open_forms.h"
+#include "ui/form_window.h"
+#include "ui/window_registry.h"
+
+namespace store {
+
+/// Counts the event as running for as long as it lives.
+class Desk::RunningEvent {
+ public:
+  explicit RunningEvent(Desk& desk) : desk_(desk) { ++desk_.depth_; }
+  ~RunningEvent() {
+    --desk_.depth_;
+    desk_.FreeClosed();
+  }
+  RunningEvent(const RunningEvent&) = delete;
+  RunningEvent& operator=(const RunningEvent&) = delete;
+
+ private:
+  Desk& desk_;
+};
+
+Desk::Desk(QObject* application) : QObject(application) {
+  application->installEventFilter(this);
+  connect(qApp, &QApplication::focusChanged, this,
+          [this](QWidget* from, QWidget* to) { FocusMoved(from, to); });
+}
+
+Desk::~Desk() = default;
+
+void Desk::Run(const std::function<void()>& event) {
+  const RunningEvent running(*this);
+  event();
+  SyncWindows();
+}
+
+void Desk::SyncWindows() {
+  // Moving the focus is an event of its own, so bringing windows into line can come back here.
+  if (syncing_) {
+    syncAgain_ = true;
+    return;
+  }
+  syncing_ = true;
+  do {
+    syncAgain_ = false;
+    const std::vector<FormWindow*> windows = open_;
+    for (FormWindow* window : windows) {
+      if (std::find(open_.begin(), open_.end(), window) != open_.end()) window->Sync();
+    }
+  } while (syncAgain_);
+  syncing_ = false;
+}
+
+void Desk::FreeClosed() {
+  if (depth_ > 0) return;
+  if (ending_) {
+    QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection);
+  }
+  if (leaving_.empty()) {
+    ReleaseDroppedForms();
+    return;
+  }
+  // A widget of a closed window may have sent this event and is still on the stack.
+  QTimer::singleShot(0, this, [this] {
+    if (depth_ > 0) return;  // the event that runs now calls again at its end
+    DeleteLeaving();
+    ReleaseDroppedForms();
+  });
+}
+
+void Desk::DeleteLeaving() {
+  for (const FormWindow* window : std::exchange(leaving_, {})) delete window;
+}
+
+FormWindow* Desk::Open(Form& form) {
+  if (FormWindow* window = WindowOf(form)) return window;
+  FormWindow* window = MakeWindow(form);
+  if (window == nullptr) return nullptr;
+  open_.push_back(window);
+  window->TellSize();
+  form.EnsureLoaded();
+  if (form.IsClosed()) return nullptr;
+  window->Sync();
+  window->TakePlace();
+  return window;
+}
+
+void Desk::Show(Form& form) {
+  const RunningEvent running(*this);
+  FormWindow* window = Open(form);
+  if (window == nullptr) return;
+  window->ComeForward();
+}
+
+void Desk::ShowModal(Form& form) {
+  const RunningEvent running(*this);
+  const QPointer<FormWindow> window = Open(form);
+  if (window == nullptr) return;
+  SyncWindows();
+  QEventLoop loop;
+  const QPointer<QWidget> owner = FrontWindow();
+  window->RunsIn(&loop, owner);
+  window->ComeForward();
+  loop.exec();
+  // The form may lie on its caller's stack, so its window must be gone when the caller goes on.
+  std::erase(leaving_, window.data());
+  std::erase(open_, window.data());
+  delete window;
+  if (owner != nullptr && owner->isVisible()) owner->activateWindow();
+}
+
+void Desk::Hide(Form& form) {
+  if (FormWindow* window = WindowOf(form)) window->hide();
+}
+
+void Desk::Minimize(Form& form) {
+  if (FormWindow* window = WindowOf(form)) window->showMinimized();
+}
+
+void Desk::CloseWindow(Form& form) {
+  FormWindow* window = WindowOf(form);
+  if (window == nullptr) return;
+  std::erase(open_, window);
+  leaving_.push_back(window);
+  window->Leave();
+}
+
+void Desk::EndProgram() {
+  ending_ = true;
+  FreeClosed();
+}
+
+FormWindow* Desk::WindowOf(const Form& form) const {
+  const auto found = std::find_if(open_.begin(), open_.end(), [&](const FormWindow* window) {
+    return &window->ShownForm() == &form;
+  });
+  return found == open_.end() ? nullptr : *found;
+}
+
+FormWindow* Desk::WindowNamed(const std::string& formName) const {
+  const auto found = std::find_if(open_.begin(), open_.end(), [&](const FormWindow* window) {
+    return window->ShownForm().Name == formName;
+  });
+  return found == open_.end() ? nullptr : *found;
+}
+
+QWidget* Desk::FrontWindow() const {
+  if (QWidget* modal = QApplication::activeModalWidget()) return modal;
+  if (QWidget* active = QApplication::activeWindow()) return active;
+  for (auto window = open_.rbegin(); window != open_.rend(); ++window) {
+    if ((*window)->isVisible()) return *window;
+  }
+  return nullptr;
+}
+
+void Desk::Clear() {
+  for (FormWindow* window : std::exchange(open_, {})) {
+    window->Leave();
+    leaving_.push_back(window);
+  }
+  DeleteLeaving();
+  ending_ = false;
+}
+
+void Desk::FocusMoved(QWidget* from, QWidget* to) {
+  if (to == nullptr) return;
+  if (auto* window = dynamic_cast<FormWindow*>(to->window())) {
+    window->FocusMoved(*to, from != nullptr && from->window() == window);
+  }
+}
+
+bool Desk::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::Wheel) {
+    // Scrolling past a choice must not change it.
+    auto* choice = qobject_cast<QWidget*>(watched);
+    const bool isChoice = qobject_cast<QComboBox*>(choice) || qobject_cast<QDateEdit*>(choice);
+    if (isChoice && !choice->hasFocus()) event->ignore();
+    return isChoice && !choice->hasFocus();
+  }
+  if (event->type() != QEvent::KeyPress || !watched->isWidgetType()) return false;
+  auto* widget = static_cast<QWidget*>(watched);
+  auto* window = dynamic_cast<FormWindow*>(widget->window());
+  if (window == nullptr) return false;
+  // The event is offered to the widget with the keyboard first and then to those around it.
+  const QWidget* first = window->focusWidget() != nullptr ? window->focusWidget() : window;
+  if (widget != first) return false;
+  return window->KeyPressed(*static_cast<QKeyEvent*>(event), *widget);
+}
+
+Desk& TheDesk() {
+  static QPointer<Desk> desk;
+  if (desk == nullptr) desk = new Desk(qApp);
+  return *desk;
+}
+
+void Dispatch(const std::function<void()>& event) { TheDesk().Run(event); }
+
+}  // namespace store

@@ -1,0 +1,82 @@
+#pragma once
+
+#include <QObject>
+#include <functional>
+#include <vector>
+
+#include "forms/form.h"
+
+class QWidget;
+
+namespace store {
+
+class FormWindow;
+
+/// Everything that stands on the screen: the windows of the open forms and the events that run on
+/// them. There is one desk in a program; it goes with the application object.
+///
+/// A form never reports a change. Instead, whatever a person does arrives here as one event, and
+/// after it every window is compared with its form.
+class Desk : public QObject {
+ public:
+  explicit Desk(QObject* application);
+  ~Desk() override;
+
+  /// Runs an event of a form, brings all windows into line, and, when no other event is running any
+  /// more, frees what was closed.
+  void Run(const std::function<void()>& event);
+  bool EventRunning() const { return depth_ > 0; }
+  /// For the places where a running event lets a person look: before a box, a modal window, a
+  /// round of pending events.
+  void SyncWindows();
+
+  /// The doors of `Host`.
+  void Show(Form& form);
+  void ShowModal(Form& form);
+  void Hide(Form& form);
+  void Minimize(Form& form);
+  void CloseWindow(Form& form);
+  void EndProgram();
+  bool Ending() const { return ending_; }
+
+  /// The window of a form that is open, or nothing.
+  FormWindow* WindowOf(const Form& form) const;
+  /// The window of the form with that name, or nothing.
+  FormWindow* WindowNamed(const std::string& formName) const;
+  /// What a box stands in front of.
+  QWidget* FrontWindow() const;
+
+  /// While a box is open, windows lose and get the keyboard without being left by the person.
+  void BoxOpened() { ++boxes_; }
+  void BoxClosed() { --boxes_; }
+  bool BoxIsOpen() const { return boxes_ > 0; }
+
+  /// Takes all windows away without asking anybody; for the end of the program.
+  void Clear();
+
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  class RunningEvent;
+
+  FormWindow* Open(Form& form);
+  void FreeClosed();
+  void DeleteLeaving();
+  void FocusMoved(QWidget* from, QWidget* to);
+
+  std::vector<FormWindow*> open_;
+  std::vector<FormWindow*> leaving_;  // closed, but a handler of theirs may still be running
+  int depth_ = 0;
+  int boxes_ = 0;
+  bool syncing_ = false;
+  bool syncAgain_ = false;
+  bool ending_ = false;
+};
+
+/// The desk of this program, made on first use.
+Desk& TheDesk();
+
+/// `TheDesk().Run(event)`.
+void Dispatch(const std::function<void()>& event);
+
+}  // namespace store

@@ -1,0 +1,250 @@
+#include "ui/form_window.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QEventLoop>
+#include <QKeyEvent>
+#include <QPainterPath>
+#include <QTimer>
+#include <QWindow>
+#include <algorithm>
+
+#include "ui/desk.h"
+#include "ui/grid_view.h"
+#include "ui/key_names.h"
+#include "ui/qt_text.h"
+
+namespace store {
+namespace {
+
+/// The region of a window without a frame: the corners are cut by an ellipse of 19 by 19.
+QRegion RoundedRegion(int width, int height) {
+  QPainterPath path;
+  path.addRoundedRect(QRectF(QPointF(3, 3), QPointF(width, height)), 9.5, 9.5);
+  return QRegion(path.toFillPolygon().toPolygon());
+}
+
+bool IsButtonPress(Key key, const QWidget& at) {
+  return key == Key::Enter && qobject_cast<const QAbstractButton*>(&at) != nullptr;
+}
+
+bool IsFunctionKey(const QKeyEvent& event) {
+  return event.key() >= Qt::Key_F1 && event.key() <= Qt::Key_F35;
+}
+
+}  // namespace
+
+FormWindow::FormWindow(Form& form) : form_(form) { setObjectName(ToQt(form.Name)); }
+
+void FormWindow::Act(const std::function<void()>& event) {
+  if (gone_) return;
+  for (GridView* grid : grids_) grid->TakeOverOpenCell();
+  if (!gone_) Dispatch(event);
+}
+
+void FormWindow::Bind(const QString& name, Control& control, QWidget& widget,
+                      std::function<void()> sync) {
+  widget.setObjectName(name);
+  bound_.push_back({&control, &widget});
+  syncs_.push_back(std::move(sync));
+}
+
+void FormWindow::OnKey(const Control& control, std::function<bool(Key)> handler) {
+  keys_.emplace_back(&control, std::move(handler));
+}
+
+void FormWindow::OnGotFocus(const Control& control, std::function<void()> handler) {
+  gotFocus_.emplace_back(&control, std::move(handler));
+}
+
+void FormWindow::OnShortcut(const QKeySequence& keys, std::function<void()> event) {
+  shortcuts_.emplace_back(keys, std::move(event));
+}
+
+void FormWindow::TellSize() {
+  form_.Place.Width = width();
+  form_.Place.Height = height();
+}
+
+void FormWindow::TakePlace() {
+  const WindowPlace& place = form_.Place;
+  if (place.Rounded) {
+    setWindowFlag(Qt::FramelessWindowHint);
+    setMask(RoundedRegion(width(), height()));
+  }
+  if (place.Positioned) move(place.Left, place.Top);
+  if (place.State == WindowState::Minimized) setWindowState(Qt::WindowMinimized);
+  if (place.State == WindowState::Maximized) setWindowState(Qt::WindowMaximized);
+}
+
+void FormWindow::ComeForward() {
+  if (isMinimized()) setWindowState(windowState() & ~Qt::WindowMinimized);
+  show();
+  raise();
+  activateWindow();
+}
+
+void FormWindow::RunsIn(QEventLoop* loop, QWidget* owner) {
+  loop_ = loop;
+  setWindowModality(Qt::ApplicationModal);
+  if (owner == nullptr) return;
+  winId();
+  windowHandle()->setTransientParent(owner->window()->windowHandle());
+}
+
+void FormWindow::Leave() {
+  gone_ = true;
+  hide();
+  for (QTimer* timer : findChildren<QTimer*>()) timer->stop();
+  if (loop_ != nullptr) loop_->quit();
+}
+
+void FormWindow::Sync() {
+  if (gone_) return;
+  if (const QString caption = ToQt(form_.Caption); windowTitle() != caption) {
+    setWindowTitle(caption);
+  }
+  for (const Bound& bound : bound_) SyncCommon(bound);
+  for (const auto& sync : syncs_) sync();
+  FollowFocus();
+}
+
+void FormWindow::SyncCommon(const Bound& bound) {
+  const Control& control = *bound.control;
+  QWidget& widget = *bound.widget;
+  if (widget.isEnabledTo(this) != control.Enabled) widget.setEnabled(control.Enabled);
+  if (widget.isHidden() == control.Visible) widget.setVisible(control.Visible);
+  const QString tip = ToQt(control.ToolTipText);
+  if (widget.toolTip() != tip) widget.setToolTip(tip);
+}
+
+void FormWindow::FollowFocus() {
+  if (form_.FocusRevision() == focusSeen_) return;
+  focusSeen_ = form_.FocusRevision();
+  QWidget* wanted = WidgetOf(form_.ActiveControl);
+  if (wanted != nullptr && !wanted->isEnabled()) {
+    // A stored slip disables what the form usually begins with; the keyboard must be somewhere.
+    const auto answers = [this](const Control* control) {
+      const QWidget* widget = WidgetOf(control);
+      return widget != nullptr && widget->isEnabled() && !widget->isHidden();
+    };
+    const auto next = std::find_if(form_.TabOrder.begin(), form_.TabOrder.end(), answers);
+    wanted = next == form_.TabOrder.end() ? nullptr : WidgetOf(*next);
+  }
+  if (wanted != nullptr) wanted->setFocus(Qt::OtherFocusReason);
+}
+
+const FormWindow::Bound* FormWindow::BoundAt(const QWidget& widget) const {
+  for (const QWidget* at = &widget; at != nullptr && at != this; at = at->parentWidget()) {
+    const auto found = std::find_if(bound_.begin(), bound_.end(),
+                                    [&](const Bound& bound) { return bound.widget == at; });
+    if (found != bound_.end()) return &*found;
+  }
+  return nullptr;
+}
+
+QWidget* FormWindow::WidgetOf(const Control* control) const {
+  const auto found = std::find_if(bound_.begin(), bound_.end(),
+                                  [&](const Bound& bound) { return bound.control == control; });
+  return found == bound_.end() ? nullptr : found->widget.data();
+}
+
+void FormWindow::FocusMoved(QWidget& to, bool fromThisWindow) {
+  if (gone_) return;
+  const Bound* bound = BoundAt(to);
+  if (bound == nullptr) return;
+  const Control* before = form_.ActiveControl;
+  form_.ActiveControl = bound->control;
+  if (!fromThisWindow && before == bound->control) return;  // back from elsewhere
+  for (const auto& [control, handler] : gotFocus_) {
+    if (control == bound->control) Dispatch(handler);
+  }
+}
+
+bool FormWindow::InOpenCell(const QWidget& at) const {
+  return std::any_of(grids_.begin(), grids_.end(),
+                     [&](const GridView* grid) { return grid->IsOpenCell(at); });
+}
+
+bool FormWindow::KeyPressed(const QKeyEvent& event, QWidget& at) {
+  const Key key = NamedKey(event);
+  if (InOpenCell(at) && !IsFunctionKey(event)) return false;
+
+  const bool walks = key == Key::Up || key == Key::Down || key == Key::Delete || key == Key::Tab;
+  if (key != Key::None && event.isAutoRepeat() && !walks) return true;  // a key that was held down
+
+  if (key != Key::None) {
+    bool used = false;
+    Act([&] { used = form_.KeyDown(key); });
+    if (used || gone_ || ControlTakes(key, at)) return true;
+    if (IsButtonPress(key, at)) {
+      static_cast<QAbstractButton&>(at).click();
+      return true;
+    }
+  }
+  return ShortcutTakes(event) || gone_;
+}
+
+bool FormWindow::ControlTakes(Key key, QWidget& at) {
+  const Bound* bound = BoundAt(at);
+  if (bound == nullptr) return false;
+  bool used = false;
+  for (const auto& [control, handler] : keys_) {
+    if (control != bound->control) continue;
+    Dispatch([&used, &takes = handler, key] { used = takes(key); });
+  }
+  return used || gone_;
+}
+
+bool FormWindow::ShortcutTakes(const QKeyEvent& event) {
+  const QKeySequence pressed(event.keyCombination());
+  for (const auto& [keys, handler] : shortcuts_) {
+    if (keys != pressed) continue;
+    if (!event.isAutoRepeat()) handler();
+    return true;
+  }
+  return false;
+}
+
+bool FormWindow::event(QEvent* event) {
+  const bool handled = QWidget::event(event);
+  switch (event->type()) {
+    case QEvent::Paint:
+      // Only a window that a person can see may begin to work and keep them waiting.
+      if (!std::exchange(painted_, true)) QueueActivate();
+      break;
+    case QEvent::WindowDeactivate:
+      left_ = !TheDesk().BoxIsOpen();
+      break;
+    case QEvent::WindowActivate:
+      if (std::exchange(left_, false)) QueueActivate();
+      break;
+    default:
+      break;
+  }
+  return handled;
+}
+
+void FormWindow::QueueActivate() {
+  QTimer::singleShot(0, this, [this] {
+    if (!gone_) Dispatch([this] { form_.Activate(); });
+  });
+}
+
+void FormWindow::closeEvent(QCloseEvent* event) {
+  event->ignore();
+  Act([this] { form_.Close(); });
+}
+
+void FormWindow::ChainTabOrder() {
+  QWidget* last = nullptr;
+  for (const Control* control : form_.TabOrder) {
+    QWidget* widget = WidgetOf(control);
+    if (widget == nullptr) continue;
+    if (last != nullptr) setTabOrder(last, widget);
+    last = widget;
+  }
+}
+
+}  // namespace store

@@ -1,0 +1,330 @@
+#include "ui/grid_view.h"
+
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <algorithm>
+
+#include "ui/cell_editor.h"
+#include "ui/desk.h"
+#include "ui/grid_delegate.h"
+#include "ui/key_names.h"
+#include "ui/qt_text.h"
+#include "ui/style.h"
+
+namespace store {
+namespace {
+
+constexpr int kHeaderMargin = 10;
+constexpr int kNarrowest = 18;
+constexpr int kCellMargin = 12;
+constexpr int kMeasuredRows = 100;
+constexpr int kLongestCode = 120;
+constexpr int kLongestName = 260;
+
+/// Sets a flag for as long as it lives.
+class Flagged {
+ public:
+  explicit Flagged(bool& flag) : flag_(flag), before_(flag) { flag_ = true; }
+  ~Flagged() { flag_ = before_; }
+  Flagged(const Flagged&) = delete;
+  Flagged& operator=(const Flagged&) = delete;
+
+ private:
+  bool& flag_;
+  bool before_;
+};
+
+}  // namespace
+
+GridView::GridView(Grid& grid, int lines, QWidget* parent)
+    : QTableView(parent), grid_(grid), model_(grid), editor_(new CellEditor(viewport())) {
+  setModel(&model_);
+  setItemDelegate(new GridDelegate(*this));
+  setSelectionMode(NoSelection);
+  setEditTriggers(NoEditTriggers);
+  setTabKeyNavigation(false);
+  setShowGrid(false);
+  setWordWrap(false);
+  setCornerButtonEnabled(false);
+  setHorizontalScrollMode(ScrollPerPixel);
+  verticalHeader()->setVisible(false);
+  verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+  verticalHeader()->setMinimumSectionSize(1);
+  verticalHeader()->setDefaultSectionSize(RowHeight(lines));
+  horizontalHeader()->setVisible(grid.FixedRows() > 0);
+  horizontalHeader()->setSectionsClickable(false);
+  horizontalHeader()->setHighlightSections(false);
+  horizontalHeader()->setMinimumSectionSize(kNarrowest);
+  setAttribute(Qt::WA_InputMethodEnabled);
+  editor_->Left = [this](bool keep, int step) { CloseCell(keep, step); };
+  connect(this, &QTableView::clicked, this, &GridView::Clicked);
+  connect(this, &QTableView::doubleClicked, this, &GridView::DoubleClicked);
+  connect(horizontalHeader(), &QHeaderView::sectionResized, this,
+          [this](int section, int, int newSize) { MoveBorder(section, newSize); });
+  FollowColumns();
+}
+
+// --- following the form
+
+void GridView::Follow() {
+  const Flagged flagged(following_);
+  if (model_.Follow()) {
+    if (openRow_ != 0) CloseCell(false, 0);
+    FollowColumns();
+    FollowHiddenRows();
+  }
+  FollowCurrentCell();
+}
+
+void GridView::FollowColumns() {
+  for (int column = 0; column < grid_.Cols(); ++column) {
+    const bool hidden = grid_.Columns()[static_cast<size_t>(column)].Hidden;
+    if (isColumnHidden(column) != hidden) setColumnHidden(column, hidden);
+  }
+  MeasureColumns();
+  ShareWidth();
+}
+
+void GridView::FollowHiddenRows() {
+  for (int row = grid_.FixedRows(); row < grid_.Rows(); ++row) {
+    const int shown = row - grid_.FixedRows();
+    if (isRowHidden(shown) != grid_.RowHidden(row)) setRowHidden(shown, grid_.RowHidden(row));
+  }
+}
+
+void GridView::FollowCurrentCell() {
+  const bool none = grid_.FixedRows() > 0 && grid_.Row() < grid_.FixedRows();
+  const QModelIndex wanted =
+      none ? QModelIndex() : model_.IndexOf(grid_.Row(), ShownColumn(grid_.Col()));
+  if (wanted == currentIndex()) return;
+  setCurrentIndex(wanted);
+  if (wanted.isValid()) scrollTo(wanted);
+  viewport()->update();
+}
+
+// A hidden column cannot be walked from, so the first one that is seen stands for it.
+int GridView::ShownColumn(int column) const {
+  if (column < grid_.Cols() && !isColumnHidden(column)) return column;
+  for (int shown = 0; shown < grid_.Cols(); ++shown) {
+    if (!isColumnHidden(shown)) return shown;
+  }
+  return 0;
+}
+
+// --- column widths
+
+// The first rows stand for all of them: a list of thousands must not be measured row by row. Needs
+// only grow, so that the columns do not jump with every search.
+void GridView::MeasureColumns() {
+  const int rows = std::min(kMeasuredRows, model_.rowCount());
+  for (int column = 0; column < grid_.Cols(); ++column) {
+    if (isColumnHidden(column)) continue;
+    int& need = needs_[column];
+    for (int row = 0; row < rows; ++row) {
+      const QString text = model_.index(row, column).data().toString();
+      for (const QString& line : text.split('\n')) {
+        need = std::max(need, fontMetrics().horizontalAdvance(line.trimmed()) + kCellMargin);
+      }
+    }
+  }
+}
+
+ColumnWish GridView::WishOf(int column) const {
+  const GridColumn& asked = grid_.Columns()[static_cast<size_t>(column)];
+  const QString header = model_.headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
+  const int least = horizontalHeader()->fontMetrics().horizontalAdvance(header) + kHeaderMargin;
+  const auto dragged = widths_.find(column);
+  if (dragged != widths_.end()) return {dragged->second, kNarrowest, kNarrowest};
+  const auto measured = needs_.find(column);
+  const int need = std::max(least, measured == needs_.end() ? 0 : measured->second);
+  // A name can be cut and still be known; a figure, a date or a code cannot.
+  const bool isName = asked.Alignment == Align::Left && need > kLongestCode;
+  return {std::max(1.0, static_cast<double>(asked.Width)), isName ? least : need,
+          std::min(need, kLongestName)};
+}
+
+void GridView::ShareWidth() {
+  std::vector<int> columns;
+  std::vector<ColumnWish> wishes;
+  for (int column = 0; column < grid_.Cols(); ++column) {
+    if (isColumnHidden(column)) continue;
+    columns.push_back(column);
+    wishes.push_back(WishOf(column));
+  }
+  const Flagged flagged(sharing_);
+  const std::vector<int> widths = ShareColumns(wishes, viewport()->width());
+  for (size_t i = 0; i < columns.size(); ++i) setColumnWidth(columns[i], widths[i]);
+}
+
+// A border that a person drags moves between two columns; the others stay.
+void GridView::MoveBorder(int section, int newSize) {
+  if (sharing_ || newSize == 0) return;
+  int neighbour = section + 1;
+  while (neighbour < grid_.Cols() && isColumnHidden(neighbour)) ++neighbour;
+  if (neighbour < grid_.Cols()) {
+    std::map<int, double> widths;
+    for (int column = 0; column < grid_.Cols(); ++column) {
+      if (!isColumnHidden(column)) widths[column] = columnWidth(column);
+    }
+    int others = 0;
+    for (const auto& [column, width] : widths) {
+      if (column != neighbour) others += static_cast<int>(width);
+    }
+    widths[neighbour] = std::max(kNarrowest, viewport()->width() - others);
+    widths_ = std::move(widths);
+  }
+  ShareWidth();
+}
+
+void GridView::resizeEvent(QResizeEvent* event) {
+  QTableView::resizeEvent(event);
+  ShareWidth();
+  PlaceOpenCell();
+}
+
+void GridView::scrollContentsBy(int dx, int dy) {
+  QTableView::scrollContentsBy(dx, dy);
+  PlaceOpenCell();
+}
+
+// --- walking and clicking
+
+void GridView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
+  QTableView::currentChanged(current, previous);
+  setAttribute(Qt::WA_InputMethodEnabled);
+  viewport()->update();
+  if (following_ || !current.isValid()) return;
+  Dispatch([&] { grid_.Select(model_.GridRow(current), current.column()); });
+}
+
+void GridView::focusInEvent(QFocusEvent* event) {
+  {
+    // The table would choose a row by itself; which row is current is for the form to say.
+    const Flagged flagged(following_);
+    QTableView::focusInEvent(event);
+    FollowCurrentCell();
+  }
+  setAttribute(Qt::WA_InputMethodEnabled);
+}
+
+void GridView::Clicked(const QModelIndex& index) {
+  if (index.data(Qt::CheckStateRole).isValid()) {
+    Toggle(index);
+  } else if (Events.Click) {
+    Dispatch(Events.Click);
+  }
+}
+
+void GridView::DoubleClicked(const QModelIndex& index) {
+  if (index.column() == grid_.EditableColumn) {
+    OpenCell();
+  } else if (Events.DblClick) {
+    Dispatch(Events.DblClick);
+  }
+}
+
+// --- typing
+
+void GridView::keyPressEvent(QKeyEvent* event) {
+  const bool opens = event->key() == Qt::Key_F2 || NamedKey(*event) == Key::Enter;
+  if (opens) {
+    if (!OpenCell()) event->ignore();
+    return;
+  }
+  if (event->key() == Qt::Key_Space && currentIndex().data(Qt::CheckStateRole).isValid()) {
+    Toggle(currentIndex());
+    return;
+  }
+  if (const QString text = TypedText(*event); !text.isEmpty()) {
+    TypeText(text);
+    return;
+  }
+  const int before = grid_.Row();
+  QTableView::keyPressEvent(event);
+  if (grid_.Row() != before && Events.Walk) Dispatch(Events.Walk);
+}
+
+void GridView::inputMethodEvent(QInputMethodEvent* event) {
+  // While the input method is still putting a syllable together nothing has been typed yet.
+  if (!event->commitString().isEmpty()) TypeText(event->commitString());
+  event->accept();
+}
+
+QVariant GridView::inputMethodQuery(Qt::InputMethodQuery query) const {
+  if (query == Qt::ImEnabled) return true;
+  if (query == Qt::ImCursorRectangle) return visualRect(currentIndex());
+  return QTableView::inputMethodQuery(query);
+}
+
+void GridView::TypeText(const QString& text) {
+  if (grid_.EditableColumn >= 0) {
+    OpenCell(text);
+  } else if (Events.KeyPress) {
+    Dispatch([&] { Events.KeyPress(FromQt(text)); });
+  }
+}
+
+bool GridView::MayEdit(int row, int column) {
+  bool may = true;
+  if (Events.BeforeEdit) Dispatch([&] { may = Events.BeforeEdit(row, column); });
+  return may;
+}
+
+void GridView::Toggle(const QModelIndex& index) {
+  const int row = model_.GridRow(index);
+  const int column = index.column();
+  if (!MayEdit(row, column)) return;
+  const bool ticked = index.data(Qt::CheckStateRole).toInt() == Qt::Checked;
+  AcceptCell(row, column, ticked ? "0" : "-1", 0);
+}
+
+bool GridView::OpenCell(const QString& text) {
+  const int row = grid_.Row();
+  const int column = grid_.EditableColumn;
+  if (column < 0 || row < grid_.FixedRows() || !MayEdit(row, column)) return false;
+  openRow_ = row;
+  scrollTo(model_.IndexOf(row, column));
+  PlaceOpenCell();
+  editor_->setText(text.isEmpty() ? ToQt(grid_.TextMatrix(row, column)) : text);
+  if (text.isEmpty()) editor_->selectAll();
+  editor_->show();
+  editor_->setFocus();
+  return true;
+}
+
+void GridView::PlaceOpenCell() {
+  if (openRow_ == 0) return;
+  editor_->setGeometry(visualRect(model_.IndexOf(openRow_, grid_.EditableColumn)));
+}
+
+bool GridView::IsOpenCell(const QWidget& widget) const {
+  return openRow_ != 0 && &widget == editor_;
+}
+
+void GridView::TakeOverOpenCell() { CloseCell(true, 0); }
+
+void GridView::CloseCell(bool keep, int step) {
+  // Hiding the editor takes the keyboard from it, which comes back here.
+  const int row = std::exchange(openRow_, 0);
+  if (row == 0) return;
+  const std::string typed = FromQt(editor_->text());
+  if (editor_->hasFocus()) setFocus();
+  editor_->hide();
+  const int column = grid_.EditableColumn;
+  const bool leftAsItWas = step == 0 && typed == grid_.TextMatrix(row, column);
+  if (keep && !leftAsItWas) AcceptCell(row, column, typed, step);
+}
+
+void GridView::AcceptCell(int row, int column, const std::string& typed, int step) {
+  Dispatch([&] {
+    grid_.SetTextMatrix(row, column, typed);
+    if (Events.AfterEdit) Events.AfterEdit(row, column);
+  });
+  // What the form refused stays in front of the person.
+  const bool accepted = grid_.TextMatrix(row, column) == typed;
+  const int next = row + step;
+  if (step == 0 || !accepted || next < grid_.FixedRows() || next >= grid_.Rows()) return;
+  Dispatch([&] { grid_.Select(next, column); });
+}
+
+}  // namespace store

@@ -1,0 +1,93 @@
+#pragma once
+
+#include <QTableView>
+#include <functional>
+#include <map>
+#include <vector>
+
+#include "forms/grid.h"
+#include "ui/column_shares.h"
+#include "ui/grid_model.h"
+
+namespace store {
+
+class CellEditor;
+
+/// What a grid asks its form; each is optional.
+struct GridEvents {
+  std::function<void()> Click;
+  std::function<void()> DblClick;
+  /// A person moved to another row with the keyboard.
+  std::function<void()> Walk;
+  /// A character, or what an input method put together, typed where no cell can be edited.
+  std::function<void(const std::string& text)> KeyPress;
+  std::function<bool(int row, int col)> BeforeEdit;
+  std::function<void(int row, int col)> AfterEdit;
+};
+
+/// Shows a grid of a form and lets a person walk, click and type in it. Row heights are uniform and
+/// nothing is measured by row, so that a whole item list fills as fast as ten lines.
+class GridView : public QTableView {
+ public:
+  /// `lines` is the number of text lines in a row.
+  explicit GridView(Grid& grid, int lines = 1, QWidget* parent = nullptr);
+
+  GridEvents Events;
+  /// A tint behind a cell's text by what it says; an invalid colour for none.
+  std::function<QColor(int column, const QString& text)> Tint;
+  /// Marks the current cell alone instead of its row.
+  void MarkCellsOnly() { marksRow_ = false; }
+  bool MarksRow() const { return marksRow_; }
+
+  Grid& ShownGrid() const { return grid_; }
+  const GridModel& Model() const { return model_; }
+
+  /// Brings the view into line with the grid.
+  void Follow();
+  /// Whether `widget` is the open cell.
+  bool IsOpenCell(const QWidget& widget) const;
+  /// Takes over what stands in the open cell, if one is open.
+  void TakeOverOpenCell();
+  /// Opens the editable cell of the current row with `text` in it, or with its own text selected.
+  /// False when the form does not let it.
+  bool OpenCell(const QString& text = {});
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+  void inputMethodEvent(QInputMethodEvent* event) override;
+  QVariant inputMethodQuery(Qt::InputMethodQuery query) const override;
+  void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void scrollContentsBy(int dx, int dy) override;
+  void focusInEvent(QFocusEvent* event) override;
+
+ private:
+  void FollowColumns();
+  void FollowHiddenRows();
+  void FollowCurrentCell();
+  void MeasureColumns();
+  ColumnWish WishOf(int column) const;
+  void ShareWidth();
+  void MoveBorder(int section, int newSize);
+  int ShownColumn(int column) const;
+  void Clicked(const QModelIndex& index);
+  void DoubleClicked(const QModelIndex& index);
+  void TypeText(const QString& text);
+  void Toggle(const QModelIndex& index);
+  bool MayEdit(int row, int column);
+  void CloseCell(bool keep, int step);
+  void AcceptCell(int row, int column, const std::string& typed, int step);
+  void PlaceOpenCell();
+
+  Grid& grid_;
+  GridModel model_;
+  std::map<int, double> widths_;  // what a person dragged, by column
+  std::map<int, int> needs_;      // the widest text so far, by column
+  CellEditor* editor_;
+  int openRow_ = 0;  // row of the open cell in the grid; 0 when none is open
+  bool marksRow_ = true;
+  bool following_ = false;
+  bool sharing_ = false;
+};
+
+}  // namespace store

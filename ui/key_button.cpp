@@ -1,0 +1,84 @@
+#include "ui/key_button.h"
+
+#include <QPainter>
+#include <QStyleOptionButton>
+
+#include "ui/style.h"
+
+namespace store {
+namespace {
+
+constexpr int kSide = 10;
+constexpr int kGap = 7;
+constexpr int kHeight = 28;
+constexpr int kKeyPadding = 4;
+
+}  // namespace
+
+KeyButton::KeyButton(const QString& text, const QKeySequence& keys)
+    : QPushButton(text), keys_(keys), key_(keys.toString(QKeySequence::NativeText)) {
+  setFocusPolicy(Qt::NoFocus);
+  setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Fixed);
+}
+
+void KeyButton::WriteKey(const QString& key) {
+  key_ = key;
+  updateGeometry();
+}
+
+void KeyButton::MarkMain() {
+  main_ = true;
+  update();
+}
+
+QSize KeyButton::sizeHint() const {
+  const QFontMetrics metrics(font());
+  int width = 2 * kSide + metrics.horizontalAdvance(text());
+  if (!key_.isEmpty()) {
+    width += metrics.horizontalAdvance(key_) + 2 * kKeyPadding + (text().isEmpty() ? 0 : kGap);
+  }
+  return {width, std::max(kHeight, metrics.lineSpacing() + 10)};
+}
+
+void KeyButton::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  QColor ground = main_ ? QColor(look::Accent) : QColor(look::Paper);
+  if (!isEnabled()) ground = QColor(look::Header);
+  if (isEnabled() && isDown()) ground = ground.darker(112);
+  if (isEnabled() && underMouse() && !isDown()) {
+    ground = main_ ? ground.lighter(112) : QColor(look::RestingRow);
+  }
+  const QColor edge = hasFocus() ? QColor(look::Accent) : QColor(0xAAB6C2);
+  painter.setPen(QPen(edge, hasFocus() ? 2 : 1));
+  painter.setBrush(ground);
+  painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 4, 4);
+
+  const bool inverse = main_ && isEnabled();
+  QRect room = rect().adjusted(kSide, 0, -kSide, 0);
+  const QFontMetrics metrics(font());
+  const int keyWidth =
+      key_.isEmpty() ? 0 : metrics.horizontalAdvance(key_) + 2 * kKeyPadding + kGap;
+  // Text and key stand together in the middle, however wide the button is.
+  const int spare = room.width() - metrics.horizontalAdvance(text()) - keyWidth;
+  room.adjust(std::max(0, spare / 2), 0, 0, 0);
+  const QColor ink = !isEnabled() ? QColor(0x8995A0)
+                     : inverse    ? QColor(Qt::white)
+                                  : QColor(look::Ink);
+  painter.setPen(ink);
+  painter.drawText(room, Qt::AlignLeft | Qt::AlignVCenter, text());
+  if (key_.isEmpty()) return;
+  QRect cap(room.left() + metrics.horizontalAdvance(text()) + (text().isEmpty() ? 0 : kGap), 0,
+            keyWidth - kGap, metrics.lineSpacing() + 2);
+  cap.moveTop((height() - cap.height()) / 2);
+  QColor faint = ink;
+  faint.setAlphaF(0.4F);
+  painter.setPen(faint);
+  painter.setBrush(Qt::NoBrush);
+  painter.drawRoundedRect(QRectF(cap).adjusted(0.5, 0.5, -0.5, -0.5), 3, 3);
+  faint.setAlphaF(0.8F);
+  painter.setPen(faint);
+  painter.drawText(cap, Qt::AlignCenter, key_);
+}
+
+}  // namespace store

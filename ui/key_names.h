@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QKeyEvent>
+
+#include "forms/key.h"
+
+namespace store {
+
+/// The key as forms ask for it; `Key::None` for every other key and for combinations with Ctrl,
+/// Alt or Shift, which belong to the window.
+Key NamedKey(const QKeyEvent& event);
+
+/// The text that the key types, or nothing when it is a command.
+QString TypedText(const QKeyEvent& event);
+
+}  // namespace store

@@ -1,0 +1,62 @@
+#include "ui/layout_pieces.h"
+
+#include <QFrame>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QVBoxLayout>
+
+#include "ui/elided_label.h"
+#include "ui/style.h"
+
+namespace store {
+namespace {
+
+constexpr int kMargin = 8;
+constexpr int kSpacing = 6;
+
+QLabel* WithRole(QLabel* label, const char* role) {
+  label->setProperty("role", role);
+  return label;
+}
+
+}  // namespace
+
+QLabel* CaptionLabel(const QString& text) { return WithRole(new QLabel(text), "caption"); }
+
+QLabel* HeadingLabel(const QString& text) { return WithRole(new QLabel(text), "heading"); }
+
+QLabel* ValueLabel() { return WithRole(new ElidedLabel, "value"); }
+
+QLabel* TotalLabel() {
+  auto* label = new QLabel;
+  label->setFont(TotalFont());
+  label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  return label;
+}
+
+QFrame* Group(const QString& role, QLayout* content) {
+  auto* frame = new QFrame;
+  frame->setProperty("role", role);
+  frame->setLayout(content);
+  content->setContentsMargins(kMargin, kSpacing, kMargin, kSpacing);
+  return frame;
+}
+
+QHBoxLayout* Row() {
+  auto* row = new QHBoxLayout;
+  row->setSpacing(kSpacing);
+  return row;
+}
+
+QVBoxLayout* Column() {
+  auto* column = new QVBoxLayout;
+  column->setSpacing(kSpacing);
+  return column;
+}
+
+void FillWindow(QWidget& window, QVBoxLayout* content) {
+  content->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+  window.setLayout(content);
+}
+
+}  // namespace store

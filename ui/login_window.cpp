@@ -1,0 +1,82 @@
+#include "ui/login_window.h"
+
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPainter>
+
+#include "forms/host.h"
+#include "session/frmLogin.h"
+#include "ui/band_painter.h"
+#include "ui/bindings.h"
+#include "ui/key_button.h"
+#include "ui/layout_pieces.h"
+#include "ui/qt_text.h"
+
+namespace store {
+namespace {
+
+constexpr QSize kSize(420, 250);
+constexpr int kBandHeight = 84;
+
+}  // namespace
+
+LoginWindow::LoginWindow(frmLogin& form) : FormWindow(form) {
+  setFixedSize(kSize);
+  BindFields(form);
+  ChainTabOrder();
+}
+
+void LoginWindow::BindFields(frmLogin& form) {
+  auto* user = new QLineEdit;
+  auto* password = new QLineEdit;
+  auto* ok = new KeyButton({}, Qt::Key_Enter);
+  auto* cancel = new KeyButton({}, Qt::Key_Escape);
+  auto* options = new KeyButton("연결설정", Qt::Key_F10);
+  ok->setFocusPolicy(Qt::TabFocus);
+  cancel->setFocusPolicy(Qt::TabFocus);
+  ok->MarkMain();
+  // The password is a row of dots; hangul must not be put together under it.
+  password->setInputMethodHints(Qt::ImhHiddenText | Qt::ImhNoPredictiveText);
+
+  auto* fields = new QGridLayout;
+  fields->setVerticalSpacing(8);
+  fields->setHorizontalSpacing(10);
+  fields->addWidget(CaptionLabel("사용자"), 0, 0);
+  fields->addWidget(user, 0, 1);
+  fields->addWidget(CaptionLabel("비밀번호"), 1, 0);
+  fields->addWidget(password, 1, 1);
+  auto* buttons = Row();
+  buttons->addWidget(options);
+  buttons->addStretch();
+  buttons->addWidget(ok);
+  buttons->addWidget(cancel);
+  auto* content = new QVBoxLayout;
+  content->setContentsMargins(48, kBandHeight + 22, 48, 20);
+  content->addLayout(fields);
+  content->addStretch();
+  content->addLayout(buttons);
+  setLayout(content);
+
+  BindTextBox(*this, "txtUserName", form.txtUserName, *user);
+  BindTextBox(*this, "txtPassword", form.txtPassword, *password);
+  BindPress(*this, "cmdOK", form.cmdOK, *ok, [&form] { form.cmdOK_Click(); });
+  BindPress(*this, "cmdCancel", form.cmdCancel, *cancel, [&form] { form.cmdCancel_Click(); });
+  connect(options, &QPushButton::clicked, this,
+          [&] { Act([&] { ShownForm().KeyDown(Key::F10); }); });
+  OnKey(form.txtUserName, [&form](Key key) {
+    form.txtUserName_KeyPress(key);
+    return key == Key::Enter;
+  });
+  OnKey(form.txtPassword, [&form](Key key) {
+    form.txtPassword_KeyPress(key);
+    return key == Key::Enter;
+  });
+}
+
+void LoginWindow::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  PaintBandedGround(painter, rect(), kBandHeight, ToQt(Host.ProgramTitle));
+}
+
+}  // namespace store

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "ui/form_window.h"
+
+class QHBoxLayout;
+
+namespace store {
+
+class HistoryChartView;
+class OrderForm;
+
+/// The window of every order form: supplier and date on top, the item box below them, the order's
+/// lines on the left, what can be ordered on the right, totals and the two ways to save at the
+/// bottom.
+class OrderWindow : public FormWindow {
+ public:
+  explicit OrderWindow(OrderForm& form);
+
+ private:
+  QWidget* Header();
+  void AddSupplier(QHBoxLayout& row);
+  void AddDateAndDepot(QHBoxLayout& row);
+  void AddWindowButtons(QHBoxLayout& row);
+  QWidget* ItemBox();
+  QWidget* Lines();
+  QWidget* Categories();
+  QWidget* PickList();
+  QWidget* History();
+  QWidget* Foot();
+  void AddTotal(QHBoxLayout& row, const QString& caption, size_t index, bool big);
+  void FollowHistory();
+
+  OrderForm& order_;
+  HistoryChartView* history_ = nullptr;
+  std::string historyOf_;  // the quantities last drawn
+};
+
+}  // namespace store

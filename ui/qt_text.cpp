@@ -1,0 +1,27 @@
+#include "ui/qt_text.h"
+
+namespace store {
+namespace {
+
+constexpr std::string_view kBlanksBeforeCode = "                              ";
+static_assert(kBlanksBeforeCode.size() == 30);
+
+}  // namespace
+
+QString ToQt(std::string_view text) {
+  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+std::string FromQt(const QString& text) { return text.toStdString(); }
+
+QString ShownLines(std::string_view text) {
+  QString shown = ToQt(text);
+  shown.replace("\r\n", "\n").replace('\r', '\n');
+  return shown;
+}
+
+QString ShownEntry(std::string_view entry) {
+  return ToQt(entry.substr(0, entry.find(kBlanksBeforeCode))).trimmed();
+}
+
+}  // namespace store

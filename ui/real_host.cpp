@@ -1,0 +1,113 @@
+#include "ui/real_host.h"
+
+#include <QApplication>
+#include <QDateTime>
+#include <QDesktopServices>
+#include <QProcess>
+#include <QScreen>
+#include <QSettings>
+#include <QThread>
+#include <QUrl>
+#include <memory>
+
+#include "forms/host.h"
+#include "ui/desk.h"
+#include "ui/instance_lock.h"
+#include "ui/message_box.h"
+#include "ui/qt_text.h"
+
+namespace store {
+namespace {
+
+void ScreenSize(int& width, int& height) {
+  const QSize size = QGuiApplication::primaryScreen()->size();
+  width = size.width();
+  height = size.height();
+}
+
+void SetPointer(int pointer) {
+  const bool waits = QGuiApplication::overrideCursor() != nullptr;
+  if (pointer == PointerHourglass && !waits) QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+  if (pointer == PointerNormal && waits) QGuiApplication::restoreOverrideCursor();
+}
+
+// What a person types or clicks meanwhile waits: a running event must not be overtaken by the next.
+void LetEventsRun() {
+  TheDesk().SyncWindows();
+  QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}
+
+ClockTime Now() {
+  const QDateTime now = QDateTime::currentDateTime();
+  const QDate day = now.date();
+  const QTime time = now.time();
+  return {day.year(), day.month(), day.day(), time.hour(), time.minute(), time.second()};
+}
+
+bool OpenAddress(const std::string& address) {
+  const QString text = ToQt(address);
+  const bool isPath = !text.contains(QStringLiteral("://"));
+  return QDesktopServices::openUrl(isPath ? QUrl::fromLocalFile(text) : QUrl(text));
+}
+
+bool StartProgram(const std::string& path, const std::string& arguments) {
+  return QProcess::startDetached(ToQt(path), QProcess::splitCommand(ToQt(arguments)));
+}
+
+QSettings SettingsOf(const std::string& application) {
+  return {QSettings::IniFormat, QSettings::UserScope, QStringLiteral("Tarnwick"),
+          ToQt(application)};
+}
+
+QString SettingName(const std::string& section, const std::string& key) {
+  return ToQt(section) + "/" + ToQt(key);
+}
+
+bool PreviousInstance() {
+  static InstanceLock lock(FromQt(QCoreApplication::applicationFilePath()));
+  return !lock.Holds();
+}
+
+void OpenWindows() {
+  Host.MsgBox = ShowMessage;
+  Host.ShowModal = [](Form& form) { TheDesk().ShowModal(form); };
+  Host.Show = [](Form& form) { TheDesk().Show(form); };
+  Host.Hide = [](Form& form) { TheDesk().Hide(form); };
+  Host.Minimize = [](Form& form) { TheDesk().Minimize(form); };
+  Host.CloseWindow = [](Form& form) { TheDesk().CloseWindow(form); };
+  Host.EndProgram = [] { TheDesk().EndProgram(); };
+}
+
+void OpenWorkstation() {
+  Host.ScreenSize = ScreenSize;
+  Host.SetPointer = SetPointer;
+  Host.Beep = [] { QApplication::beep(); };
+  Host.DoEvents = LetEventsRun;
+  Host.Now = Now;
+  Host.Sleep = [](int milliseconds) {
+    QThread::msleep(static_cast<unsigned long>(std::max(0, milliseconds)));
+  };
+  Host.OpenAddress = OpenAddress;
+  Host.StartProgram = StartProgram;
+  Host.GetSetting = [](const std::string& application, const std::string& section,
+                       const std::string& key) {
+    return FromQt(SettingsOf(application).value(SettingName(section, key)).toString());
+  };
+  Host.SaveSetting = [](const std::string& application, const std::string& section,
+                        const std::string& key, const std::string& value) {
+    SettingsOf(application).setValue(SettingName(section, key), ToQt(value));
+  };
+  Host.PreviousInstance = PreviousInstance;
+}
+
+}  // namespace
+
+void OpenRealHost() {
+  OpenWindows();
+  OpenWorkstation();
+  Host.ProgramFolder = FromQt(QCoreApplication::applicationDirPath());
+  Host.ProgramTitle = "Tarnwick발주시스템";
+  Host.Version = {STORE_VERSION_MAJOR, STORE_VERSION_MINOR, STORE_VERSION_PATCH};
+}
+
+}  // namespace store

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "ui/form_window.h"
+
+class QHBoxLayout;
+
+namespace store {
+
+class frm_PE_UNIT;
+
+/// The window of `frm_PE_UNIT`: the order on top, its lines with the quantities received, totals
+/// and the confirmation at the bottom.
+class ReceiptWindow : public FormWindow {
+ public:
+  explicit ReceiptWindow(frm_PE_UNIT& form);
+
+ private:
+  QWidget* Header();
+  QWidget* QuantityBox();
+  QWidget* Lines();
+  QWidget* Foot();
+  void AddTotal(QHBoxLayout& row, const QString& caption, size_t index, bool big);
+
+  frm_PE_UNIT& receipt_;
+};
+
+}  // namespace store

@@ -1,0 +1,41 @@
+#include "ui/splash_window.h"
+
+#include <QLabel>
+#include <QPainter>
+#include <QVBoxLayout>
+
+#include "session/frmSplash.h"
+#include "ui/band_painter.h"
+#include "ui/bindings.h"
+#include "ui/layout_pieces.h"
+#include "ui/qt_text.h"
+
+namespace store {
+namespace {
+
+constexpr QSize kSize(460, 230);
+constexpr int kBandHeight = 130;
+
+}  // namespace
+
+SplashWindow::SplashWindow(frmSplash& form) : FormWindow(form), splash_(form) {
+  setFixedSize(kSize);
+  QLabel* version = CaptionLabel({});
+  auto* step = new QLabel;
+  auto* content = new QVBoxLayout;
+  content->setContentsMargins(28, kBandHeight + 16, 28, 20);
+  content->addWidget(version);
+  content->addStretch();
+  content->addWidget(step);
+  setLayout(content);
+  BindLabel(*this, "lblVersion", form.lblVersion, *version);
+  BindLabel(*this, "lblStep", form.lblStep, *step);
+  BindTimer(*this, form.Timer1, [&form] { form.Timer1_Timer(); });
+}
+
+void SplashWindow::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  PaintBandedGround(painter, rect(), kBandHeight, ToQt(splash_.lblProductName.Caption));
+}
+
+}  // namespace store

@@ -1,0 +1,34 @@
+#include "ui/store_windows.h"
+
+#include "board/frm_Start.h"
+#include "lookup/lookup_form.h"
+#include "order/order_form.h"
+#include "receipt/frm_PE_UNIT.h"
+#include "session/frmLogin.h"
+#include "session/frmOptions.h"
+#include "session/frmSplash.h"
+#include "ui/board_window.h"
+#include "ui/login_window.h"
+#include "ui/lookup_window.h"
+#include "ui/options_window.h"
+#include "ui/order_window.h"
+#include "ui/receipt_window.h"
+#include "ui/splash_window.h"
+#include "ui/window_registry.h"
+
+namespace store {
+
+void RegisterStoreWindows() {
+  RegisterWindow("frmLogin", MakerOf<LoginWindow, frmLogin>());
+  RegisterWindow("frmSplash", MakerOf<SplashWindow, frmSplash>());
+  RegisterWindow("frmOptions", MakerOf<OptionsWindow, frmOptions>());
+  RegisterWindow("frm_Start", MakerOf<BoardWindow, frm_Start>());
+  RegisterWindow("frm_PE_UNIT", MakerOf<ReceiptWindow, frm_PE_UNIT>());
+  RegisterWindow("frm_Order", MakerOf<OrderWindow, OrderForm>());
+  for (const char* lookup :
+       {"HELP_CT", "HELP_RCT", "HELP_HCT", "HELP_ST", "HELP_CTM", "HELP_BPR"}) {
+    RegisterWindow(lookup, MakerOf<LookupWindow, LookupForm>());
+  }
+}
+
+}  // namespace store
