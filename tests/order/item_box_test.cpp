@@ -1,0 +1,130 @@
+#include "session/numbers.h"
+#include "session/options_record.h"
+#include "tests/order/order_desk.h"
+
+namespace store {
+namespace {
+
+TEST_F(OrderDesk, NothingIsEnteredWithoutASupplier) {
+  OrderForm& form = Open();
+  host.ExpectBox("발주처를 선택하세요.          ");
+  Enter("88010005");
+  EXPECT_EQ(Lines(), "");
+  form.Text1.SetText("나래유통");  // typed, but never looked up
+  host.ExpectBox("발주처를 선택하세요.          ");
+  Enter("88010005");
+}
+
+TEST_F(OrderDesk, TheBoxTellsSearchesFromQuantities) {
+  OrderForm& form = Open();
+  Supplier("#C0001");
+  const struct {
+    const char* entry;
+    const char* lines;
+    const char* picks;
+  } steps[] = {
+      {"1234", "", ""},  // a quantity, and no line to take it
+      {"   ", "", ""},
+      {"88010005", "P0005x1 ", ""},
+      {"12", "P0005x12 ", ""},
+      {"88010003", "P0003x1 P0005x12 ", ""},
+      {"2.5", "P0003x3 P0005x12 ", ""},  // whole numbers only, by the settings
+      {"-4", "P0003x-4 P0005x12 ", ""},
+      {"88010005", "P0005x1 P0003x-4 ", ""},  // again: on top, and from 1
+      {"8801000", "P0005x1 P0003x-4 ", "P0009,P0002,P0007,P0001,P0004,P0003,P0005,P0008"},
+      {",간장", "P0005x1 P0003x-4 ", "P0009,P0002,P0007,P0001,P0004,P0003,P0005,P0008"},
+      {",abc", "P0009x1 P0005x1 P0003x-4 ", "P0009,P0002,P0007,P0001,P0004,P0003,P0005,P0008"},
+      {".kg", "P0009x1 P0005x1 P0003x-4 ", "P0002,P0005,P0008"},
+      {"9999", "P0009x9999 P0005x1 P0003x-4 ", "P0002,P0005,P0008"},
+  };
+  for (const auto& step : steps) {
+    if (std::string(step.entry) == ",간장") host.ExpectBox("선택된 품목이 없습니다.           ");
+    Enter(step.entry);
+    EXPECT_EQ(Lines(), step.lines) << step.entry;
+    EXPECT_EQ(ColumnText(form.FLEX2, 0), step.picks) << step.entry;
+  }
+  EXPECT_EQ(form.FLEX1.TextMatrix(1, 2), "88010009\r ABC소스");
+}
+
+// The filter stands, but it has been walked to its end: there is nothing left to list.
+TEST_F(OrderDesk, AQuoteInASearchLeavesTheFormerFilterToDecide) {
+  OrderForm& form = Open();
+  Supplier("#C0001");
+  Enter(".kg");
+  Enter(",o'neil");
+  EXPECT_EQ(RecordCountOf(SlotC), 3);
+  EXPECT_EQ(ColumnText(form.FLEX2, 0), "");
+}
+
+TEST_F(OrderDesk, AnItemWithoutAPriceIsRefusedInALineThatGoesAway) {
+  OrderForm& form = Open();
+  Supplier("#C0001");
+  AppOptions.OrderZeroPrice = 1;
+  Sql("UPDATE CTP SET CTP_UP=0 WHERE PR_CODE='P0008'; UPDATE PR SET PR_OP1=0 WHERE PR_CODE='P0008';"
+      "DELETE FROM PSM23 WHERE PR_CODE='P0008'");
+  Enter("88010008");
+  EXPECT_EQ(Lines(), "P0008x1 ");
+  AppOptions.OrderZeroPrice = 0;
+  Enter("88010008");
+  EXPECT_EQ(Lines(), "");  // the old line went before the price was asked for
+  EXPECT_EQ(form.Label6.Caption, "본부정책오류: 힘찬세제의 단가가 정의되지 않았습니다.");
+  EXPECT_TRUE(form.Timer1.Enabled);
+  form.Timer1_Timer();
+  EXPECT_EQ(form.Label6.Caption, "");
+  EXPECT_FALSE(form.Timer1.Enabled);
+  form.NoPriceMode = 1;
+  Enter("88010008");
+  EXPECT_EQ(Lines(), "P0008x1 ");
+  EXPECT_EQ(form.FLEX1.TextMatrix(1, 5), "0");
+}
+
+TEST_F(OrderDesk, KeysInTheBoxWorkOnTheLines) {
+  OrderForm& form = Open();
+  Supplier("#C0001");
+  for (const char* barcode : {"88010003", "88010005", "88010009"}) Enter(barcode);
+  form.inBox_KeyDown(Key::Up);
+  EXPECT_EQ(form.FLEX1.Row(), 1);
+  form.inBox_KeyDown(Key::Down);
+  form.inBox_KeyDown(Key::Down);
+  form.inBox_KeyDown(Key::Down);
+  EXPECT_EQ(form.FLEX1.Row(), 3);
+  EXPECT_EQ(form.ActiveControl, &form.FLEX1);
+  form.FLEX1_KeyPress("7");
+  EXPECT_EQ(form.inBox.Text(), "7");
+  EXPECT_EQ(form.ActiveControl, &form.inBox);
+  form.inBox_KeyPress(Key::Enter);
+  EXPECT_EQ(Lines(), "P0009x1 P0005x1 P0003x7 ");
+  form.inBox.SetText("half typed");
+  form.inBox_KeyDown(Key::Delete);
+  EXPECT_EQ(Lines(), "P0009x1 P0005x1 ");
+  EXPECT_EQ(form.inBox.Text(), "half typed");
+  EXPECT_EQ(ColumnText(form.FLEX1, 0), "2,1");
+}
+
+TEST_F(OrderDesk, TwoHundredScansInARowAreEachThereOnce) {
+  std::string products =
+      "INSERT INTO PR (PR_CODE,PR_NAME,KD_ID,PR_BCODE,PR_END,PR_TAX2,PR_OP1) VALUES ";
+  for (int i = 0; i < 200; ++i) {
+    const std::string n = std::to_string(1000 + i);
+    products += (i > 0 ? "," : "") + std::string("('S") + n + "','스캔" + n + "','100','990" + n +
+                "','0','0'," + n + ")";
+  }
+  Sql(products);
+  OpenRecordset(SlotC,
+                "SELECT PR_CODE,PR_NAME,PR_STD,PR_UNT,PR_TAX2,PR_PTNO,' ',' ',PR_BCODE,' ',"
+                "KD_ID FROM PR WHERE PR_END = '0'");
+  OrderForm& form = Open();
+  Supplier("#C0001");
+  for (int i = 0; i < 200; ++i) Enter("990" + std::to_string(1000 + i));
+  ASSERT_EQ(form.FLEX1.Rows(), 201);
+  double sum = 0;
+  for (int row = 1; row <= 200; ++row) {
+    EXPECT_EQ(form.FLEX1.TextMatrix(row, 1), "S" + std::to_string(1200 - row));
+    sum += 1200 - row;
+  }
+  EXPECT_EQ(form.LaAmt[0].Caption, "200");
+  EXPECT_EQ(form.LaAmt[2].Caption, FormatNumber(sum, FormatAmount));
+}
+
+}  // namespace
+}  // namespace store

@@ -1,0 +1,61 @@
+#include "tests/order/order_desk.h"
+
+#include "forms/host.h"
+#include "forms/open_forms.h"
+#include "order/order_forms.h"
+#include "session/dates.h"
+#include "session/options_record.h"
+#include "slips/depot_choice.h"
+
+namespace store {
+namespace {
+
+constexpr const char* kItemList =
+    " SELECT PR_CODE,PR_NAME,PR_STD,PR_UNT,PR_TAX2,PR_PTNO,' ',' ',PR_BCODE,' ',KD_ID FROM PR "
+    "WHERE PR_END = '0' ORDER BY PR_NAME";
+
+class StandInBoard : public MainWindow {
+ public:
+  StandInBoard() : MainWindow("frm_Start") {}
+};
+
+}  // namespace
+
+OrderDesk::OrderDesk() {
+  RegisterOrderForms();
+  RegisterForm("frm_Start", [] { return std::make_unique<StandInBoard>(); });
+  Board = dynamic_cast<MainWindow*>(TheForm("frm_Start"));
+  Board->Combo1.AddItem(DepotEntry("매장", "100101"));
+  Board->Combo1.AddItem(DepotEntry("창고", "100102"));
+  AppOptions.BulkOrderPrice = "3";
+  ParseDateText(Value("SELECT DATE_FORMAT(NOW(),'%Y-%m-%d')"), host.Clock);
+  OpenRecordset(SlotC, kItemList);
+}
+
+OrderForm& OrderDesk::Open(const std::string& slipId) {
+  auto* form = dynamic_cast<OrderForm*>(TheForm("frm_Order"));
+  form->SlipId = slipId;
+  form->SlipTable = "PEM22";
+  Host.Show(*form);
+  return *form;
+}
+
+void OrderDesk::Supplier(const std::string& text) {
+  Order().Text1.SetText(text);
+  Order().Text1_KeyPress(Key::Enter);
+}
+
+void OrderDesk::Enter(const std::string& text) {
+  Order().inBox.SetText(text);
+  Order().inBox_KeyPress(Key::Enter);
+}
+
+std::string OrderDesk::Lines() {
+  std::string lines;
+  for (int row = 1; row < Order().FLEX1.Rows(); ++row) {
+    lines += Order().FLEX1.TextMatrix(row, 1) + "x" + Order().FLEX1.TextMatrix(row, 7) + " ";
+  }
+  return lines;
+}
+
+}  // namespace store

@@ -1,0 +1,148 @@
+#include "forms/open_forms.h"
+#include "session/base_settings.h"
+#include "session/dates.h"
+#include "slips/slip_keys.h"
+#include "tests/order/order_desk.h"
+
+namespace store {
+namespace {
+
+constexpr const char* kAgain = "계속해서 발주하시겠습니까?";
+
+class OrderSave : public OrderDesk {
+ protected:
+  OrderSave() { Sql("DELETE FROM PEM22"); }
+  void FillOrder() {
+    Open();
+    Supplier("#C0001");
+    Enter("88010005");
+    Enter("3");
+    Enter("88010003");
+  }
+};
+
+TEST_F(OrderSave, EveryColumnOfANewOrder) {
+  FillOrder();
+  Order().Combo1.SetListIndex(1);
+  const std::string today = Order().DTOrderDate.Value();
+  host.ExpectBox(kAgain, box::No);
+  Order().LaBtn_Click(0);
+  EXPECT_EQ(OpenForm("frm_Order"), nullptr);
+  const std::string id = FormatDateText(today, "YYYYMMDD") + "1001u01220001";
+  EXPECT_EQ(
+      Rows("SELECT PE_ID,PE_CK,PE_PDATE,PE_FCTCODE,PE_FCTNAME,PE_TCTCODE,PE_TCTNAME,PE_AMT,PE_TAX,"
+           "PE_TOT,CONCAT('[',PE_TMAN,ST_CODE,PE_PRJ,PE_LINK,PE_COND,PE_GRDAY,PE_CSDAY,PE_CSCT,"
+           "PE_TYPE,PE_MEMO1,PE_MEMO2,PE_MEMO3,']'),ABS(TIMESTAMPDIFF(MINUTE,PE_SDATE,NOW()))<2 "
+           "FROM PEM22"),
+      (std::vector<std::vector<std::string>>{{id, "0", today, "1001", "성수역점", "C0001",
+                                              "한빛상사", "4800.0000", "450.0000", "5250.0000",
+                                              "[" + std::string(12, ' ') + "]", "1"}}));
+  EXPECT_EQ(
+      Rows("SELECT PE_ID,PS_NO,PS_DATE,PR_CODE,PR_NAME,PR_STD,PS_TAXGU,PS_UNT,PS_SQTY,PS_EQTY,"
+           "PS_COST,PS_UP,PS_AMT,PS_TAX,ST_CODE,PS_TYPE,PS_MEMO,PS_HCTCODE,PS_HCTNAME FROM PSM22 "
+           "ORDER BY PS_NO"),
+      (std::vector<std::vector<std::string>>{
+          {id, "1", today, "P0003", "콩나물", "300g", "1", "봉", "1.0000", "0.0000", "0.0000",
+           "300.0000", "300.0000", "0.0000", "u01", "0", "", "100102", "창고"},
+          {id, "2", today, "P0005", "하우스감귤", "5kg", "0", "박스", "3.0000", "0.0000", "0.0000",
+           "1500.0000", "4500.0000", "450.0000", "u01", "0", "", "100102", "창고"}}));
+}
+
+TEST_F(OrderSave, GoingOnKeepsTheDepotAndStartsAfresh) {
+  FillOrder();
+  Order().Combo1.SetListIndex(1);
+  host.ExpectBox(kAgain, box::Yes);
+  Order().LaBtn_Click(1);
+  EXPECT_EQ(Value("SELECT PE_CK FROM PEM22"), "1");
+  EXPECT_EQ(Order().SlipId, "");
+  EXPECT_EQ(Order().Text1.Text() + Order().Text1.Tag, "");
+  EXPECT_EQ(Order().FLEX1.Rows(), 1);
+  EXPECT_EQ(Order().LaAmt[1].Caption, "0");
+  EXPECT_EQ(Order().Combo1.ListIndex(), 1);
+  EXPECT_EQ(Order().ActiveControl, &Order().Text1);
+}
+
+TEST_F(OrderSave, AChangeRewritesTheOrderUnderItsKey) {
+  FillOrder();
+  host.ExpectBox(kAgain, box::No);
+  Order().LaBtn_Click(0);
+  const std::string id = Value("SELECT PE_ID FROM PEM22");
+  Open(id);
+  Order().FLEX1.SetRow(1);  // the last line of before stands on top
+  Order().FLEX1_KeyDown(Key::Delete);
+  Order().FLEX1.SetRow(1);
+  Enter("8");
+  host.ExpectBox(kAgain, box::No);
+  Order().LaBtn_Click(1);
+  EXPECT_EQ(
+      Rows("SELECT H.PE_ID,PE_CK,PE_TOT,PS_NO,PR_CODE,PS_SQTY FROM PEM22 H LEFT JOIN PSM22 L "
+           "ON H.PE_ID=L.PE_ID"),
+      (std::vector<std::vector<std::string>>{{id, "1", "2400.0000", "1", "P0003", "8.0000"}}));
+}
+
+TEST_F(OrderSave, ChecksComeInTheirOrderAndARefusalUsesUpAKey) {
+  Open();
+  const std::string today = Order().DTOrderDate.Value();
+  Order().DTOrderDate.SetValue("2001-01-01");
+  host.ExpectBox("발주일자를 확인바랍니다. 현재일기준 전후한달만 처리가능합니다.");
+  Order().LaBtn_Click(0);
+  Order().DTOrderDate.SetValue(today);
+  std::string name;
+  name.swap(Session.StoreName);
+  host.ExpectBox("본사/가맹점입력은 필수입력입니다.                ");
+  Order().LaBtn_Click(0);
+  name.swap(Session.StoreName);
+  host.ExpectBox("거래처입력오류 확인바랍니다.             ");
+  Order().LaBtn_Click(0);
+  Supplier("#C0001");
+  host.ExpectBox("전표순번자료가 없습니다.                    ");
+  Order().LaBtn_Click(0);
+  EXPECT_EQ(SlipSeqCounter, 4);
+  Enter("88010005");
+  Order().Text1.Change = nullptr;  // a name typed over, with the lines still there
+  Order().Text1.SetText("한빛");
+  host.ExpectBox("거래처입력오류 확인바랍니다.             ");
+  Order().LaBtn_Click(0);
+  EXPECT_EQ(Order().ActiveControl, &Order().Text1);
+  Order().LaBtn_Click(2);
+  EXPECT_EQ(Value("SELECT COUNT(*) FROM PEM22"), "0");
+}
+
+TEST_F(OrderSave, AMissingItemOrDepotIsToldInTwoBoxes) {
+  FillOrder();
+  OpenRecordset(SlotC, "SELECT 'P0003' AS PR_CODE,'콩나물','','','1'");
+  host.ExpectBox("[P0005] 품목정보가 부족하여 \r\r 순번항목을 구성할 수 없습니다.");
+  host.ExpectBox("전표순번자료가 없습니다.                    ");
+  Order().LaBtn_Click(0);
+  Order().Combo1.Clear();
+  host.ExpectBox("입고될 기본하치장을 반드시 선택하세요.     ");
+  host.ExpectBox("전표순번자료가 없습니다.                    ");
+  Order().LaBtn_Click(0);
+}
+
+TEST_F(OrderSave, AFailedSaveTellsTheServersWordsAndKeepsTheOrder) {
+  FillOrder();
+  Sql("UPDATE PR SET PR_NAME='o''neil' WHERE PR_CODE='P0005'");
+  OpenRecordset(SlotC, "SELECT PR_CODE,PR_NAME,PR_STD,PR_UNT,PR_TAX2 FROM PR");
+  host.ExpectBox("저장이 실패하였습니다.\r\r MSG: ");
+  Order().LaBtn_Click(0);
+  EXPECT_NE(host.Boxes.back().Text.find("SQL syntax"), std::string::npos);
+  EXPECT_EQ(Lines(), "P0003x1 P0005x3 ");
+  EXPECT_NE(Order().SlipId, "");
+  EXPECT_EQ(Value("SELECT COUNT(*) FROM PEM22"), "0");
+}
+
+TEST_F(OrderSave, WithoutTheDatabaseNoKeyAndNothingIsLost) {
+  FillOrder();
+  Disconnect();
+  host.ExpectBox("발주일자를 확인바랍니다.");
+  Order().LaBtn_Click(0);
+  Reconnect();
+  EXPECT_EQ(Lines(), "P0003x1 P0005x3 ");
+  host.ExpectBox(kAgain, box::No);
+  Order().LaBtn_Click(0);
+  EXPECT_EQ(Value("SELECT COUNT(*) FROM PSM22"), "2");
+}
+
+}  // namespace
+}  // namespace store
