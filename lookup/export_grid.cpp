@@ -30,10 +30,12 @@ void WriteCell(lxw_worksheet* sheet, const std::string& address, const std::stri
   }
 }
 
-/// A fresh file each time: the last one may still be open on the screen.
+/// A fresh file each time: the last one may still be open on the screen. Empty when there is no
+/// folder to put it in.
 std::string NewFileName() {
   std::error_code failed;
   const auto folder = std::filesystem::temp_directory_path(failed);
+  if (failed) return {};
   const std::string stamp = FormatDateValue(Host.Now(), "YYYYMMDDHHNNSS");
   for (int number = 1;; ++number) {
     const auto path = folder / ("grid_" + stamp + "_" + std::to_string(number) + ".xlsx");
@@ -42,7 +44,7 @@ std::string NewFileName() {
 }
 
 bool WriteWorkbook(const Grid& grid, const std::string& path) {
-  lxw_workbook* workbook = workbook_new(path.c_str());
+  lxw_workbook* workbook = path.empty() ? nullptr : workbook_new(path.c_str());
   if (workbook == nullptr) return false;
   lxw_worksheet* sheet = workbook_add_worksheet(workbook, nullptr);
   for (int row = 0; row < grid.Rows(); ++row) {

@@ -76,8 +76,9 @@ const char* const kSmall = "small";
 }  // namespace
 
 PrivateServer::PrivateServer() : port_(FreePort()) {
-  folder_ = (std::filesystem::temp_directory_path() / ("store_test_" + std::to_string(getpid())))
-                .string();
+  std::string folder = (std::filesystem::temp_directory_path() / "store_test_XXXXXX").string();
+  if (mkdtemp(folder.data()) == nullptr) ADD_FAILURE() << "no folder for the test's server";
+  folder_ = folder;
   setenv("DEMO_DATA", STORE_DEMO_DATA, 1);
 }
 
