@@ -4,6 +4,8 @@
 #include <array>
 #include <cstdint>
 #include <cstring>
+#include <numeric>
+#include <vector>
 
 #ifdef __SSE2__
 #include <emmintrin.h>
@@ -30,16 +32,12 @@ ByteSearch::ByteSearch(std::string_view needle, std::string_view sample) : folde
   hasLetters_ = std::any_of(folded_.begin(), folded_.end(), IsAsciiLetter);
   const std::array<std::uint32_t, 256> counts = CountFolded(sample);
   const auto rarity = [&](size_t i) { return counts[static_cast<unsigned char>(folded_[i])]; };
-  size_t best = 0;
-  for (size_t i = 1; i < folded_.size(); ++i) {
-    if (rarity(i) < rarity(best)) best = i;
-  }
-  size_t next = best == 0 && folded_.size() > 1 ? 1 : 0;
-  for (size_t i = 0; i < folded_.size(); ++i) {
-    if (i != best && rarity(i) < rarity(next)) next = i;
-  }
-  first_ = std::min(best, next);
-  second_ = std::max(best, next);
+  std::vector<size_t> places(folded_.size());
+  std::iota(places.begin(), places.end(), size_t{0});
+  const size_t wanted = std::min(places.size(), watched_.size());
+  std::partial_sort(places.begin(), places.begin() + static_cast<std::ptrdiff_t>(wanted),
+                    places.end(), [&](size_t a, size_t b) { return rarity(a) < rarity(b); });
+  for (size_t i = 0; i < watched_.size() && wanted > 0; ++i) watched_[i] = places[i % wanted];
 }
 
 bool ByteSearch::EqualAt(const char* place) const {
@@ -62,20 +60,21 @@ size_t ByteSearch::Next(std::string_view run, size_t from) const {
 #ifdef __SSE2__
   // A letter is compared with its case bit set on both sides; the few other bytes that this also
   // lets pass fall out in EqualAt.
-  const auto caseBit = [&](size_t i) {
-    return _mm_set1_epi8(IsAsciiLetter(folded_[i]) ? char{0x20} : char{0});
-  };
-  const __m128i wantedFirst = _mm_set1_epi8(folded_[first_]);
-  const __m128i wantedSecond = _mm_set1_epi8(folded_[second_]);
-  const __m128i bitFirst = caseBit(first_);
-  const __m128i bitSecond = caseBit(second_);
-  const auto load = [&](size_t position) {
-    return _mm_loadu_si128(reinterpret_cast<const __m128i*>(run.data() + position));
+  __m128i wanted[3];
+  __m128i caseBit[3];
+  for (size_t i = 0; i < watched_.size(); ++i) {
+    const char byte = folded_[watched_[i]];
+    wanted[i] = _mm_set1_epi8(byte);
+    caseBit[i] = _mm_set1_epi8(IsAsciiLetter(byte) ? char{0x20} : char{0});
+  }
+  const auto meets = [&](size_t position, size_t i) {
+    const __m128i bytes =
+        _mm_loadu_si128(reinterpret_cast<const __m128i*>(run.data() + position + watched_[i]));
+    return _mm_cmpeq_epi8(_mm_or_si128(bytes, caseBit[i]), wanted[i]);
   };
   for (; at + 15 <= last; at += 16) {
-    const __m128i a = _mm_cmpeq_epi8(_mm_or_si128(load(at + first_), bitFirst), wantedFirst);
-    const __m128i b = _mm_cmpeq_epi8(_mm_or_si128(load(at + second_), bitSecond), wantedSecond);
-    auto hits = static_cast<std::uint32_t>(_mm_movemask_epi8(_mm_and_si128(a, b)));
+    const __m128i all = _mm_and_si128(_mm_and_si128(meets(at, 0), meets(at, 1)), meets(at, 2));
+    auto hits = static_cast<std::uint32_t>(_mm_movemask_epi8(all));
     while (hits != 0) {
       const size_t place = at + static_cast<size_t>(__builtin_ctz(hits));
       if (EqualAt(run.data() + place)) return place;
@@ -84,7 +83,9 @@ size_t ByteSearch::Next(std::string_view run, size_t from) const {
   }
 #endif
   for (; at <= last; ++at) {
-    if (FoldAscii(run[at + first_]) == folded_[first_] && EqualAt(run.data() + at)) return at;
+    if (FoldAscii(run[at + watched_[0]]) == folded_[watched_[0]] && EqualAt(run.data() + at)) {
+      return at;
+    }
   }
   return npos;
 }

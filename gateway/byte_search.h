@@ -1,14 +1,16 @@
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <string>
 #include <string_view>
 
 namespace store {
 
-/// Finds one text in a long run of bytes, ASCII letters without case. It watches the two bytes of
+/// Finds one text in a long run of bytes, ASCII letters without case. It watches the three bytes of
 /// the needle that are rarest in the run: the syllables of Hangul share their lead bytes, so a
-/// search that waits for the first byte would stop at nearly every letter.
+/// search that waits for the first byte would stop at nearly every letter, and in codes every digit
+/// is as common as the next.
 class ByteSearch {
  public:
   /// `sample` is the run, or a good part of it, from which the rarity of bytes is judged.
@@ -24,8 +26,7 @@ class ByteSearch {
 
   std::string folded_;
   bool hasLetters_ = false;
-  size_t first_ = 0;  // the two watched places in the needle, first_ <= second_
-  size_t second_ = 0;
+  std::array<size_t, 3> watched_{};  // places in the needle; the same ones again in a short one
 };
 
 /// ASCII capital to small; every other byte stays.

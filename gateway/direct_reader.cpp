@@ -15,7 +15,7 @@ struct ResultColumn {
   bool decimal = false;
   bool bound = true;
   size_t width = 0;  // bytes of one value in the buffer, its closing zero included
-  std::vector<char> buffer;
+  std::unique_ptr<char[]> buffer;
   std::vector<SQLLEN> lengths;
 };
 
@@ -66,14 +66,18 @@ size_t BindColumns(SQLHSTMT statement, std::vector<ResultColumn>& columns) {
     allBound = allBound && column.bound;
     if (column.bound) rowBytes += column.width;
   }
-  const size_t rows = allBound ? std::clamp<size_t>(kBufferBytes / rowBytes, 1, kMostRows) : 1;
+  // The driver has the rows already and knows their number: a small result gets small buffers.
+  SQLLEN count = 0;
+  SQLRowCount(statement, &count);
+  const size_t most = count > 0 ? std::min(static_cast<size_t>(count), kMostRows) : kMostRows;
+  const size_t rows = allBound ? std::clamp<size_t>(kBufferBytes / rowBytes, 1, most) : 1;
   SQLSetStmtAttr(statement, SQL_ATTR_ROW_ARRAY_SIZE, reinterpret_cast<SQLPOINTER>(rows), 0);
   for (size_t i = 0; i < columns.size(); ++i) {
     ResultColumn& column = columns[i];
     if (!column.bound) continue;
-    column.buffer.resize(column.width * rows);
+    column.buffer = std::make_unique_for_overwrite<char[]>(column.width * rows);
     column.lengths.resize(rows);
-    SQLBindCol(statement, static_cast<SQLUSMALLINT>(i + 1), SQL_C_CHAR, column.buffer.data(),
+    SQLBindCol(statement, static_cast<SQLUSMALLINT>(i + 1), SQL_C_CHAR, column.buffer.get(),
                static_cast<SQLLEN>(column.width), column.lengths.data());
   }
   return rows;
@@ -109,7 +113,7 @@ void TakeRow(SQLHSTMT statement, const std::vector<ResultColumn>& columns, size_
       rows.AppendNull();
     } else {
       const size_t length = std::min(static_cast<size_t>(column.lengths[row]), column.width - 1);
-      AppendValue(rows, column, {column.buffer.data() + row * column.width, length});
+      AppendValue(rows, column, {column.buffer.get() + row * column.width, length});
     }
   }
   rows.EndRow();

@@ -8,7 +8,7 @@ namespace store {
 namespace {
 
 constexpr char kSeparator = '\x1f';
-constexpr std::uint32_t kBlock = 64;
+constexpr std::uint32_t kBlock = 16;
 constexpr std::uint8_t kLong = 255;
 
 /// Whether a hit at `place` is one within the text from `start` to `end`. A text that holds the
@@ -128,11 +128,11 @@ void TextColumn::FindAll(const TextMatch& match, std::vector<std::uint32_t>& row
       row = static_cast<std::uint32_t>((place - 1) / (commonLength_ + 1));
       start = Start(row);
     } else {
-      const auto ahead =
-          std::upper_bound(blockStarts_.begin() + row / kBlock, blockStarts_.end(), place);
-      const auto block = static_cast<std::uint32_t>(ahead - blockStarts_.begin() - 1);
+      // Hits come in order, so the next one is seldom many blocks ahead.
+      size_t block = row / kBlock;
+      while (block + 1 < blockStarts_.size() && blockStarts_[block + 1] <= place) ++block;
       if (block > row / kBlock) {
-        row = block * kBlock;
+        row = static_cast<std::uint32_t>(block) * kBlock;
         start = blockStarts_[block];
       }
       while (start + Length(row) < place) start += Length(row++) + 1;

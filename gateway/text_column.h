@@ -17,7 +17,7 @@ struct TextMatch {
 
 /// One column of a recordset: all its texts in one arena of bytes, each behind a separator byte, so
 /// that a search is a single scan. A text's place is found through its length: one byte a row where
-/// that does, nothing at all while every text is equally long, and the place of each 64th row.
+/// that does, nothing at all while every text is equally long, and the place of each 16th row.
 class TextColumn {
  public:
   void Append(std::string_view value);
@@ -43,7 +43,7 @@ class TextColumn {
   std::string arena_;  // separator, text, separator, text, ... and one separator at the end
   std::vector<std::uint8_t> shortLengths_;  // a byte a row: 255 means look into longLengths_
   std::vector<std::pair<std::uint32_t, std::uint32_t>> longLengths_;  // row, length; rising
-  std::vector<std::uint32_t> blockStarts_;  // arena position of each 64th row's text
+  std::vector<std::uint32_t> blockStarts_;  // arena position of each 16th row's text
   std::vector<bool> nulls_;                 // empty while no row is NULL
   std::uint32_t rows_ = 0;
   std::uint32_t commonLength_ = 0;  // holds while uniform_

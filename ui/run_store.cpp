@@ -1,6 +1,9 @@
 #include "ui/run_store.h"
 
 #include <QApplication>
+#include <QElapsedTimer>
+#include <QTimer>
+#include <cstdio>
 
 #include "board/frm_Start.h"
 #include "forms/open_forms.h"
@@ -13,6 +16,38 @@
 #include "ui/style.h"
 
 namespace store {
+namespace {
+
+/// Tells how long the start took, piece by piece, when the environment asks for it.
+class StartClock {
+ public:
+  StartClock() { clock_.start(); }
+  bool Running() const { return running_; }
+  void Tell(const char* what) const {
+    if (!running_) return;
+    std::printf("%6lld ms  %s\n", static_cast<long long>(clock_.elapsed()), what);
+    std::fflush(stdout);
+  }
+
+ private:
+  bool running_ = qEnvironmentVariableIsSet("STORE_MEASURE_START");
+  QElapsedTimer clock_;
+};
+
+/// The board can be used when its slips and sums stand on the screen.
+void QuitWhenBoardIsUsable(const StartClock& start) {
+  QTimer::singleShot(0, qApp, [&start] {
+    const auto* board = dynamic_cast<frm_Start*>(OpenForm("frm_Start"));
+    if (board == nullptr || board->Label6[0].Caption.empty()) {
+      QuitWhenBoardIsUsable(start);
+      return;
+    }
+    start.Tell("board with notices and slips");
+    Dispatch([] { TheDesk().EndProgram(); });
+  });
+}
+
+}  // namespace
 
 void PrepareStore(QApplication& application) {
   ApplyStyle(application);
@@ -27,9 +62,13 @@ void PrepareStore(QApplication& application) {
 }
 
 int RunStore(QApplication& application, const std::string& commandLine) {
+  const StartClock start;
   PrepareStore(application);
+  start.Tell("toolkit, style and forms");
   bool goesOn = false;
   Dispatch([&] { goesOn = Main_Start(commandLine); });
+  start.Tell("login, splash, start data and items");
+  if (start.Running()) QuitWhenBoardIsUsable(start);
   const int code = goesOn && !TheDesk().Ending() ? QApplication::exec() : 0;
   TheDesk().Clear();
   DropAllForms();

@@ -1,0 +1,72 @@
+#include "bench/bench_server.h"
+
+#include <arpa/inet.h>
+#include <netinet/in.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+
+#include "gateway/gateway.h"
+#include "session/options_record.h"
+#include "session/session_record.h"
+
+namespace store {
+namespace {
+
+int FreePort() {
+  const int probe = socket(AF_INET, SOCK_STREAM, 0);
+  sockaddr_in address{};
+  address.sin_family = AF_INET;
+  address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+  bind(probe, reinterpret_cast<sockaddr*>(&address), sizeof(address));
+  socklen_t length = sizeof(address);
+  getsockname(probe, reinterpret_cast<sockaddr*>(&address), &length);
+  close(probe);
+  return ntohs(address.sin_port);
+}
+
+}  // namespace
+
+BenchServer::BenchServer() : port_(FreePort()) {
+  folder_ = (std::filesystem::temp_directory_path() / "store_bench_XXXXXX").string();
+  if (mkdtemp(folder_.data()) == nullptr) std::perror("store_bench");
+  setenv("DEMO_DATA", (ProgramFolder() + "/demo_data").c_str(), 1);
+  Script("start " + folder_ + " " + std::to_string(port_));
+}
+
+BenchServer::~BenchServer() {
+  Script("kill " + folder_);
+  std::error_code ignored;
+  std::filesystem::remove_all(folder_, ignored);
+}
+
+void BenchServer::Script(const std::string& arguments) const {
+  const std::string command = std::string(STORE_PRIVATE_DB) + " " + arguments + " </dev/null";
+  if (std::system(command.c_str()) != 0) {
+    std::fprintf(stderr, "store_bench: %s failed\n", command.c_str());
+    std::exit(2);
+  }
+}
+
+void BenchServer::Load(int items, int slips) {
+  Script("load " + folder_ + " " + std::to_string(port_) + " demo --items " +
+         std::to_string(items) + " --slips " + std::to_string(slips));
+}
+
+void ConnectTo(int port) {
+  Session.UserCode = "u01";
+  Session.StoreCode = "1001";
+  Session.StoreName = "성수역점";
+  AppOptions.DataServer = BenchServer::ServerOption(port);
+  AppOptions.CompanyId = "demo";
+  BuildConnectString(AppOptions.DataServer, "kt", "demo");
+}
+
+std::string ProgramFolder() {
+  return std::filesystem::read_symlink("/proc/self/exe").parent_path().string();
+}
+
+}  // namespace store

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <string>
+
+namespace store {
+
+/// A MariaDB of the run's own, gone at its end.
+class BenchServer {
+ public:
+  BenchServer();
+  ~BenchServer();
+  BenchServer(const BenchServer&) = delete;
+  BenchServer& operator=(const BenchServer&) = delete;
+
+  /// Fills database "demo" anew with so many products and orders.
+  void Load(int items, int slips);
+  int Port() const { return port_; }
+  const std::string& Folder() const { return folder_; }
+  /// What a data server option names.
+  static std::string ServerOption(int port) { return "127.0.0.1;PORT=" + std::to_string(port); }
+
+ private:
+  void Script(const std::string& arguments) const;
+  std::string folder_;
+  int port_ = 0;
+};
+
+/// Points the gateway at "demo" behind `port`, as u01 of store 1001.
+void ConnectTo(int port);
+
+/// The folder that holds the bench, the client and what they need.
+std::string ProgramFolder();
+
+}  // namespace store

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <mysql.h>
+
+#include <string>
+#include <vector>
+
+namespace store {
+
+/// One open connection of the C client library: the plainest road to the same server.
+class ClientLibrary {
+ public:
+  explicit ClientLibrary(int port);
+  ~ClientLibrary();
+  ClientLibrary(const ClientLibrary&) = delete;
+  ClientLibrary& operator=(const ClientLibrary&) = delete;
+
+  /// Reads every cell of a SELECT and gives the sum of their bytes.
+  size_t ReadAll(const std::string& select);
+  void Run(const std::string& statement);
+
+ private:
+  MYSQL* client_;
+};
+
+}  // namespace store
