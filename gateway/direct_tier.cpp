@@ -40,6 +40,15 @@ bool IsSelect(const std::string& statement) {
          SameFolded(std::string_view(statement).substr(begin, 6), "SELECT");
 }
 
+std::unique_ptr<Recordset> Read(OdbcConnection& connection, const std::string& statement,
+                                std::string& errorText) {
+  OdbcStatement run(connection);
+  if (!run.Run(statement, errorText)) return nullptr;
+  auto rows = ReadAllRows(run, errorText);
+  if (rows) connection.NoteAnswer();
+  return rows;
+}
+
 }  // namespace
 
 std::unique_ptr<Recordset> DirectTier::GETSQL(const std::string& statement, std::string& errorText,
@@ -49,11 +58,16 @@ std::unique_ptr<Recordset> DirectTier::GETSQL(const std::string& statement, std:
     return nullptr;
   }
   if (!NamesItsSource(connectString, errorText)) return nullptr;
-  const OdbcConnection* connection = ConnectionTo(connectString, errorText);
-  if (connection == nullptr) return nullptr;
-  OdbcStatement run(*connection);
-  if (!run.Run(statement, errorText)) return nullptr;
-  return ReadAllRows(run, errorText);
+  // A read may be made twice: it changes nothing. So one that follows closely on another does not
+  // ask first whether the connection stands, and is made again if it did not.
+  for (const bool trustLately : {true, false}) {
+    errorText.clear();
+    OdbcConnection* connection = ConnectionTo(connectString, trustLately, errorText);
+    if (connection == nullptr) return nullptr;
+    if (auto rows = Read(*connection, statement, errorText)) return rows;
+    if (connection->Alive()) return nullptr;
+  }
+  return nullptr;
 }
 
 bool DirectTier::PUTSQL(const std::vector<std::string>& statements, std::string& errorText,
@@ -62,7 +76,7 @@ bool DirectTier::PUTSQL(const std::vector<std::string>& statements, std::string&
   std::vector<std::string> toRun;
   std::copy_if(statements.begin(), statements.end(), std::back_inserter(toRun),
                [](const std::string& statement) { return !statement.empty(); });
-  OdbcConnection* connection = ConnectionTo(connectString, errorText);
+  OdbcConnection* connection = ConnectionTo(connectString, false, errorText);
   if (connection == nullptr) return false;
   if (toRun.empty()) return true;
   if (toRun.size() == 1) return OdbcStatement(*connection).Run(toRun[0], errorText);

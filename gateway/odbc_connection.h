@@ -3,6 +3,7 @@
 #include <sql.h>
 #include <sqlext.h>
 
+#include <chrono>
 #include <string>
 
 namespace store {
@@ -20,6 +21,9 @@ class OdbcConnection {
   void Disconnect();
   /// Asks the server, without running anything, whether the connection still stands.
   bool Alive() const;
+  /// Remembers that the server has just answered, and whether it did so within the last second.
+  void NoteAnswer() { answered_ = std::chrono::steady_clock::now(); }
+  bool AnsweredLately() const;
 
   SQLHDBC Handle() const { return handle_; }
   /// Whether the server runs a compound block sent as one statement.
@@ -30,13 +34,16 @@ class OdbcConnection {
 
   SQLHDBC handle_ = SQL_NULL_HDBC;
   bool connected_ = false;
+  std::chrono::steady_clock::time_point answered_{};
 };
 
 /// The connection of this process to what `connectString` names. It is kept from call to call, as
 /// logging in costs forty times as much as a small read; one that has died is noticed before
-/// anything is sent over it, and a fresh one takes its place. Nothing when the source cannot be
+/// anything is sent over it, and a fresh one takes its place. With `trustLately` a connection on
+/// which the server has just answered is not asked first. Nothing when the source cannot be
 /// reached, with the reason in `errorText`.
-OdbcConnection* ConnectionTo(const std::string& connectString, std::string& errorText);
+OdbcConnection* ConnectionTo(const std::string& connectString, bool trustLately,
+                             std::string& errorText);
 
 /// One statement handle of a connection.
 class OdbcStatement {

@@ -124,6 +124,15 @@ TEST_F(Gate, APowerCutWhileABatchRunsLeavesAllOfItOrNothing) {
   }
 }
 
+TEST_F(Gate, AReadThatFindsItsConnectionClosedIsMadeOnAFreshOne) {
+  Query("SELECT CONNECTION_ID()");
+  const std::string first = table.At(1, 0);
+  TestServer().Sql("gate", "KILL " + first);
+  Query("SELECT CONNECTION_ID()");
+  ASSERT_EQ(rows, 1) << LastErrorText;
+  EXPECT_NE(table.At(1, 0), first);
+}
+
 /// A listener that takes connections and never says a word.
 class MuteServer {
  public:

@@ -1,5 +1,7 @@
 #include "tests/journeys/widgets/hands.h"
 
+#include <gtest/gtest.h>
+
 #include <QApplication>
 #include <QInputMethodEvent>
 #include <QLabel>
@@ -7,6 +9,7 @@
 #include <QMessageBox>
 #include <QTimer>
 #include <QtTest>
+#include <cstdlib>
 
 #include "forms/form.h"
 #include "ui/desk.h"
@@ -16,12 +19,20 @@
 namespace store {
 namespace {
 
-constexpr int kPoll = 10;  // milliseconds
+constexpr int kPoll = 10;               // milliseconds
+constexpr int kPatience = 30000;        // milliseconds
+constexpr int kStuck = 2 * kPatience;   // a window may be waited in, so longer than any wait
+
+/// Ends the run, but by way of the objects' ends: the private server must not stay behind.
+[[noreturn]] void GiveUp(const std::string& why) {
+  ADD_FAILURE() << why;
+  std::exit(EXIT_FAILURE);
+}
 
 template <class Widget>
-Widget& Named(QWidget& window, const QString& name) {
+Widget& Named(const QWidget& window, const QString& name) {
   auto* found = window.findChild<Widget*>(name);
-  if (found == nullptr) qFatal("no widget %s", qPrintable(name));
+  if (found == nullptr) GiveUp("no widget " + name.toStdString());
   return *found;
 }
 
@@ -30,52 +41,82 @@ QMessageBox* OpenBox() {
   return box != nullptr && box->isVisible() ? box : nullptr;
 }
 
+bool IsInFront(const std::string& formName) {
+  FormWindow* window = TheDesk().WindowNamed(formName);
+  return window != nullptr && window->isActiveWindow();
+}
+
 }  // namespace
 
+Hands::Hands() {
+  sinceProgress_.start();
+  Poll();
+}
+
 void Hands::AnswerBox(const QString& fragment, Qt::Key key) {
-  Announce({"box: " + fragment,
-            [fragment] { return OpenBox() != nullptr && OpenBox()->text().contains(fragment); },
-            [key] {
-              QWidget* at = OpenBox()->focusWidget();
-              QTest::keyClick(at != nullptr ? at : OpenBox(), key);
-            }});
+  announced_.push_back(
+      {"box: " + fragment,
+       [fragment] { return OpenBox() != nullptr && OpenBox()->text().contains(fragment); },
+       [key] {
+         QWidget* at = OpenBox()->focusWidget();
+         QTest::keyClick(at != nullptr ? at : OpenBox(), key);
+       }});
+}
+
+void Hands::See(const std::string& formName, std::function<void(FormWindow&)> look) {
+  announced_.push_back(
+      {QString::fromStdString(formName),
+       [formName] {
+         const FormWindow* window = TheDesk().WindowNamed(formName);
+         return window != nullptr && window->isVisible();
+       },
+       [formName, look = std::move(look)] { look(*TheDesk().WindowNamed(formName)); }});
 }
 
 void Hands::WorkIn(const std::string& formName, std::function<void(FormWindow&)> work) {
-  Announce({QString::fromStdString(formName),
-            [formName] {
-              // A form gives somebody the keyboard when it has finished opening.
-              FormWindow* window = TheDesk().WindowNamed(formName);
-              return window != nullptr && window->isActiveWindow() &&
-                     window->ShownForm().FocusRevision() > 0;
-            },
-            [formName, work = std::move(work)] { work(*TheDesk().WindowNamed(formName)); }});
-}
-
-void Hands::Announce(Announced announced) {
-  announced_.push_back(std::move(announced));
-  if (!polling_) Poll();
+  announced_.push_back(
+      {QString::fromStdString(formName),
+       [formName] {
+         // A form gives somebody the keyboard when it has finished opening.
+         return IsInFront(formName) &&
+                TheDesk().WindowNamed(formName)->ShownForm().FocusRevision() > 0;
+       },
+       [formName, work = std::move(work)] { work(*TheDesk().WindowNamed(formName)); }});
 }
 
 void Hands::Poll() {
-  polling_ = !announced_.empty();
-  if (!polling_) return;
   // The next round is set first: acting may open a window that keeps this one from coming back.
-  QTimer::singleShot(kPoll, qApp, [this] { Poll(); });
-  if (!announced_.front().ready()) return;
+  QTimer::singleShot(kPoll, &whileAlive_, [this] { Poll(); });
+  if (announced_.empty() || !announced_.front().ready()) {
+    SendAwayUnexpected();
+    return;
+  }
+  sinceProgress_.restart();
   const Announced now = std::move(announced_.front());
   announced_.pop_front();
   now.act();
 }
 
-bool Hands::Wait(const std::function<bool()>& holds) { return QTest::qWaitFor(holds, 30000); }
+void Hands::SendAwayUnexpected() {
+  if (QMessageBox* box = OpenBox()) {
+    // Nothing else moves while a box is open, so it will not become the announced one.
+    ADD_FAILURE() << "nobody expected the box: " << box->text().toStdString()
+                  << "\nexpected next: " << NextAnnounced().toStdString();
+    QTest::keyClick(box, Qt::Key_Escape);
+    return;
+  }
+  QWidget* modal = QApplication::activeModalWidget();
+  if (modal == nullptr) sinceProgress_.restart();
+  if (modal == nullptr || sinceProgress_.elapsed() < kStuck) return;
+  ADD_FAILURE() << "nobody works in " << modal->objectName().toStdString();
+  sinceProgress_.restart();
+  modal->close();
+}
+
+bool Hands::Wait(const std::function<bool()>& holds) { return QTest::qWaitFor(holds, kPatience); }
 
 FormWindow& Hands::Window(const std::string& formName) {
-  const bool shown = Wait([&] {
-    FormWindow* window = TheDesk().WindowNamed(formName);
-    return window != nullptr && window->isActiveWindow();
-  });
-  if (!shown) qFatal("the window %s did not come", formName.c_str());
+  if (!Wait([&] { return IsInFront(formName); })) GiveUp(formName + " did not come to the front");
   return *TheDesk().WindowNamed(formName);
 }
 
@@ -87,6 +128,7 @@ void Hands::Press(QWidget& window, int key, Qt::KeyboardModifiers modifiers) {
 void Hands::Type(QWidget& window, const QString& text) {
   for (const QChar letter : text) {
     QWidget* at = window.focusWidget();
+    if (at == nullptr) GiveUp("nothing has the keyboard in " + window.objectName().toStdString());
     if (letter.unicode() < 128) {
       QTest::keyClick(at, letter.toLatin1());
     } else {
@@ -101,30 +143,43 @@ void Hands::Click(QWidget& window, const QString& name) {
   QTest::mouseClick(&Named<QWidget>(window, name), Qt::LeftButton);
 }
 
-QString Hands::TextOf(QWidget& window, const QString& name) {
-  if (auto* label = window.findChild<QLabel*>(name)) return label->text();
-  return Named<QLineEdit>(window, name).text();
-}
-
-int Hands::RowWith(QWidget& window, const QString& grid, int column, const QString& text) {
-  const QAbstractItemModel& model = *Named<GridView>(window, grid).model();
-  for (int row = 0; row < model.rowCount(); ++row) {
-    if (model.index(row, column).data().toString() == text) return row;
-  }
-  return -1;
-}
-
-QString Hands::Cell(QWidget& window, const QString& grid, int row, int column) {
-  return Named<GridView>(window, grid).model()->index(row, column).data().toString();
-}
-
 void Hands::ClickCell(QWidget& window, const QString& grid, int row, int column, bool twice) {
   auto& view = Named<GridView>(window, grid);
   const QModelIndex cell = view.model()->index(row, column);
+  if (!cell.isValid()) GiveUp("no row " + std::to_string(row) + " in " + grid.toStdString());
   view.scrollTo(cell);
   const QPoint place = view.visualRect(cell).center();
   QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, place);
   if (twice) QTest::mouseDClick(view.viewport(), Qt::LeftButton, {}, place);
+}
+
+std::string Hands::KeyboardAt(const QWidget& window) {
+  return window.focusWidget() == nullptr ? "" : window.focusWidget()->objectName().toStdString();
+}
+
+std::string Hands::TextOf(const QWidget& window, const QString& name) {
+  if (auto* label = window.findChild<QLabel*>(name)) return label->text().toStdString();
+  return Named<QLineEdit>(window, name).text().toStdString();
+}
+
+std::vector<std::vector<std::string>> Hands::Rows(const QWidget& window, const QString& grid,
+                                                  const std::vector<int>& columns) {
+  const QAbstractItemModel& model = *Named<GridView>(window, grid).model();
+  std::vector<std::vector<std::string>> rows(static_cast<size_t>(model.rowCount()));
+  for (int row = 0; row < model.rowCount(); ++row) {
+    for (const int column : columns) {
+      const QString shown = model.index(row, column).data().toString();
+      rows[static_cast<size_t>(row)].push_back(shown.simplified().toStdString());
+    }
+  }
+  return rows;
+}
+
+int Hands::RowWith(const QWidget& window, const QString& grid, int column,
+                   const std::string& text) {
+  const auto rows = Rows(window, grid, {column});
+  const auto found = std::find(rows.begin(), rows.end(), std::vector{text});
+  return found == rows.end() ? -1 : static_cast<int>(found - rows.begin());
 }
 
 }  // namespace store

@@ -1,9 +1,12 @@
 #pragma once
 
+#include <QElapsedTimer>
+#include <QObject>
 #include <QString>
 #include <deque>
 #include <functional>
 #include <string>
+#include <vector>
 
 class QWidget;
 
@@ -12,11 +15,17 @@ namespace store {
 class FormWindow;
 
 /// The hands and eyes of a clerk: keys and clicks on widgets found by their names, and answers to
-/// the modal windows and boxes that are announced, in their order.
+/// the modal windows and boxes that are announced, in their order. A box that was not announced is
+/// a failure, and so is a modal window that nobody works in; both are sent away, so that the test
+/// goes on to its end.
 class Hands {
  public:
+  Hands();
+
   /// The next message box holds `fragment`; `key` answers it.
   void AnswerBox(const QString& fragment, Qt::Key key);
+  /// When the window of that form is on the screen, before anybody can work in it.
+  void See(const std::string& formName, std::function<void(FormWindow&)> look);
   /// When the window of that form is in front, `work` is done in it.
   void WorkIn(const std::string& formName, std::function<void(FormWindow&)> work);
   /// Whether everything that was announced has come.
@@ -24,8 +33,8 @@ class Hands {
   QString NextAnnounced() const { return announced_.empty() ? "" : announced_.front().what; }
 
   /// Runs window events until `holds`; false when it does not within half a minute.
-  static bool Wait(const std::function<bool()>& holds);
-  /// The window of the form with that name once it is in front and has been drawn.
+  [[nodiscard]] static bool Wait(const std::function<bool()>& holds);
+  /// The window of the form with that name once it is in front. One that never comes ends the run.
   static FormWindow& Window(const std::string& formName);
 
   /// To the widget of `window` that has the keyboard.
@@ -33,13 +42,19 @@ class Hands {
   /// Digits and Latin letters as keys, everything else as an input method commits it.
   static void Type(QWidget& window, const QString& text);
   static void Click(QWidget& window, const QString& name);
-  static QString TextOf(QWidget& window, const QString& name);
-
-  /// Row (from 0) of the grid whose cell in `column` holds `text`, or -1.
-  static int RowWith(QWidget& window, const QString& grid, int column, const QString& text);
-  static QString Cell(QWidget& window, const QString& grid, int row, int column);
   static void ClickCell(QWidget& window, const QString& grid, int row, int column,
                         bool twice = false);
+
+  /// Name of the widget that has the keyboard.
+  static std::string KeyboardAt(const QWidget& window);
+  static std::string TextOf(const QWidget& window, const QString& name);
+  /// The grid's rows as they are shown, of each the named columns; the lines of a cell are joined
+  /// by a blank.
+  static std::vector<std::vector<std::string>> Rows(const QWidget& window, const QString& grid,
+                                                    const std::vector<int>& columns);
+  /// Row (from 0) of the grid whose cell in `column` holds `text`, or -1.
+  static int RowWith(const QWidget& window, const QString& grid, int column,
+                     const std::string& text);
 
  private:
   struct Announced {
@@ -47,11 +62,12 @@ class Hands {
     std::function<bool()> ready;
     std::function<void()> act;
   };
-  void Announce(Announced announced);
   void Poll();
+  void SendAwayUnexpected();
 
   std::deque<Announced> announced_;
-  bool polling_ = false;
+  QElapsedTimer sinceProgress_;
+  QObject whileAlive_;  // the polling ends with it
 };
 
 }  // namespace store
