@@ -43,7 +43,7 @@ void QuitWhenBoardIsUsable(const StartClock& start) {
       return;
     }
     start.Tell("board with notices and slips");
-    QApplication::quit();
+    QCoreApplication::exit();
   });
 }
 

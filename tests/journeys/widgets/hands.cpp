@@ -19,9 +19,9 @@
 namespace store {
 namespace {
 
-constexpr int kPoll = 10;               // milliseconds
-constexpr int kPatience = 30000;        // milliseconds
-constexpr int kStuck = 2 * kPatience;   // a window may be waited in, so longer than any wait
+constexpr int kPoll = 10;              // milliseconds
+constexpr int kPatience = 30000;       // milliseconds
+constexpr int kStuck = 2 * kPatience;  // a window may be waited in, so longer than any wait
 
 /// Ends the run, but by way of the objects' ends: the private server must not stay behind.
 [[noreturn]] void GiveUp(const std::string& why) {
