@@ -7,7 +7,7 @@
 
 namespace store {
 
-/// Finds a product (table PR) by name, barcode or short code, or, behind a "/", by specification.
+/// Finds a product (table PR) by name, barcode or short code, or, behind a "/", by PR_STD.
 class HELP_BPR : public LookupForm {
  public:
   HELP_BPR();
@@ -15,7 +15,7 @@ class HELP_BPR : public LookupForm {
   Label Label2{"(@ 포함  * 면세)"};
   Button Command2{"새품목"};
 
-  /// Product code with its tax mark, name, specification, unit, short code, barcode and two blanks.
+  /// Product code with its tax mark, name, standard, unit, short code, barcode and two blanks.
   std::array<std::string, 8> Results;
 
   void Command2_Click();

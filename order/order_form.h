@@ -89,7 +89,6 @@ class OrderForm : public SlipForm {
   void FillHeader();
   void FillLine(int number, int row);
   void SaveSucceeded();
-  void SaveFailed();
 
   // Lines.
   void ApplyQuantity(int row);

@@ -3,15 +3,14 @@
 #include "gateway/gateway.h"
 #include "order/order_form.h"
 #include "session/base_settings.h"
-#include "session/dates.h"
 #include "session/numbers.h"
 #include "session/partner_name.h"
 #include "session/session_record.h"
 #include "session/text.h"
 #include "slips/depot_choice.h"
-#include "slips/document_date.h"
 #include "slips/item_list.h"
 #include "slips/post_order.h"
+#include "slips/slip_checks.h"
 #include "slips/slip_keys.h"
 
 namespace store {
@@ -32,7 +31,7 @@ void OrderForm::LaBtn_Click(int index) {
     posted = PostOrderChange(HeadValues, LineValues, SlipTable);
   }
   if (posted == -1) SaveSucceeded();
-  if (posted == 0) SaveFailed();
+  if (posted == 0) TellSaveFailed();
 }
 
 void OrderForm::SaveSucceeded() {
@@ -47,49 +46,31 @@ void OrderForm::SaveSucceeded() {
   SetFocus(Text1);
 }
 
-void OrderForm::SaveFailed() {
-  Host.MsgBox("저장이 실패하였습니다.\r\r MSG: " + LastErrorText, box::Question, "오류");
-}
-
 void OrderForm::ValidateOrder(std::int16_t& valid) {
   valid = 0;
   // The key comes before the checks: its date is the day that the document date is measured by.
   HeadValues[head::Id] = ParseNumber(SlipId) != 0 ? SlipId : NextSlipId(SlipTable);
   HeadValues[head::Date] = DTOrderDate.Value();
-  if (!DateFitsKey(HeadValues[head::Date], HeadValues[head::Id])) {
-    Host.MsgBox("발주일자를 확인바랍니다. 현재일기준 전후한달만 처리가능합니다.", box::Critical,
-                "발주일자오류");
-    return;
-  }
+  if (!CheckSlipDate(HeadValues)) return;
   FillHeader();
-  if (Trim(HeadValues[head::FromCode]).empty() || Trim(HeadValues[head::FromName]).empty()) {
-    Host.MsgBox("본사/가맹점입력은 필수입력입니다.                ", box::Critical, "본사/가맹점");
-    return;
-  }
+  if (!CheckSlipStore(HeadValues)) return;
   if (Trim(PartnerNameOf(HeadValues[head::ToCode])) != Trim(Text1.Text()) ||
       Trim(Text1.Text()).empty()) {
-    Host.MsgBox("거래처입력오류 확인바랍니다.             ", box::Critical, "거래처");
+    TellWrongPartner();
     SetFocus(Text1);
     return;
   }
   std::int16_t lines = 0;
   BuildOrderLines(lines);
   if (lines == 0) {
-    Host.MsgBox("전표순번자료가 없습니다.                    ", box::Critical, "전표순번");
+    TellNoLines();
     return;
   }
   valid = -1;
 }
 
 void OrderForm::FillHeader() {
-  HeadValues[head::Today] = FormatDateValue(Today(), "YYYY-MM-DD");
-  HeadValues[head::FromCode] = Session.StoreCode;
-  HeadValues[head::FromName] = Session.StoreName;
-  HeadValues[head::ToCode] = Text1.Tag;
-  HeadValues[head::ToName] = Text1.Text();
-  HeadValues[head::Supply] = PlainNumber(LaAmt[2].Caption);
-  HeadValues[head::Tax] = PlainNumber(LaAmt[3].Caption);
-  HeadValues[head::Total] = PlainNumber(LaAmt[1].Caption);
+  FillSlipHeader(HeadValues, Text1, LaAmt);
   // One blank, not an empty text, is how head office's side knows an order that nobody filled in.
   for (size_t i = head::OrderFirstBlank; i <= head::OrderLast; ++i) HeadValues[i] = " ";
 }
@@ -129,11 +110,7 @@ void OrderForm::FillLine(int number, int row) {
   put(line::Number, std::to_string(number));
   put(line::Date, HeadValues[head::Date]);
   put(line::ProductCode, FLEX1.TextMatrix(row, 1));
-  // The master data of this moment, not of the moment the line was written.
-  put(line::ProductName, ItemText(item::Name));
-  put(line::Standard, ItemText(item::Standard));
-  put(line::TaxKind, ItemText(item::TaxKind));
-  put(line::Unit, ItemText(item::Unit));
+  FillLineFromItem(LineValues, number);
   put(line::Quantity, PlainNumber(FLEX1.TextMatrix(row, 7)));
   put(line::OtherQty, "0");
   put(line::Cost, "0");

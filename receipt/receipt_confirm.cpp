@@ -4,15 +4,14 @@
 #include "receipt/frm_PE_UNIT.h"
 #include "receipt/receipt_columns.h"
 #include "session/base_settings.h"
-#include "session/dates.h"
 #include "session/numbers.h"
 #include "session/options_record.h"
 #include "session/session_record.h"
 #include "session/text.h"
 #include "slips/depot_choice.h"
-#include "slips/document_date.h"
 #include "slips/item_list.h"
 #include "slips/post_receipt.h"
+#include "slips/slip_checks.h"
 #include "slips/slip_keys.h"
 
 namespace store {
@@ -28,7 +27,7 @@ void frm_PE_UNIT::Command1_Click(int index) {
   ValidateReceipt(valid);
   if (valid == 0) return;
   if (PostReceipt(HeadValues, LineValues, SlipTable) == 0) {
-    Host.MsgBox("저장이 실패하였습니다.\r\r MSG: " + LastErrorText, box::Question, "오류");
+    TellSaveFailed();
     return;
   }
   Host.MsgBox("입고처리가 정상적으로 처리되었습니다.", box::Information, "입고완료");
@@ -40,38 +39,24 @@ void frm_PE_UNIT::ValidateReceipt(std::int16_t& valid) {
   HeadValues[head::Id] = NextSlipId(SlipTable);
   HeadValues[head::State] = "1";
   HeadValues[head::Date] = DTPicker1.Value();
-  if (!DateFitsKey(HeadValues[head::Date], HeadValues[head::Id])) {
-    Host.MsgBox("발주일자를 확인바랍니다. 현재일기준 전후한달만 처리가능합니다.", box::Critical,
-                "발주일자오류");
-    return;
-  }
+  if (!CheckSlipDate(HeadValues)) return;
   FillHeader();
-  if (Trim(HeadValues[head::FromCode]).empty() || Trim(HeadValues[head::FromName]).empty()) {
-    Host.MsgBox("본사/가맹점입력은 필수입력입니다.                ", box::Critical, "본사/가맹점");
-    return;
-  }
+  if (!CheckSlipStore(HeadValues)) return;
   if (Trim(HeadValues[head::ToName]).empty()) {
-    Host.MsgBox("거래처입력오류 확인바랍니다.             ", box::Critical, "거래처");
+    TellWrongPartner();
     return;
   }
   std::int16_t lines = 0;
   BuildReceiptLines(lines);
   if (lines == 0) {
-    Host.MsgBox("전표순번자료가 없습니다.                    ", box::Critical, "전표순번");
+    TellNoLines();
     return;
   }
   valid = -1;
 }
 
 void frm_PE_UNIT::FillHeader() {
-  HeadValues[head::Today] = FormatDateValue(Today(), "YYYY-MM-DD");
-  HeadValues[head::FromCode] = Session.StoreCode;
-  HeadValues[head::FromName] = Session.StoreName;
-  HeadValues[head::ToCode] = Text1.Tag;
-  HeadValues[head::ToName] = Text1.Text();
-  HeadValues[head::Supply] = PlainNumber(LaAmt[2].Caption);
-  HeadValues[head::Tax] = PlainNumber(LaAmt[3].Caption);
-  HeadValues[head::Total] = PlainNumber(LaAmt[1].Caption);
+  FillSlipHeader(HeadValues, Text1, LaAmt);
   HeadValues[head::Unpaid] = "0";
   HeadValues[head::Extra] = "0";
   HeadValues[head::Discount] = "0";
@@ -130,10 +115,7 @@ bool frm_PE_UNIT::FillLine(int number, int row) {
                 box::Critical, "단가정책오류");
     return false;
   }
-  put(line::ProductName, ItemText(item::Name));
-  put(line::Standard, ItemText(item::Standard));
-  put(line::TaxKind, ItemText(item::TaxKind));
-  put(line::Unit, ItemText(item::Unit));
+  FillLineFromItem(LineValues, number);
   put(line::Quantity, PlainNumber(FLEX1.TextMatrix(row, receipt::Received)));
   put(line::OtherQty, PlainNumber(FLEX1.TextMatrix(row, receipt::Ordered)));
   put(line::Cost, "0");

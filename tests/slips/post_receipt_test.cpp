@@ -74,7 +74,7 @@ TEST_F(PostReceiptTest, MovesTheStockOfEachLineInItsDepot) {
   EXPECT_EQ(Value("SELECT PR_NAME FROM IV WHERE HCT_CODE='100101' AND PR_CODE='P0001'"),
             "맑은생수");
   EXPECT_EQ(Stock("P0001", "100102"), "0/7/0");
-  // A new row takes the line's texts; a blank follows the specification.
+  // A new row takes the line's texts; a blank follows PR_STD.
   EXPECT_EQ(Stock("P0003"), "0/30/0");
   EXPECT_EQ(Value("SELECT CONCAT_WS('|',PR_NAME,PR_STD,PR_UNT,PR_BCODE,HCT_CODE) FROM IV WHERE "
                   "PR_CODE='P0003'"),

@@ -57,10 +57,7 @@ void Hands::AnswerBox(const QString& fragment, Qt::Key key) {
   announced_.push_back(
       {"box: " + fragment,
        [fragment] { return OpenBox() != nullptr && OpenBox()->text().contains(fragment); },
-       [key] {
-         QWidget* at = OpenBox()->focusWidget();
-         QTest::keyClick(at != nullptr ? at : OpenBox(), key);
-       }});
+       [this, key] { Answer(*OpenBox(), key); }});
 }
 
 void Hands::See(const std::string& formName, std::function<void(FormWindow&)> look) {
@@ -97,12 +94,18 @@ void Hands::Poll() {
   now.act();
 }
 
+void Hands::Answer(QMessageBox& box, Qt::Key key) {
+  answered_ = &box;
+  QTest::keyClick(box.focusWidget() != nullptr ? box.focusWidget() : &box, key);
+}
+
 void Hands::SendAwayUnexpected() {
-  if (QMessageBox* box = OpenBox()) {
+  QMessageBox* box = OpenBox();
+  if (box != nullptr && box != answered_) {
     // Nothing else moves while a box is open, so it will not become the announced one.
     ADD_FAILURE() << "nobody expected the box: " << box->text().toStdString()
                   << "\nexpected next: " << NextAnnounced().toStdString();
-    QTest::keyClick(box, Qt::Key_Escape);
+    Answer(*box, Qt::Key_Escape);
     return;
   }
   QWidget* modal = QApplication::activeModalWidget();

@@ -2,13 +2,15 @@
 
 #include <QElapsedTimer>
 #include <QObject>
+#include <QPointer>
 #include <QString>
+#include <QWidget>
 #include <deque>
 #include <functional>
 #include <string>
 #include <vector>
 
-class QWidget;
+class QMessageBox;
 
 namespace store {
 
@@ -24,7 +26,7 @@ class Hands {
 
   /// The next message box holds `fragment`; `key` answers it.
   void AnswerBox(const QString& fragment, Qt::Key key);
-  /// When the window of that form is on the screen, before anybody can work in it.
+  /// When the window of that form is on the screen, even one that nobody can work in.
   void See(const std::string& formName, std::function<void(FormWindow&)> look);
   /// When the window of that form is in front, `work` is done in it.
   void WorkIn(const std::string& formName, std::function<void(FormWindow&)> work);
@@ -63,9 +65,11 @@ class Hands {
     std::function<void()> act;
   };
   void Poll();
+  void Answer(QMessageBox& box, Qt::Key key);
   void SendAwayUnexpected();
 
   std::deque<Announced> announced_;
+  QPointer<QWidget> answered_;  // a button that a key presses stays down for a moment, with its box
   QElapsedTimer sinceProgress_;
   QObject whileAlive_;  // the polling ends with it
 };

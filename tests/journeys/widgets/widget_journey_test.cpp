@@ -394,7 +394,7 @@ TEST_F(WidgetJourney, TheCommandLineLogsInWithoutAWindow) {
   ExpectNotices();
   ExpectBoard(kOfToday);
   // As the program runs: closing the board is what ends it.
-  hands.WorkIn("frm_Start", [](FormWindow& board) { Hands::Press(board, Qt::Key_F12); });
+  hands.See("frm_Start", [](FormWindow& board) { Hands::Press(board, Qt::Key_F12); });
   hands.AnswerBox("프로그램을 종료하시겠습니까?", Qt::Key_Y);
   QTimer::singleShot(30000, &TheDesk(), [] { QApplication::exit(EXIT_FAILURE); });
   EXPECT_EQ(QApplication::exec(), EXIT_SUCCESS);

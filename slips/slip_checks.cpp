@@ -1,0 +1,60 @@
+#include "slips/slip_checks.h"
+
+#include "forms/host.h"
+#include "gateway/gateway.h"
+#include "session/dates.h"
+#include "session/numbers.h"
+#include "session/session_record.h"
+#include "session/text.h"
+#include "slips/document_date.h"
+#include "slips/item_list.h"
+
+namespace store {
+
+void FillSlipHeader(HeadArray& headValues, const TextBox& partner, const TotalLabels& totals) {
+  headValues[head::Today] = FormatDateValue(Today(), "YYYY-MM-DD");
+  headValues[head::FromCode] = Session.StoreCode;
+  headValues[head::FromName] = Session.StoreName;
+  headValues[head::ToCode] = partner.Tag;
+  headValues[head::ToName] = partner.Text();
+  headValues[head::Supply] = PlainNumber(totals[2].Caption);
+  headValues[head::Tax] = PlainNumber(totals[3].Caption);
+  headValues[head::Total] = PlainNumber(totals[1].Caption);
+}
+
+bool CheckSlipDate(const HeadArray& headValues) {
+  if (DateFitsKey(headValues[head::Date], headValues[head::Id])) return true;
+  Host.MsgBox("발주일자를 확인바랍니다. 현재일기준 전후한달만 처리가능합니다.", box::Critical,
+              "발주일자오류");
+  return false;
+}
+
+bool CheckSlipStore(const HeadArray& headValues) {
+  if (!Trim(headValues[head::FromCode]).empty() && !Trim(headValues[head::FromName]).empty()) {
+    return true;
+  }
+  Host.MsgBox("본사/가맹점입력은 필수입력입니다.                ", box::Critical, "본사/가맹점");
+  return false;
+}
+
+void TellWrongPartner() {
+  Host.MsgBox("거래처입력오류 확인바랍니다.             ", box::Critical, "거래처");
+}
+
+void TellNoLines() {
+  Host.MsgBox("전표순번자료가 없습니다.                    ", box::Critical, "전표순번");
+}
+
+void TellSaveFailed() {
+  Host.MsgBox("저장이 실패하였습니다.\r\r MSG: " + LastErrorText, box::Question, "오류");
+}
+
+void FillLineFromItem(StringTable& lineValues, int number) {
+  // The master data of this moment, not of the moment the line was written.
+  lineValues.Set(number, line::ProductName, ItemText(item::Name));
+  lineValues.Set(number, line::Standard, ItemText(item::Standard));
+  lineValues.Set(number, line::TaxKind, ItemText(item::TaxKind));
+  lineValues.Set(number, line::Unit, ItemText(item::Unit));
+}
+
+}  // namespace store
