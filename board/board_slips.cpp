@@ -56,6 +56,12 @@ void frm_Start::FLEX1_Click() {
   if (FLEX1.Col() == board::Confirm) OpenSlip(SelectedSlipId, SelectedSlipState);
 }
 
+void frm_Start::FLEX1_Walk() {
+  // The row that stands out is the slip that the keys work on, in whichever column one walks: F8
+  // must never delete another.
+  if (FLEX1.Row() >= 1) SelectSlip();
+}
+
 void frm_Start::FLEX1_DblClick() {
   if (FLEX1.Row() < 1) return;
   SelectSlip();

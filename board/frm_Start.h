@@ -57,6 +57,7 @@ class frm_Start : public MainWindow {
   void FLEX0_RowColChange();
   void FLEX0_DblClick();
   void FLEX1_Click();
+  void FLEX1_Walk();  ///< The keyboard has moved to another row.
   void FLEX1_DblClick();
   void FLEX1_KeyDown(Key key);
   void Text2_KeyPress(Key key);

@@ -154,11 +154,7 @@ QWidget* BoardWindow::Slips() {
   };
   slips_->Events.Click = [this] { board_.FLEX1_Click(); };
   slips_->Events.DblClick = [this] { board_.FLEX1_DblClick(); };
-  // The row that stands out is the slip that the keys work on, however one came to it. In the last
-  // column a click would open the slip.
-  slips_->Events.Walk = [this] {
-    if (board_.FLEX1.Col() != board::Confirm) board_.FLEX1_Click();
-  };
+  slips_->Events.Walk = [this] { board_.FLEX1_Walk(); };
   BindGrid(*this, "FLEX1", board_.FLEX1, *slips_);
   OnKey(board_.FLEX1, [this](Key key) {
     board_.FLEX1_KeyDown(key);
