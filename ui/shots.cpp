@@ -318,7 +318,7 @@ int main(int argc, char** argv) {
   store::ShootStoredSlips(director);
   store::ShootLookups(director);
   store::ShootBoxes(director);
-  director.When([] { return true; }, [] { QCoreApplication::quit(); });
+  director.When([] { return true; }, [] { QCoreApplication::exit(); });
   bool goesOn = false;
   store::Dispatch([&] { goesOn = store::Main_Start(""); });
   if (!goesOn) store::Director::Fail("the login did not succeed");

@@ -9,6 +9,7 @@
 #include <QMessageBox>
 #include <QTimer>
 #include <QtTest>
+#include <algorithm>
 #include <cstdlib>
 
 #include "forms/form.h"
