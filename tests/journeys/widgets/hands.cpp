@@ -124,6 +124,11 @@ FormWindow& Hands::Window(const std::string& formName) {
   return *TheDesk().WindowNamed(formName);
 }
 
+void Hands::ComeTo(const std::string& formName) {
+  if (FormWindow* window = TheDesk().WindowNamed(formName)) window->activateWindow();
+  Window(formName);
+}
+
 void Hands::Press(QWidget& window, int key, Qt::KeyboardModifiers modifiers) {
   QWidget* at = window.focusWidget() != nullptr ? window.focusWidget() : &window;
   QTest::keyClick(at, static_cast<Qt::Key>(key), modifiers);

@@ -38,6 +38,8 @@ class Hands {
   [[nodiscard]] static bool Wait(const std::function<bool()>& holds);
   /// The window of the form with that name once it is in front. One that never comes ends the run.
   static FormWindow& Window(const std::string& formName);
+  /// Brings an open window to the front, as the window system does when one clicks into it.
+  static void ComeTo(const std::string& formName);
 
   /// To the widget of `window` that has the keyboard.
   static void Press(QWidget& window, int key, Qt::KeyboardModifiers modifiers = {});

@@ -153,8 +153,6 @@ class WidgetJourney : public testing::Test {
   }
   void TearDown() override {
     EXPECT_TRUE(hands.AllDone()) << "did not come: " << hands.NextAnnounced().toStdString();
-    // The end of one run is still in the queue and must not end the next one's splash.
-    QCoreApplication::processEvents();
     TheDesk().Clear();
     ResetProcessState();
   }
@@ -180,6 +178,7 @@ class WidgetJourney : public testing::Test {
   void ChangeOrder(const std::string& id);
   void ConfirmAgain(const std::string& id);
   void Receive(const std::string& id, int ordered, int received);
+  void CloseBoard();
 
   QTemporaryDir folder_;
   Hands hands;
@@ -344,6 +343,18 @@ void WidgetJourney::Receive(const std::string& id, int ordered, int received) {
   ExpectBoard(kDue);
 }
 
+/// As the program runs: closing the board is what ends it.
+void WidgetJourney::CloseBoard() {
+  hands.See("frm_Start", [](FormWindow& board) { Hands::Press(board, Qt::Key_F12); });
+  hands.AnswerBox("프로그램을 종료하시겠습니까?", Qt::Key_Y);
+  QTimer limit;
+  QObject::connect(&limit, &QTimer::timeout, [] { QApplication::exit(EXIT_FAILURE); });
+  limit.start(30000);
+  EXPECT_EQ(QApplication::exec(), EXIT_SUCCESS) << "the program did not end";
+  EXPECT_TRUE(TheDesk().Ending());
+  EXPECT_EQ(TheDesk().WindowNamed("frm_Start"), nullptr);
+}
+
 TEST_F(WidgetJourney, AnOrderGoesOutTheGoodsComeInAndStockMoves) {
   ASSERT_NO_FATAL_FAILURE(Start(""));
   ExpectNotices();
@@ -384,10 +395,7 @@ TEST_F(WidgetJourney, AnOrderGoesOutTheGoodsComeInAndStockMoves) {
   Hands::Press(Board(), Qt::Key_F12);
   EXPECT_FALSE(TheDesk().Ending());
   EXPECT_TRUE(Board().isVisible());
-  hands.AnswerBox("프로그램을 종료하시겠습니까?", Qt::Key_Y);
-  Hands::Press(Board(), Qt::Key_F12);
-  EXPECT_TRUE(TheDesk().Ending());
-  EXPECT_EQ(TheDesk().WindowNamed("frm_Start"), nullptr);
+  CloseBoard();
   EXPECT_EQ(SlotC, nullptr);
 }
 
@@ -395,12 +403,15 @@ TEST_F(WidgetJourney, TheCommandLineLogsInWithoutAWindow) {
   ASSERT_NO_FATAL_FAILURE(Start("u01,1111"));
   ExpectNotices();
   ExpectBoard(kOfToday);
-  // As the program runs: closing the board is what ends it.
-  hands.See("frm_Start", [](FormWindow& board) { Hands::Press(board, Qt::Key_F12); });
-  hands.AnswerBox("프로그램을 종료하시겠습니까?", Qt::Key_Y);
-  QTimer::singleShot(30000, &TheDesk(), [] { QApplication::exit(EXIT_FAILURE); });
-  EXPECT_EQ(QApplication::exec(), EXIT_SUCCESS);
-  EXPECT_TRUE(TheDesk().Ending());
+  CloseBoard();
+}
+
+TEST_F(WidgetJourney, TheBoardEndsTheProgramEvenBesideAnOpenOrder) {
+  ASSERT_NO_FATAL_FAILURE(Start("u01,1111"));
+  Hands::Press(Board(), Qt::Key_F2);
+  Order();
+  Hands::ComeTo("frm_Start");
+  CloseBoard();
 }
 
 }  // namespace
