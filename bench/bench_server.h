@@ -4,7 +4,7 @@
 
 namespace store {
 
-/// A MariaDB of the run's own, gone at its end.
+/// A MariaDB of the run's own, gone at its end however the run ends. There is one in a run.
 class BenchServer {
  public:
   BenchServer();
@@ -12,8 +12,8 @@ class BenchServer {
   BenchServer(const BenchServer&) = delete;
   BenchServer& operator=(const BenchServer&) = delete;
 
-  /// Fills database "demo" anew with so many products and orders.
-  void Load(int items, int slips);
+  /// Makes a database anew and fills it with so many products and orders of the demo franchise.
+  void Load(const std::string& database, int items, int slips);
   int Port() const { return port_; }
   const std::string& Folder() const { return folder_; }
   /// What a data server option names.
@@ -25,8 +25,11 @@ class BenchServer {
   int port_ = 0;
 };
 
-/// Points the gateway at "demo" behind `port`, as u01 of store 1001.
-void ConnectTo(int port);
+/// The database that all but the growth is measured on.
+constexpr const char* kDemo = "demo";
+
+/// Points the gateway at a database behind `port`, as u01 of store 1001.
+void ConnectTo(int port, const std::string& database = kDemo);
 
 /// The folder that holds the bench, the client and what they need.
 std::string ProgramFolder();

@@ -10,8 +10,8 @@ const char* ItemListStatement();
 
 void BenchItemList(BenchServer& server, RatioTable& table);
 void BenchFilters(RatioTable& table);
-/// How reads and filters grow from 2,000 items to all of them.
-void BenchGrowth(int items);
+/// How reads and filters grow with the number of items: a database of each size, up to `items`.
+void BenchGrowth(BenchServer& server, int items);
 void BenchPosting(BenchServer& server, RatioTable& table);
 void BenchSmallRead(RatioTable& table);
 /// Needs the demo of 3,000 items to be loaded.

@@ -21,14 +21,19 @@ Duel Fight(int rounds, const std::function<void()>& ours, const std::function<vo
   return best;
 }
 
+void RatioTable::Head() const {
+  std::printf("%-63s %9s %9s\n", "work, against its peer", "ours", "peer");
+}
+
 void RatioTable::Add(const std::string& work, double ours, double peer, const char* unit,
                      double goal) {
   const double ratio = ours / peer;
   const bool met = ratio <= goal;
   allMet_ = allMet_ && met;
-  std::printf("%s: %.3f %s against %.3f %s", work.c_str(), ours, unit, peer, unit);
-  if (!met) std::printf(", %.0f %% over the goal", (ratio / goal - 1) * 100);
-  std::printf("  ratio=%.3f goal<=%.2f %s\n", ratio, goal, met ? "met" : "MISSED");
+  char excess[32] = "";
+  if (!met) std::snprintf(excess, sizeof(excess), "%.0f %% over", (ratio / goal - 1) * 100);
+  std::printf("%-63s %9.3f %9.3f %s %11s  ratio=%.3f goal<=%.2f %s\n", work.c_str(), ours, peer,
+              unit, excess, ratio, goal, met ? "met" : "MISSED");
   std::fflush(stdout);
 }
 

@@ -19,6 +19,8 @@ Duel Fight(int rounds, const std::function<void()>& ours, const std::function<vo
 /// The lines that are measured against a goal.
 class RatioTable {
  public:
+  /// Prints what stands in the columns.
+  void Head() const;
   /// Prints a line: what was done, both figures, and the machine-readable verdict.
   void Add(const std::string& work, double ours, double peer, const char* unit, double goal);
   void AddTimes(const std::string& work, const Duel& duel, double goal);

@@ -41,7 +41,7 @@ void BenchStart(BenchServer& server, RatioTable& table) {
   const std::string program = CopyOfProgram(server) + "/store_client u01,1111 2>/dev/null";
   setenv("QT_QPA_PLATFORM", "offscreen", 1);
   setenv("STORE_MEASURE_START", "1", 1);
-  std::printf("where the start goes, from main():\n");
+  std::printf("where the start goes, from the toolkit being up to the board:\n");
   std::fflush(stdout);
   Run(program);
   table.AddTimes("start to a usable board, against an empty Qt main window",

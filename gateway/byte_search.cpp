@@ -2,8 +2,8 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <cstdint>
-#include <cstring>
 #include <numeric>
 #include <vector>
 
@@ -18,10 +18,16 @@ bool IsAsciiLetter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 
 
 std::array<std::uint32_t, 256> CountFolded(std::string_view sample) {
   std::array<std::uint32_t, 256> counts{};
-  // A slice from the middle tells enough; counting millions of bytes would cost more than it saves.
-  constexpr size_t slice = 16384;
-  if (sample.size() > slice) sample = sample.substr((sample.size() - slice) / 2, slice);
-  for (const char c : sample) ++counts[static_cast<unsigned char>(FoldAscii(c))];
+  // Bits from everywhere in the run tell enough, and cost less than they save. A single slice would
+  // not do: in a sorted column neighbours are alike.
+  constexpr size_t bits = 64;
+  constexpr size_t bitBytes = 64;
+  const size_t stride = std::max(sample.size() / bits, bitBytes);
+  for (size_t at = 0; at < sample.size(); at += stride) {
+    for (const char c : sample.substr(at, bitBytes)) {
+      ++counts[static_cast<unsigned char>(FoldAscii(c))];
+    }
+  }
   return counts;
 }
 
@@ -38,11 +44,15 @@ ByteSearch::ByteSearch(std::string_view needle, std::string_view sample) : folde
   std::partial_sort(places.begin(), places.begin() + static_cast<std::ptrdiff_t>(wanted),
                     places.end(), [&](size_t a, size_t b) { return rarity(a) < rarity(b); });
   for (size_t i = 0; i < watched_.size() && wanted > 0; ++i) watched_[i] = places[i % wanted];
+  watchesAll_ = folded_.size() <= watched_.size();
 }
 
-bool ByteSearch::EqualAt(const char* place) const {
-  if (!hasLetters_) return std::memcmp(place, folded_.data(), folded_.size()) == 0;
-  return SameFolded(std::string_view(place, folded_.size()), folded_);
+void ByteSearch::NoteIfEqual(std::string_view run, size_t place, Hits& hits) const {
+  if (!watchesAll_) {
+    const std::string_view text = run.substr(place, folded_.size());
+    if (hasLetters_ ? !SameFolded(text, folded_) : text != folded_) return;
+  }
+  hits.places[hits.count++] = place;
 }
 
 bool SameFolded(std::string_view a, std::string_view b) {
@@ -51,43 +61,62 @@ bool SameFolded(std::string_view a, std::string_view b) {
          });
 }
 
-size_t ByteSearch::Next(std::string_view run, size_t from) const {
+void ByteSearch::Next(std::string_view run, size_t from, Hits& hits) const {
+  hits.count = 0;
+  hits.next = npos;
   const size_t length = folded_.size();
-  if (length == 0) return from <= run.size() ? from : npos;
-  if (run.size() < length) return npos;
+  if (length == 0 || run.size() < length) return;
   const size_t last = run.size() - length;  // the last place where the needle can begin
   size_t at = from;
 #ifdef __SSE2__
-  // A letter is compared with its case bit set on both sides; the few other bytes that this also
-  // lets pass fall out in EqualAt.
-  __m128i wanted[3];
-  __m128i caseBit[3];
-  for (size_t i = 0; i < watched_.size(); ++i) {
-    const char byte = folded_[watched_[i]];
-    wanted[i] = _mm_set1_epi8(byte);
-    caseBit[i] = _mm_set1_epi8(IsAsciiLetter(byte) ? char{0x20} : char{0});
-  }
-  const auto meets = [&](size_t position, size_t i) {
-    const __m128i bytes =
-        _mm_loadu_si128(reinterpret_cast<const __m128i*>(run.data() + position + watched_[i]));
-    return _mm_cmpeq_epi8(_mm_or_si128(bytes, caseBit[i]), wanted[i]);
+  // A letter is compared with its case bit set on both sides: only its own two cases then meet it.
+  struct Watch {
+    const char* bytes;
+    __m128i wanted;
+    __m128i caseBit;
   };
-  for (; at + 15 <= last; at += 16) {
-    const __m128i all = _mm_and_si128(_mm_and_si128(meets(at, 0), meets(at, 1)), meets(at, 2));
-    auto hits = static_cast<std::uint32_t>(_mm_movemask_epi8(all));
-    while (hits != 0) {
-      const size_t place = at + static_cast<size_t>(__builtin_ctz(hits));
-      if (EqualAt(run.data() + place)) return place;
-      hits &= hits - 1;
+  const auto watch = [&](size_t i) {
+    const char byte = folded_[watched_[i]];
+    return Watch{run.data() + watched_[i], _mm_set1_epi8(byte),
+                 _mm_set1_epi8(IsAsciiLetter(byte) ? char{0x20} : char{0})};
+  };
+  const auto meets = [](const Watch& w, size_t position) {
+    const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(w.bytes + position));
+    return _mm_cmpeq_epi8(_mm_or_si128(bytes, w.caseBit), w.wanted);
+  };
+  const Watch first = watch(0);
+  const Watch second = watch(1);
+  const Watch third = watch(2);
+  const auto meetsAll = [&](size_t position) {
+    return _mm_and_si128(_mm_and_si128(meets(first, position), meets(second, position)),
+                         meets(third, position));
+  };
+  for (; at + 63 <= last; at += 64) {
+    if (hits.count + 64 > hits.places.size()) {
+      hits.next = at;
+      return;
+    }
+    const __m128i found[4] = {meetsAll(at), meetsAll(at + 16), meetsAll(at + 32),
+                              meetsAll(at + 48)};
+    const __m128i any =
+        _mm_or_si128(_mm_or_si128(found[0], found[1]), _mm_or_si128(found[2], found[3]));
+    if (_mm_movemask_epi8(any) == 0) continue;
+    std::uint64_t places = 0;
+    for (int i = 3; i >= 0; --i) {
+      places = places << 16 | static_cast<std::uint32_t>(_mm_movemask_epi8(found[i]));
+    }
+    for (; places != 0; places &= places - 1) {
+      NoteIfEqual(run, at + static_cast<size_t>(std::countr_zero(places)), hits);
     }
   }
 #endif
   for (; at <= last; ++at) {
-    if (FoldAscii(run[at + watched_[0]]) == folded_[watched_[0]] && EqualAt(run.data() + at)) {
-      return at;
+    if (hits.count == hits.places.size()) {
+      hits.next = at;
+      return;
     }
+    if (SameFolded(run.substr(at, length), folded_)) hits.places[hits.count++] = at;
   }
-  return npos;
 }
 
 }  // namespace store

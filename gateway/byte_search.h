@@ -16,16 +16,25 @@ class ByteSearch {
   /// `sample` is the run, or a good part of it, from which the rarity of bytes is judged.
   ByteSearch(std::string_view needle, std::string_view sample);
 
-  /// Position of the next occurrence at or after `from`, or npos.
-  size_t Next(std::string_view run, size_t from) const;
-
   static constexpr size_t npos = std::string_view::npos;
 
+  /// Places where the needle begins, rising.
+  struct Hits {
+    std::array<size_t, 256> places;
+    size_t count = 0;
+    size_t next = npos;  ///< Where to go on from; npos when the run is done.
+  };
+  /// Fills `hits` with the occurrences at or after `from`, as many as fit. They come in handfuls,
+  /// since a common needle is met every few hundred bytes and each call has to set up its
+  /// registers.
+  void Next(std::string_view run, size_t from, Hits& hits) const;
+
  private:
-  bool EqualAt(const char* place) const;
+  void NoteIfEqual(std::string_view run, size_t place, Hits& hits) const;
 
   std::string folded_;
   bool hasLetters_ = false;
+  bool watchesAll_ = false;          // a needle of up to three bytes is met where those are
   std::array<size_t, 3> watched_{};  // places in the needle; the same ones again in a short one
 };
 

@@ -9,7 +9,6 @@ namespace {
 
 constexpr char kSeparator = '\x1f';
 constexpr std::uint32_t kBlock = 16;
-constexpr std::uint8_t kLong = 255;
 
 /// Whether a hit at `place` is one within the text from `start` to `end`. A text that holds the
 /// separator byte itself can look like a border between two.
@@ -65,9 +64,7 @@ void TextColumn::Seal() {
   nulls_.shrink_to_fit();
 }
 
-size_t TextColumn::Length(std::uint32_t row) const {
-  if (uniform_) return commonLength_;
-  if (shortLengths_[row] != kLong) return shortLengths_[row];
+size_t TextColumn::LongLength(std::uint32_t row) const {
   const auto found =
       std::lower_bound(longLengths_.begin(), longLengths_.end(), row,
                        [](const auto& entry, std::uint32_t r) { return entry.first < r; });
@@ -112,38 +109,39 @@ void TextColumn::FindAll(const TextMatch& match, std::vector<std::uint32_t>& row
   if (match.fromStart) wanted.insert(wanted.begin(), kSeparator);
   if (match.toEnd) wanted.push_back(kSeparator);
   const ByteSearch search(wanted, arena_);
-
-  std::uint32_t row = 0;
-  size_t start = 1;  // arena position of `row`'s text
-  size_t from = 0;
-  for (;;) {
-    const size_t hit = search.Next(arena_, from);
-    if (hit == ByteSearch::npos) return;
-    const size_t place = hit + (match.fromStart ? 1 : 0);  // where the needle itself begins
-    if (place == 0) {  // a needle that begins with the separator byte met the first border
-      from = 1;
-      continue;
-    }
-    if (uniform_) {
-      row = static_cast<std::uint32_t>((place - 1) / (commonLength_ + 1));
-      start = Start(row);
-    } else {
-      // Hits come in order, so the next one is seldom many blocks ahead.
-      size_t block = row / kBlock;
-      while (block + 1 < blockStarts_.size() && blockStarts_[block + 1] <= place) ++block;
-      if (block > row / kBlock) {
-        row = static_cast<std::uint32_t>(block) * kBlock;
-        start = blockStarts_[block];
-      }
-      while (start + Length(row) < place) start += Length(row++) + 1;
-    }
-    if (row < rows_ && !IsNull(row) && Stands(place, start, start + Length(row), match)) {
-      rows.push_back(row);
-      from = start + Length(row);
-    } else {
-      from = hit + 1;
+  const size_t lead = match.fromStart ? 1 : 0;  // the needle itself begins behind the separator
+  Spot spot;
+  size_t taken = 0;  // end of the last row that met
+  ByteSearch::Hits hits;
+  for (size_t from = 0; from != ByteSearch::npos; from = hits.next) {
+    search.Next(arena_, from, hits);
+    for (size_t i = 0; i < hits.count; ++i) {
+      const size_t place = hits.places[i] + lead;
+      // A needle that begins with the separator byte can meet the border before the first text.
+      if (hits.places[i] < taken || place == 0) continue;
+      spot = GoTo(place, spot);
+      const size_t end = spot.start + Length(spot.row);
+      if (!Stands(place, spot.start, end, match) || IsNull(spot.row)) continue;
+      rows.push_back(spot.row);
+      taken = end;
     }
   }
+}
+
+TextColumn::Spot TextColumn::GoTo(size_t place, Spot from) const {
+  if (uniform_) {
+    const auto row = static_cast<std::uint32_t>((place - 1) / (commonLength_ + 1));
+    return {row, Start(row)};
+  }
+  // Places come in order, so the next one is seldom many blocks ahead.
+  const size_t former = from.row / kBlock;
+  size_t block = former;
+  while (block + 1 < blockStarts_.size() && blockStarts_[block + 1] <= place) ++block;
+  if (block > former) from = {static_cast<std::uint32_t>(block) * kBlock, blockStarts_[block]};
+  for (size_t next = 0; (next = from.start + Length(from.row) + 1) <= place; ++from.row) {
+    from.start = next;
+  }
+  return from;
 }
 
 size_t TextColumn::BytesHeld() const {

@@ -37,11 +37,24 @@ class TextColumn {
 
  private:
   void NoteLength(size_t length);
-  size_t Length(std::uint32_t row) const;
+  size_t Length(std::uint32_t row) const {
+    if (uniform_) return commonLength_;
+    return shortLengths_[row] != kLong ? shortLengths_[row] : LongLength(row);
+  }
+  size_t LongLength(std::uint32_t row) const;
   size_t Start(std::uint32_t row) const;
+  /// A row and the arena position of its text.
+  struct Spot {
+    std::uint32_t row = 0;
+    size_t start = 1;
+  };
+  /// Goes on from a row to the one that holds `place` of the arena.
+  Spot GoTo(size_t place, Spot from) const;
+
+  static constexpr std::uint8_t kLong = 255;
 
   std::string arena_;  // separator, text, separator, text, ... and one separator at the end
-  std::vector<std::uint8_t> shortLengths_;  // a byte a row: 255 means look into longLengths_
+  std::vector<std::uint8_t> shortLengths_;  // a byte a row: kLong means look into longLengths_
   std::vector<std::pair<std::uint32_t, std::uint32_t>> longLengths_;  // row, length; rising
   std::vector<std::uint32_t> blockStarts_;  // arena position of each 16th row's text
   std::vector<bool> nulls_;                 // empty while no row is NULL

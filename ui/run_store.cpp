@@ -3,12 +3,15 @@
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QTimer>
+#include <QWidget>
 #include <cstdio>
 
 #include "board/frm_Start.h"
+#include "forms/host.h"
 #include "forms/open_forms.h"
 #include "order/order_forms.h"
 #include "receipt/frm_PE_UNIT.h"
+#include "session/frmSplash.h"
 #include "session/main_start.h"
 #include "ui/desk.h"
 #include "ui/real_host.h"
@@ -34,6 +37,17 @@ class StartClock {
   QElapsedTimer clock_;
 };
 
+/// Tells when each step begins that the splash shows.
+void TellSteps(const StartClock& start) {
+  Host.DoEvents = [&start, letEventsRun = Host.DoEvents] {
+    letEventsRun();
+    const auto* splash = dynamic_cast<frmSplash*>(OpenForm("frmSplash"));
+    if (splash == nullptr) return;
+    const std::string& step = splash->lblStep.Caption;
+    start.Tell(step.empty() ? "logged in, the splash is shown" : step.c_str());
+  };
+}
+
 /// The board can be used when its slips and sums stand on the screen.
 void QuitWhenBoardIsUsable(const StartClock& start) {
   QTimer::singleShot(0, qApp, [&start] {
@@ -42,7 +56,10 @@ void QuitWhenBoardIsUsable(const StartClock& start) {
       QuitWhenBoardIsUsable(start);
       return;
     }
-    start.Tell("board with notices and slips");
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+      if (window->isVisible()) window->repaint();
+    }
+    start.Tell("board with notices and slips, drawn");
     QCoreApplication::exit();
   });
 }
@@ -65,9 +82,10 @@ int RunStore(QApplication& application, const std::string& commandLine) {
   const StartClock start;
   PrepareStore(application);
   start.Tell("toolkit, style and forms");
+  if (start.Running()) TellSteps(start);
   bool goesOn = false;
   Dispatch([&] { goesOn = Main_Start(commandLine); });
-  start.Tell("login, splash, start data and items");
+  start.Tell("start data and items are there, the board opens");
   if (start.Running()) QuitWhenBoardIsUsable(start);
   const int code = goesOn && !TheDesk().Ending() ? QApplication::exec() : 0;
   TheDesk().Clear();
