@@ -40,8 +40,8 @@ std::string ComposeBlock(const std::vector<std::string>& statements) {
 }
 
 bool SwitchAutocommit(const OdbcConnection& connection, SQLULEN mode) {
-  return SQL_SUCCEEDED(SQLSetConnectAttr(connection.Handle(), SQL_ATTR_AUTOCOMMIT,
-                                         reinterpret_cast<SQLPOINTER>(mode), 0));
+  return SQL_SUCCEEDED(
+      SQLSetConnectAttr(connection.Handle(), SQL_ATTR_AUTOCOMMIT, AttributeValue(mode), 0));
 }
 
 bool RunOneByOne(OdbcConnection& connection, const std::vector<std::string>& statements,

@@ -71,7 +71,7 @@ size_t BindColumns(SQLHSTMT statement, std::vector<ResultColumn>& columns) {
   SQLRowCount(statement, &count);
   const size_t most = count > 0 ? std::min(static_cast<size_t>(count), kMostRows) : kMostRows;
   const size_t rows = allBound ? std::clamp<size_t>(kBufferBytes / rowBytes, 1, most) : 1;
-  SQLSetStmtAttr(statement, SQL_ATTR_ROW_ARRAY_SIZE, reinterpret_cast<SQLPOINTER>(rows), 0);
+  SQLSetStmtAttr(statement, SQL_ATTR_ROW_ARRAY_SIZE, AttributeValue(rows), 0);
   for (size_t i = 0; i < columns.size(); ++i) {
     ResultColumn& column = columns[i];
     if (!column.bound) continue;

@@ -95,8 +95,7 @@ class ConnectAttempt {
 
 OdbcConnection::OdbcConnection() {
   SQLAllocHandle(SQL_HANDLE_DBC, Environment(), &handle_);
-  SQLSetConnectAttr(handle_, SQL_ATTR_LOGIN_TIMEOUT,
-                    reinterpret_cast<SQLPOINTER>(static_cast<SQLULEN>(ConnectTimeout())), 0);
+  SQLSetConnectAttr(handle_, SQL_ATTR_LOGIN_TIMEOUT, AttributeValue(ConnectTimeout()), 0);
 }
 
 OdbcConnection::~OdbcConnection() {

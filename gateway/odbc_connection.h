@@ -61,6 +61,11 @@ class OdbcStatement {
   SQLHSTMT handle_ = SQL_NULL_HSTMT;
 };
 
+/// A number in the place of a pointer, which is how ODBC takes the values of attributes.
+inline SQLPOINTER AttributeValue(SQLULEN number) {
+  return reinterpret_cast<SQLPOINTER>(number);  // NOLINT(performance-no-int-to-ptr): see above
+}
+
 /// Every diagnostic record of a handle: the server's words without the driver's own brackets,
 /// followed by SQLSTATE and the server's number.
 std::string Diagnostics(SQLSMALLINT handleType, SQLHANDLE handle);

@@ -3,8 +3,8 @@
 namespace store {
 
 void StringTable::Redim(int lastRow, int lastColumn) {
-  cells_.resize(static_cast<size_t>(lastRow + 1));
-  for (std::vector<std::string>& row : cells_) row.resize(static_cast<size_t>(lastColumn + 1));
+  cells_.resize(static_cast<size_t>(lastRow) + 1);
+  for (std::vector<std::string>& row : cells_) row.resize(static_cast<size_t>(lastColumn) + 1);
 }
 
 bool StringTable::Inside(int row, int column) const {

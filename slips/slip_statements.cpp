@@ -8,7 +8,7 @@ std::string BareNumber(const std::string& text) { return NumberText(ParseNumber(
 
 std::vector<std::string> HeadFields(const HeadArray& headValues, int firstNumber, int lastNumber) {
   std::vector<std::string> fields = headValues;
-  fields.resize(static_cast<size_t>(head::OrderLast + 1));
+  fields.resize(size_t{head::OrderLast} + 1);
   for (int i = firstNumber; i <= lastNumber; ++i) {
     std::string& field = fields[static_cast<size_t>(i)];
     field = BareNumber(field);

@@ -140,7 +140,9 @@ class MuteServer {
     sockaddr_in address{};
     address.sin_family = AF_INET;
     address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-    bind(socket_, reinterpret_cast<sockaddr*>(&address), sizeof(address));
+    if (bind(socket_, reinterpret_cast<sockaddr*>(&address), sizeof(address)) != 0) {
+      ADD_FAILURE() << "no free port on the loopback";
+    }
     listen(socket_, 4);
     socklen_t length = sizeof(address);
     getsockname(socket_, reinterpret_cast<sockaddr*>(&address), &length);

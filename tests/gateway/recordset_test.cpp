@@ -154,8 +154,7 @@ TEST(Recordset, FindsTheSameRowsAsComparingThemOneByOne) {
                                            "",
                                            "가",
                                            "초콜릿",
-                                           "\x1f"
-                                           "a",
+                                           std::string("\x1f") + "a",
                                            "0"};
   const auto text = [&](size_t most) {
     std::string made;

@@ -97,7 +97,7 @@ void ExpectOrder(const std::string& id, const std::string& state, const std::str
 
 std::string ExpectReceipt(const std::string& orderId, const std::string& depotCode,
                           const std::vector<JourneyLine>& lines) {
-  const std::string id =
+  std::string id =
       DemoValue(Splice("SELECT PE_LINK FROM PEM22 WHERE PE_ID='{0}' AND PE_CK='4'", {orderId}));
   const std::string today = DemoValue("SELECT DATE_FORMAT(NOW(),'%Y-%m-%d')");
   std::vector<std::string> header = {

@@ -106,8 +106,7 @@ TEST_F(OrderDesk, TwoHundredScansInARowAreEachThereOnce) {
       "INSERT INTO PR (PR_CODE,PR_NAME,KD_ID,PR_BCODE,PR_END,PR_TAX2,PR_OP1) VALUES ";
   for (int i = 0; i < 200; ++i) {
     const std::string n = std::to_string(1000 + i);
-    products += (i > 0 ? "," : "") + std::string("('S") + n + "','스캔" + n + "','100','990" + n +
-                "','0','0'," + n + ")";
+    products += Splice("{0}('S{1}','스캔{1}','100','990{1}','0','0',{1})", {i > 0 ? "," : "", n});
   }
   Sql(products);
   OpenRecordset(SlotC,

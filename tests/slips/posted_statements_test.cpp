@@ -49,25 +49,28 @@ TEST_F(PostedStatements, OfAReceiptEndWithStockAndBalance) {
   const StringTable lines =
       LineTable({ReceiptLine("1", "P0001", "18"), ReceiptLine("2", "P0003", "0.5")});
   EXPECT_EQ(PostReceipt(ReceiptHead(), lines, "PEM23"), -1);
-  EXPECT_EQ(
-      SqlBatch,
-      (Texts{
-          "",
-          " INSERT INTO PEM23 ( PE_ID,PE_CK,PE_PDATE,PE_SDATE,PE_FCTCODE,PE_FCTNAME,PE_TCTCODE,"
-          "PE_TCTNAME,PE_AMT,PE_TAX,PE_TOT,PE_MISU,PE_EC,PE_DC,PE_PAYGU,PE_ACCK,PE_TMAN,PE_MEMO,"
-          "ST_CODE,PE_PRJ,PE_LINK,INPUT_PROGRAM) VALUES  ('202405171001u01230078','1','2024-05-16',"
-          "NOW(),  '1001','성수역점','C0001','한빛상사',    23000 ,1400 ,24400 ,1.5 ,2.5 ,3.5 ,  "
-          "'E005' ,'A' ,'담당' ,  '메모','u01','과제','202405161001u01220003','1235')",
-          " UPDATE PEM22 SET PE_CK = '4' , PE_LINK = '202405171001u01230078' WHERE PE_ID = "
-          "'202405161001u01220003'",
-          ReceiptLineStatement("1,'2024-05-16',    'P0001','품명 P0001'", "18"),
-          ReceiptLineStatement("2,'2024-05-16',    'P0003','품명 P0003'", "0.5"),
-          "UPDATE IV SET INQTY = INQTY + 18 WHERE  RCT_CODE='1001' AND HCT_CODE='100101' AND "
-          "PR_CODE='P0001'",
-          "INSERT INTO IV (RCT_CODE, HCT_CODE, PR_CODE, PR_NAME, PR_STD, PR_UNT, PR_BCODE, INQTY) "
-          "values  ('1001','100101','P0003','품명 P0003','규격 ','박스','',0.5)",
-          " update CMM set CM_M23 = CM_M23 + 24400 where  CM_FCTCODE='1001' and CM_TCTCODE='C0001' "
-          "and CM_MGU='C' and CM_MM='202405' "}));
+  const std::string header =
+      " INSERT INTO PEM23 ( PE_ID,PE_CK,PE_PDATE,PE_SDATE,PE_FCTCODE,PE_FCTNAME,PE_TCTCODE,"
+      "PE_TCTNAME,PE_AMT,PE_TAX,PE_TOT,PE_MISU,PE_EC,PE_DC,PE_PAYGU,PE_ACCK,PE_TMAN,PE_MEMO,"
+      "ST_CODE,PE_PRJ,PE_LINK,INPUT_PROGRAM) VALUES  ('202405171001u01230078','1','2024-05-16',"
+      "NOW(),  '1001','성수역점','C0001','한빛상사',    23000 ,1400 ,24400 ,1.5 ,2.5 ,3.5 ,  "
+      "'E005' ,'A' ,'담당' ,  '메모','u01','과제','202405161001u01220003','1235')";
+  const std::string closing =
+      " UPDATE PEM22 SET PE_CK = '4' , PE_LINK = '202405171001u01230078' WHERE PE_ID = "
+      "'202405161001u01220003'";
+  const std::string raised =
+      "UPDATE IV SET INQTY = INQTY + 18 WHERE  RCT_CODE='1001' AND HCT_CODE='100101' AND "
+      "PR_CODE='P0001'";
+  const std::string inserted =
+      "INSERT INTO IV (RCT_CODE, HCT_CODE, PR_CODE, PR_NAME, PR_STD, PR_UNT, PR_BCODE, INQTY) "
+      "values  ('1001','100101','P0003','품명 P0003','규격 ','박스','',0.5)";
+  const std::string balance =
+      " update CMM set CM_M23 = CM_M23 + 24400 where  CM_FCTCODE='1001' and CM_TCTCODE='C0001' "
+      "and CM_MGU='C' and CM_MM='202405' ";
+  EXPECT_EQ(SqlBatch, (Texts{"", header, closing,
+                             ReceiptLineStatement("1,'2024-05-16',    'P0001','품명 P0001'", "18"),
+                             ReceiptLineStatement("2,'2024-05-16',    'P0003','품명 P0003'", "0.5"),
+                             raised, inserted, balance}));
 }
 
 TEST_F(PostedStatements, InsertStockAndBalanceWhereTheCountCannotBeRead) {

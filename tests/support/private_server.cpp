@@ -25,7 +25,9 @@ int FreePort() {
   sockaddr_in address{};
   address.sin_family = AF_INET;
   address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-  bind(probe, reinterpret_cast<sockaddr*>(&address), sizeof(address));
+  if (bind(probe, reinterpret_cast<sockaddr*>(&address), sizeof(address)) != 0) {
+    ADD_FAILURE() << "no free port on the loopback";
+  }
   socklen_t length = sizeof(address);
   getsockname(probe, reinterpret_cast<sockaddr*>(&address), &length);
   close(probe);

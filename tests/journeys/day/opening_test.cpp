@@ -24,7 +24,7 @@ constexpr int kWarmUp = 40;
 constexpr int kTimes = 200;
 // What the heap may grow by over some two thousand openings: the toolkit keeps a little of each, a
 // window that stayed would be fifty times as much.
-constexpr size_t kSlack = 4 * 1024 * 1024;
+constexpr size_t kSlack = size_t{4} << 20;
 
 /// Closes the modal window of that name by the system's close as soon as it is on the screen.
 void CloseWhenShown(const std::string& formName) {

@@ -3,7 +3,7 @@
 #include <QLineEdit>
 #include <QtTest>
 
-#include "session/numbers.h"
+#include "gateway/gateway.h"
 #include "tests/journeys/day/store_day.h"
 #include "tests/support/private_server.h"
 
@@ -31,8 +31,8 @@ class Scanning : public StoreDay {
         "INSERT INTO PR (PR_CODE,PR_NAME,KD_ID,PR_BCODE,PR_END,PR_TAX2,PR_OP1) VALUES ";
     for (int i = 0; i < kScans; ++i) {
       const std::string number = std::to_string(1000 + i);
-      products += (i > 0 ? ",('S" : "('S") + number + "','스캔 " + number + "','100','" +
-                  Barcode(i) + "','0','0'," + number + ")";
+      products += Splice("{0}('S{1}','스캔 {1}','100','{2}','0','0',{1})",
+                         {i > 0 ? "," : "", number, Barcode(i)});
     }
     Sql(products);
     LoadItems();

@@ -124,7 +124,7 @@ std::string Workday::WriteOrder() {
   EXPECT_EQ(Order().LaAmt[0].Caption, "2");
   EXPECT_EQ(Order().LaAmt[2].Caption, "58,790");  // 12 x 4,570 and 5 x 790
   Save(0);
-  const std::string id = NewestOrder();
+  std::string id = NewestOrder();
   ExpectOrder(id, "0", "100101", {{kWater, 12, 4570}, {kTomato, 5, 790}});
   return id;
 }

@@ -273,7 +273,7 @@ std::string WidgetJourney::WriteOrder() {
             (Table{SeenOrderLine("2", {kWater, 12, 4570}), SeenOrderLine("1", {kTomato, 5, 790})}));
   EXPECT_EQ(Totals(order), (Row{"2", "64,669", "58,790", "5,879"}));
   Save({});
-  const std::string id = NewestOrder();
+  std::string id = NewestOrder();
   ExpectOrder(id, "0", kDepot, {{kWater, 12, 4570}, {kTomato, 5, 790}});
   return id;
 }
