@@ -97,6 +97,8 @@ void OrderForm::AddItemLine() {
 }
 
 void OrderForm::RefuseForPrice() {
+  // The item's former line is gone for good, and a header must never count what it does not hold.
+  RecalcTotals();
   inBox.SetText("");
   AddAccepted = 0;
   Label6.Caption = "본부정책오류: " + ItemText(item::Name) + "의 단가가 정의되지 않았습니다.";

@@ -72,6 +72,7 @@ std::string SupplierStatement(const std::string& text) {
 void OrderForm::Text1_Change() {
   // A line's price belongs to the supplier; another name means other prices.
   FLEX1.SetRows(1);
+  RecalcTotals();
 }
 
 void OrderForm::Text1_GotFocus() { Text1.SelectAll(); }

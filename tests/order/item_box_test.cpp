@@ -63,10 +63,16 @@ TEST_F(OrderDesk, AnItemWithoutAPriceIsRefusedInALineThatGoesAway) {
   Sql("UPDATE CTP SET CTP_UP=0 WHERE PR_CODE='P0008'; UPDATE PR SET PR_OP1=0 WHERE PR_CODE='P0008';"
       "DELETE FROM PSM23 WHERE PR_CODE='P0008'");
   Enter("88010008");
-  EXPECT_EQ(Lines(), "P0008x1 ");
+  form.FLEX1.SetTextMatrix(1, 5, "700");  // as it was priced when its line was written
+  Enter("2");
+  Enter("88010003");
+  const std::string dear = form.LaAmt[1].Caption;
   AppOptions.OrderZeroPrice = 0;
   Enter("88010008");
-  EXPECT_EQ(Lines(), "");  // the old line went before the price was asked for
+  EXPECT_EQ(Lines(), "P0003x1 ");  // the old line went before the price was asked for
+  EXPECT_EQ(form.LaAmt[0].Caption, "1");
+  EXPECT_EQ(form.LaAmt[1].Caption, form.FLEX1.TextMatrix(1, 10));  // and is not paid for
+  EXPECT_NE(form.LaAmt[1].Caption, dear);
   EXPECT_EQ(form.Label6.Caption, "본부정책오류: 힘찬세제의 단가가 정의되지 않았습니다.");
   EXPECT_TRUE(form.Timer1.Enabled);
   form.Timer1_Timer();
@@ -74,7 +80,7 @@ TEST_F(OrderDesk, AnItemWithoutAPriceIsRefusedInALineThatGoesAway) {
   EXPECT_FALSE(form.Timer1.Enabled);
   form.NoPriceMode = 1;
   Enter("88010008");
-  EXPECT_EQ(Lines(), "P0008x1 ");
+  EXPECT_EQ(Lines(), "P0008x1 P0003x1 ");
   EXPECT_EQ(form.FLEX1.TextMatrix(1, 5), "0");
 }
 

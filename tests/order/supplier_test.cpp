@@ -50,6 +50,7 @@ TEST_F(OrderDesk, AnyChangeOfTheSupplierThrowsTheLinesAway) {
   ASSERT_EQ(Lines(), "P0005x1 ");
   form.Text1.SetText("한빛상");
   EXPECT_EQ(Lines(), "");
+  EXPECT_EQ(form.LaAmt[0].Caption, "0");
 }
 
 TEST_F(OrderDesk, WithTheOptionOnOnlyTheStoresSettingsCount) {
