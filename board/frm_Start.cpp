@@ -36,7 +36,8 @@ frm_Start::frm_Start() : MainWindow("frm_Start") {
   Text1[1].MultiLine = true;
   SetUpGrids();
   FLEX0.RowColChange = [this] { FLEX0_RowColChange(); };
-  TabOrder = {&Text2, &FLEX1, &FLEX0, &DTOrderDate[0], &DTOrderDate[1]};
+  TabOrder = {&Text2,          &Option1[0],     &Option1[1], &Option1[2], &Option1[3],
+              &DTOrderDate[0], &DTOrderDate[1], &FLEX1,      &FLEX0};
 }
 
 void frm_Start::SetUpGrids() {

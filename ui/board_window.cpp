@@ -69,7 +69,7 @@ BoardWindow::BoardWindow(frm_Start& form) : FormWindow(form), board_(form) {
 QWidget* BoardWindow::Band() {
   auto* store = new QLabel;
   auto* web = new KeyButton("홈페이지", QKeySequence(Qt::ALT | Qt::Key_H));
-  auto* smaller = new KeyButton("최소화");
+  auto* smaller = new KeyButton("최소화", QKeySequence(Qt::CTRL | Qt::Key_M));
   auto* end = new KeyButton("종료", Qt::Key_F12);
   auto* row = Row();
   row->addWidget(store, 1);
@@ -124,6 +124,8 @@ QWidget* BoardWindow::Search() {
   auto* row = Row();
   for (size_t i = 0; i < board_.Option1.size(); ++i) {
     auto* radio = new QRadioButton;
+    // Whoever searches by letter or click goes on among the slips.
+    radio->setFocusPolicy(Qt::TabFocus);
     row->addWidget(radio);
     const int index = static_cast<int>(i);
     BindOption(

@@ -67,7 +67,19 @@ QWidget* LookupWindow::Tabs() {
   auto* tabs = new QWidget;
   BindTabs(*this, "TabOne1", lookup_.TabOne1, *tabs,
            [this](int tab) { lookup_.TabOne1_Click(tab); });
+  tabs->layout()->addWidget(CaptionLabel("Alt+← →"));
+  OnShortcut(QKeySequence(Qt::ALT | Qt::Key_Left), [this] { WalkTabs(-1); });
+  OnShortcut(QKeySequence(Qt::ALT | Qt::Key_Right), [this] { WalkTabs(1); });
   return tabs;
+}
+
+void LookupWindow::WalkTabs(int step) {
+  const TabStrip& tabs = lookup_.TabOne1;
+  if (!tabs.Visible) return;
+  const int count = static_cast<int>(tabs.Captions.size());
+  // Before any tab was pressed the first step leads to either end of the row.
+  const int from = tabs.CurrTab < 0 && step < 0 ? 0 : tabs.CurrTab;
+  Act([&] { lookup_.TabOne1_Click((from + step + count) % count); });
 }
 
 QWidget* LookupWindow::Matches() {

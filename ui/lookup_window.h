@@ -18,6 +18,7 @@ class LookupWindow : public FormWindow {
  private:
   QWidget* SearchLine();
   QWidget* Tabs();
+  void WalkTabs(int step);
   QWidget* Matches();
   QWidget* Foot();
   void AddButtons(QHBoxLayout& row);

@@ -109,7 +109,7 @@ void OrderWindow::AddWindowButtons(QHBoxLayout& row) {
   auto* state = new QLabel;
   state->setAlignment(Qt::AlignCenter);
   state->setMinimumWidth(state->fontMetrics().horizontalAdvance("  발주확정  "));
-  auto* smaller = new KeyButton("최소화");
+  auto* smaller = new KeyButton("최소화", QKeySequence(Qt::CTRL | Qt::Key_M));
   auto* close = new KeyButton("닫기", Qt::Key_Escape);
   row.addWidget(state);
   row.addWidget(smaller);

@@ -69,7 +69,7 @@ QWidget* ReceiptWindow::QuantityBox() {
   auto* row = Row();
   row->setContentsMargins(0, 0, 0, 0);
   row->addWidget(box);
-  row->addWidget(CaptionLabel("Enter 입고량 적용    ↑ ↓ 행 이동    Del 행 삭제"), 1);
+  row->addWidget(CaptionLabel("↑ ↓ 로 행을 고르고 입고량을 넣은 뒤 Enter      Del 행 삭제"), 1);
   auto* line = new QWidget;
   line->setLayout(row);
   BindTextBox(*this, "inBox", receipt_.inBox, *box);

@@ -1,4 +1,5 @@
-// The whole road of an order at the real windows, with keys and clicks only.
+// The whole road of an order at the real windows: once with the keyboard alone, once more with the
+// mouse where a clerk would take it.
 #include <gtest/gtest.h>
 
 #include <QApplication>
@@ -7,6 +8,7 @@
 #include <QTimer>
 #include <algorithm>
 
+#include "board/frm_Start.h"
 #include "forms/host.h"
 #include "gateway/gateway.h"
 #include "session/main_start.h"
@@ -33,6 +35,11 @@ constexpr const char* kTomato = "8809614929071";
 constexpr const char* kDepot = "100101";
 constexpr int kSlipIdColumn = 8;  // hidden
 constexpr int kStateColumn = 3;
+constexpr int kTabOfSupplier = 9;  // "차"
+constexpr int kTabs = 15;
+
+/// How a clerk goes about it.
+enum class By { Keys, Mouse };
 
 // What the board searches for when it opens, and by 입고예정.
 constexpr const char* kOfToday =
@@ -173,11 +180,13 @@ class WidgetJourney : public testing::Test {
   }
   void ExpectNotices();
   void ExpectBoard(const std::string& search);
+  void WalkTo(const std::string& slipId);
   void Save(Qt::KeyboardModifiers modifiers);
-  std::string WriteOrder();
+  void ChooseSupplierFromTabs(FormWindow& order);
+  std::string WriteOrder(By hand);
   void ChangeOrder(const std::string& id);
   void ConfirmAgain(const std::string& id);
-  void Receive(const std::string& id, int ordered, int received);
+  void Receive(const std::string& id, int ordered, int received, By hand);
   void CloseBoard();
 
   QTemporaryDir folder_;
@@ -239,20 +248,56 @@ void WidgetJourney::ExpectBoard(const std::string& search) {
                      slips)[0]);
 }
 
+/// With the arrow keys to a slip on the board.
+void WidgetJourney::WalkTo(const std::string& slipId) {
+  ASSERT_EQ(Hands::KeyboardAt(Board()), "FLEX1");
+  const int row = RowOf(slipId);
+  ASSERT_GE(row, 0);
+  const auto& board = static_cast<const frm_Start&>(Board().ShownForm());
+  const int from = board.FLEX1.Row() - board.FLEX1.FixedRows();
+  const int key = row < from ? Qt::Key_Up : Qt::Key_Down;
+  for (int step = 0; step < std::abs(row - from); ++step) Hands::Press(Board(), key);
+  EXPECT_EQ(board.SelectedSlipId, slipId);
+}
+
 void WidgetJourney::Save(Qt::KeyboardModifiers modifiers) {
   hands.AnswerBox("발주가 정상적으로 처리되었습니다. 계속해서 발주하시겠습니까?", Qt::Key_N);
   Hands::Press(Order(), Qt::Key_F9, modifiers);
   ASSERT_TRUE(Hands::Wait([] { return TheDesk().WindowNamed("frm_Order") == nullptr; }));
 }
 
+/// From the far end of the tabs to the one of the supplier's first consonant.
+void WidgetJourney::ChooseSupplierFromTabs(FormWindow& order) {
+  hands.See("HELP_CT", [](FormWindow& lookup) {
+    ASSERT_TRUE(Hands::Wait([&] { return Hands::KeyboardAt(lookup) == "Text1"; }));
+    EXPECT_EQ(Hands::TextOf(lookup, "Text1"), "참나무");
+    for (int tab = kTabs; tab > kTabOfSupplier; --tab) {
+      EXPECT_EQ(Hands::Rows(lookup, "FLEX1", {1}), Table());
+      Hands::Press(lookup, Qt::Key_Left, Qt::AltModifier);
+    }
+    EXPECT_EQ(Hands::Rows(lookup, "FLEX1", {1}), (Table{{kJourneySupplierName}}));
+    EXPECT_EQ(Hands::KeyboardAt(lookup), "FLEX1");
+    Hands::Press(lookup, Qt::Key_Return);
+  });
+  Hands::Press(order, Qt::Key_F1);
+}
+
 /// Two items stay of four scans: the water is scanned twice, the cider taken out again.
-std::string WidgetJourney::WriteOrder() {
-  Hands::Press(Board(), Qt::Key_F2);
+std::string WidgetJourney::WriteOrder(By hand) {
+  if (hand == By::Keys) {
+    Hands::Press(Board(), Qt::Key_F2);
+  } else {
+    Hands::Click(Board(), "Image1_0");
+  }
   FormWindow& order = Order();
   EXPECT_EQ(Hands::KeyboardAt(order), "Text1");
   EXPECT_EQ(Hands::TextOf(order, "LaSatae"), "");
   Hands::Type(order, "참나무");
-  Hands::Press(order, Qt::Key_Return);
+  if (hand == By::Keys) {
+    ChooseSupplierFromTabs(order);
+  } else {
+    Hands::Press(order, Qt::Key_Return);
+  }
   EXPECT_EQ(Hands::TextOf(order, "Text1"), kJourneySupplierName);
   EXPECT_EQ(Hands::KeyboardAt(order), "inBox");
   for (const auto& [barcode, quantity] :
@@ -279,7 +324,8 @@ std::string WidgetJourney::WriteOrder() {
 }
 
 void WidgetJourney::ChangeOrder(const std::string& id) {
-  Hands::ClickCell(Board(), "FLEX1", RowOf(id), 2, true);
+  ASSERT_NO_FATAL_FAILURE(WalkTo(id));
+  Hands::Press(Board(), Qt::Key_Return);
   FormWindow& order = Order();
   EXPECT_EQ(Hands::TextOf(order, "LaSatae"), "발주편집");
   EXPECT_EQ(Hands::TextOf(order, "Text1"), kJourneySupplierName);
@@ -287,8 +333,12 @@ void WidgetJourney::ChangeOrder(const std::string& id) {
   EXPECT_EQ(OrderLines(order),
             (Table{SeenOrderLine("", {kTomato, 5, 790}), SeenOrderLine("", {kWater, 12, 4570})}));
   EXPECT_EQ(Totals(order), (Row{"2", "64,669", "58,790", "5,879"}));
-  Hands::ClickCell(order, "FLEX1", 0, 2);
+  Hands::Press(order, Qt::Key_Tab);
+  EXPECT_EQ(Hands::KeyboardAt(order), "inBox");
+  Hands::Press(order, Qt::Key_Down);
+  EXPECT_EQ(Hands::KeyboardAt(order), "FLEX1");
   Hands::Type(order, "6");
+  EXPECT_EQ(Hands::KeyboardAt(order), "inBox");
   Hands::Press(order, Qt::Key_Return);
   EXPECT_EQ(OrderLines(order)[0], SeenOrderLine("2", {kTomato, 6, 790}));
   EXPECT_EQ(Totals(order), (Row{"2", "65,538", "59,580", "5,958"}));
@@ -300,21 +350,27 @@ void WidgetJourney::ChangeOrder(const std::string& id) {
 /// Takes a confirmed order back into editing on the board and confirms it once more.
 void WidgetJourney::ConfirmAgain(const std::string& id) {
   hands.AnswerBox("[발주확정]전표를 [발주편집]상태로 전환되었습니다.", Qt::Key_Return);
-  Hands::ClickCell(Board(), "FLEX1", RowOf(id), 2);
+  ASSERT_NO_FATAL_FAILURE(WalkTo(id));
   Hands::Press(Board(), Qt::Key_F8);
   EXPECT_EQ(StateOf(id), "발주편집");
   ExpectOrder(id, "0", kDepot, {{kTomato, 6, 790}, {kWater, 12, 4570}});
-  Hands::ClickCell(Board(), "FLEX1", RowOf(id), 2, true);
+  ASSERT_NO_FATAL_FAILURE(WalkTo(id));
+  Hands::Press(Board(), Qt::Key_Return);
   EXPECT_EQ(Totals(Order()), (Row{"2", "65,538", "59,580", "5,958"}));
   Save(Qt::ShiftModifier);
   ExpectOrder(id, "1", kDepot, {{kWater, 12, 4570}, {kTomato, 6, 790}});
 }
 
 /// Logistics ships one tomato less than ordered; the store finds `received` of them.
-void WidgetJourney::Receive(const std::string& id, int ordered, int received) {
+void WidgetJourney::Receive(const std::string& id, int ordered, int received, By hand) {
   ShipOrder(id, kTomato, 1);
-  Hands::Click(Board(), "Option1_3");
-  EXPECT_EQ(StateOf(id), "물류출고");
+  if (hand == By::Keys) {
+    Hands::Press(Board(), Qt::Key_4, Qt::AltModifier);
+  } else {
+    Hands::Click(Board(), "Option1_3");
+  }
+  // A button that its letter presses stays down for a moment.
+  ASSERT_TRUE(Hands::Wait([&] { return StateOf(id) == "물류출고"; }));
   ExpectBoard(kDue);
   hands.WorkIn("frm_PE_UNIT", [=](FormWindow& receipt) {
     const Table shipped = {SeenReceiptLine("2", {kTomato, ordered - 1, 790, ordered}, ordered - 1),
@@ -337,7 +393,12 @@ void WidgetJourney::Receive(const std::string& id, int ordered, int received) {
   hands.AnswerBox("발주량보다 입고량이 많습니다.", Qt::Key_Return);
   hands.AnswerBox("입고확정처리 하시겠습니까?", Qt::Key_Y);
   hands.AnswerBox("입고처리가 정상적으로 처리되었습니다.", Qt::Key_Return);
-  Hands::ClickCell(Board(), "FLEX1", RowOf(id), 9);
+  if (hand == By::Keys) {
+    ASSERT_NO_FATAL_FAILURE(WalkTo(id));
+    Hands::Press(Board(), Qt::Key_Return);
+  } else {
+    Hands::ClickCell(Board(), "FLEX1", RowOf(id), 9);
+  }
   ASSERT_TRUE(Hands::Wait([] { return TheDesk().WindowNamed("frm_PE_UNIT") == nullptr; }));
   EXPECT_EQ(RowOf(id), -1);  // refreshed by itself
   ExpectBoard(kDue);
@@ -359,32 +420,32 @@ TEST_F(WidgetJourney, AnOrderGoesOutTheGoodsComeInAndStockMoves) {
   ASSERT_NO_FATAL_FAILURE(Start(""));
   ExpectNotices();
   ExpectBoard(kOfToday);
-  const std::string id = WriteOrder();
+  const std::string id = WriteOrder(By::Keys);
 
   EXPECT_EQ(RowOf(id), -1);  // nobody has refreshed it yet
   Hands::Press(Board(), Qt::Key_F5);
   EXPECT_EQ(StateOf(id), "발주편집");
   ExpectBoard(kOfToday);
-  ChangeOrder(id);
+  ASSERT_NO_FATAL_FAILURE(ChangeOrder(id));
   Hands::Press(Board(), Qt::Key_F5);
   EXPECT_EQ(StateOf(id), "발주확정");
-  ConfirmAgain(id);
+  ASSERT_NO_FATAL_FAILURE(ConfirmAgain(id));
 
   Table water = StockRows(kWater);
   Table tomatoes = StockRows(kTomato);
   Table balance = BalanceRows();
   ASSERT_EQ(StockIn(kWater, kDepot), "none");
   ASSERT_NE(StockIn(kTomato, kDepot), "none");
-  Receive(id, 6, 4);
+  ASSERT_NO_FATAL_FAILURE(Receive(id, 6, 4, By::Keys));
   const std::vector<JourneyLine> received = {{kTomato, 4, 790, 6}, {kWater, 12, 4570, 12}};
   ExpectStamped(ExpectReceipt(id, kDepot, received));
   EXPECT_EQ(StockRows(kWater), water = StockRaised(water, kWater, 12));
   EXPECT_EQ(StockRows(kTomato), tomatoes = StockRaised(tomatoes, kTomato, 4));
   EXPECT_EQ(BalanceRows(), balance = BalanceRaised(balance, 63800));
 
-  const std::string second = WriteOrder();
+  const std::string second = WriteOrder(By::Mouse);
   EXPECT_NE(second, id);
-  Receive(second, 5, 5);
+  ASSERT_NO_FATAL_FAILURE(Receive(second, 5, 5, By::Mouse));
   ExpectStamped(ExpectReceipt(second, kDepot, {{kTomato, 5, 790, 5}, {kWater, 12, 4570, 12}}));
   EXPECT_EQ(StockRows(kWater), StockRaised(water, kWater, 12));
   EXPECT_EQ(StockRows(kTomato), StockRaised(tomatoes, kTomato, 5));
