@@ -1,8 +1,5 @@
 #include "bench/bench_server.h"
 
-#include <arpa/inet.h>
-#include <netinet/in.h>
-#include <sys/socket.h>
 #include <unistd.h>
 
 #include <csignal>
@@ -12,24 +9,13 @@
 #include <mutex>
 #include <thread>
 
+#include "demo/free_port.h"
 #include "gateway/gateway.h"
 #include "session/options_record.h"
 #include "session/session_record.h"
 
 namespace store {
 namespace {
-
-int FreePort() {
-  const int probe = socket(AF_INET, SOCK_STREAM, 0);
-  sockaddr_in address{};
-  address.sin_family = AF_INET;
-  address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-  bind(probe, reinterpret_cast<sockaddr*>(&address), sizeof(address));
-  socklen_t length = sizeof(address);
-  getsockname(probe, reinterpret_cast<sockaddr*>(&address), &length);
-  close(probe);
-  return ntohs(address.sin_port);
-}
 
 std::string folderInUse;
 
@@ -63,7 +49,7 @@ void CleanUpWhenBrokenOff() {
 
 BenchServer::BenchServer() : port_(FreePort()) {
   folder_ = (std::filesystem::temp_directory_path() / "store_bench_XXXXXX").string();
-  if (mkdtemp(folder_.data()) == nullptr) {
+  if (port_ == 0 || mkdtemp(folder_.data()) == nullptr) {
     std::perror("store_bench");
     std::exit(2);
   }
@@ -91,10 +77,12 @@ void BenchServer::Load(const std::string& database, int items, int slips) {
 
 void ConnectTo(int port, const std::string& database) {
   Session.UserCode = "u01";
+  Session.UserStoreCode = "1001";
   Session.StoreCode = "1001";
   Session.StoreName = "성수역점";
   AppOptions.DataServer = BenchServer::ServerOption(port);
   AppOptions.CompanyId = database;
+  AppOptions.BulkOrderPrice = "3";
   BuildConnectString(AppOptions.DataServer, "kt", database);
 }
 

@@ -7,6 +7,8 @@ namespace store {
 
 /// The statement of the item list, its 11 columns.
 const char* ItemListStatement();
+/// The supplier of the orders that are written.
+constexpr const char* kSupplier = "10006";
 
 void BenchItemList(BenchServer& server, RatioTable& table);
 void BenchFilters(RatioTable& table);
@@ -14,6 +16,11 @@ void BenchFilters(RatioTable& table);
 void BenchGrowth(BenchServer& server, int items);
 void BenchPosting(BenchServer& server, RatioTable& table);
 void BenchSmallRead(RatioTable& table);
+// At the real windows; these need `PrepareDesk`.
+void BenchBoard(BenchServer& server, RatioTable& table);
+void BenchPickList(RatioTable& table);
+void BenchScan(BenchServer& server, RatioTable& table);
+void BenchExport(BenchServer& server, RatioTable& table);
 /// Needs the demo of 3,000 items to be loaded.
 void BenchStart(BenchServer& server, RatioTable& table);
 

@@ -38,4 +38,13 @@ size_t ClientLibrary::ReadAll(const std::string& select) {
   return bytes;
 }
 
+std::vector<std::string> ClientLibrary::Texts(const std::string& select) {
+  Run(select);
+  MYSQL_RES* result = mysql_store_result(client_);
+  std::vector<std::string> texts;
+  while (MYSQL_ROW row = mysql_fetch_row(result)) texts.emplace_back(row[0]);
+  mysql_free_result(result);
+  return texts;
+}
+
 }  // namespace store

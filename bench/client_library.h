@@ -17,6 +17,8 @@ class ClientLibrary {
 
   /// Reads every cell of a SELECT and gives the sum of their bytes.
   size_t ReadAll(const std::string& select);
+  /// The first column of a SELECT.
+  std::vector<std::string> Texts(const std::string& select);
   void Run(const std::string& statement);
 
  private:

@@ -7,6 +7,8 @@
 #include <unistd.h>
 
 #include <condition_variable>
+#include <cstdio>
+#include <cstdlib>
 #include <deque>
 #include <memory>
 #include <mutex>
@@ -77,10 +79,13 @@ void Write(int to, Line& line) {
 DelayProxy::DelayProxy(int targetPort, std::chrono::milliseconds delay)
     : targetPort_(targetPort), delay_(delay), listener_(socket(AF_INET, SOCK_STREAM, 0)) {
   sockaddr_in address = Loopback(0);
-  bind(listener_, reinterpret_cast<sockaddr*>(&address), sizeof(address));
-  listen(listener_, 8);
   socklen_t length = sizeof(address);
-  getsockname(listener_, reinterpret_cast<sockaddr*>(&address), &length);
+  auto* place = reinterpret_cast<sockaddr*>(&address);
+  if (bind(listener_, place, length) != 0 || listen(listener_, 8) != 0 ||
+      getsockname(listener_, place, &length) != 0) {
+    std::perror("store_bench");
+    std::exit(2);
+  }
   port_ = ntohs(address.sin_port);
   acceptor_ = std::thread([this] { Accept(); });
 }
@@ -104,7 +109,11 @@ void DelayProxy::Accept() {
 void DelayProxy::Connect(int client) {
   const int server = socket(AF_INET, SOCK_STREAM, 0);
   const sockaddr_in address = Loopback(targetPort_);
-  connect(server, reinterpret_cast<const sockaddr*>(&address), sizeof(address));
+  if (connect(server, reinterpret_cast<const sockaddr*>(&address), sizeof(address)) != 0) {
+    close(client);
+    close(server);
+    return;
+  }
   const int on = 1;
   for (const int handle : {client, server}) {
     setsockopt(handle, IPPROTO_TCP, TCP_NODELAY, &on, sizeof(on));

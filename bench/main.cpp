@@ -1,11 +1,40 @@
 // Ratios of ours against named peers, each measured in one run on the same data.
+#include <QApplication>
 #include <cstdio>
 #include <cstring>
 
 #include "bench/benches.h"
+#include "bench/desk_hand.h"
+#include "session/formats.h"
+#include "session/start_data.h"
+
+namespace store {
+namespace {
+
+/// What a start of the program reads before the board opens.
+void StartUp() {
+  LoadBaseCodes();
+  LoadStore();
+  LoadZ1Settings();
+  FormatSetup();
+}
+
+void BenchWindows(BenchServer& server, RatioTable& table) {
+  StartUp();
+  BenchScan(server, table);
+  BenchPickList(table);
+  BenchExport(server, table);
+  BenchBoard(server, table);
+}
+
+}  // namespace
+}  // namespace store
 
 int main(int argc, char** argv) {
   using namespace store;
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  QApplication application(argc, argv);
+  PrepareDesk(application);
   const bool quick = argc > 1 && std::strcmp(argv[1], "--quick") == 0;
   const int items = quick ? 20000 : 200000;
   BenchServer server;
@@ -21,6 +50,7 @@ int main(int argc, char** argv) {
   ConnectTo(server.Port());
   BenchSmallRead(table);
   BenchPosting(server, table);
+  BenchWindows(server, table);
   server.Load(kDemo, 3000, 200);
   BenchStart(server, table);
   std::printf(table.AllMet() ? "all goals met\n" : "some goals missed\n");

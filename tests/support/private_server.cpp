@@ -1,10 +1,7 @@
 #include "tests/support/private_server.h"
 
-#include <arpa/inet.h>
 #include <gtest/gtest.h>
 #include <mysql.h>
-#include <netinet/in.h>
-#include <sys/socket.h>
 #include <unistd.h>
 
 #include <cstdlib>
@@ -12,6 +9,7 @@
 #include <fstream>
 #include <sstream>
 
+#include "demo/free_port.h"
 #include "gateway/gateway.h"
 #include "session/options_record.h"
 #include "session/session_record.h"
@@ -19,20 +17,6 @@
 
 namespace store {
 namespace {
-
-int FreePort() {
-  const int probe = socket(AF_INET, SOCK_STREAM, 0);
-  sockaddr_in address{};
-  address.sin_family = AF_INET;
-  address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-  if (bind(probe, reinterpret_cast<sockaddr*>(&address), sizeof(address)) != 0) {
-    ADD_FAILURE() << "no free port on the loopback";
-  }
-  socklen_t length = sizeof(address);
-  getsockname(probe, reinterpret_cast<sockaddr*>(&address), &length);
-  close(probe);
-  return ntohs(address.sin_port);
-}
 
 /// A connection of the test's own, closed at the end of the statement that made it.
 class ClientConnection {
@@ -79,7 +63,8 @@ const char* const kSmall = "small";
 
 PrivateServer::PrivateServer() : port_(FreePort()) {
   std::string folder = (std::filesystem::temp_directory_path() / "store_test_XXXXXX").string();
-  if (mkdtemp(folder.data()) == nullptr) ADD_FAILURE() << "no folder for the test's server";
+  if (port_ == 0 || mkdtemp(folder.data()) == nullptr)
+    ADD_FAILURE() << "no port or no folder for the test's server";
   folder_ = folder;
   setenv("DEMO_DATA", STORE_DEMO_DATA, 1);
 }

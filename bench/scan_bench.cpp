@@ -1,0 +1,101 @@
+// A scan, from the last digit of the barcode to the line on the screen.
+#include <chrono>
+#include <cstdio>
+
+#include "bench/asked_selects.h"
+#include "bench/benches.h"
+#include "bench/client_library.h"
+#include "bench/delay_proxy.h"
+#include "bench/desk_hand.h"
+#include "gateway/gateway.h"
+#include "session/dates.h"
+#include "slips/unit_price.h"
+
+namespace store {
+namespace {
+
+struct Item {
+  std::string Code;
+  std::string Barcode;
+};
+
+/// Items that the supplier has a contract price for.
+std::vector<Item> ItemsToScan(ClientLibrary& client) {
+  const std::vector<std::string> texts = client.Texts(
+      Splice("SELECT CONCAT(PR.PR_CODE,' ',PR_BCODE) FROM CTP JOIN PR ON PR.PR_CODE=CTP.PR_CODE "
+             "WHERE CT_CODE='{0}' AND RCT_CODE='1000' AND CTP_FDATE='0000-00-00' AND CTP_UP>0 AND "
+             "PR_END='0' LIMIT 20",
+             {kSupplier}));
+  std::vector<Item> items;
+  for (const std::string& text : texts) {
+    const size_t blank = text.find(' ');
+    items.push_back({text.substr(0, blank), text.substr(blank + 1)});
+  }
+  return items;
+}
+
+double PriceLookups(int rounds, const std::vector<Item>& items) {
+  const std::string today = FormatDateValue(Today(), "YYYY-MM-DD");
+  const auto lookUpAll = [&] {
+    for (const Item& item : items) ResolveUnitPrice(kSupplier, item.Code, today, "", "23", "J");
+  };
+  return Fight(rounds, lookUpAll, [] {}).Ours;
+}
+
+class Scans {
+ public:
+  explicit Scans(BenchServer& server) : client_(server.Port()), items_(ItemsToScan(client_)) {
+    hand_.Scan(Splice("#{0}", {kSupplier}));
+    ScanAll();
+    selects_ = SelectsOf(server.Port(), [this] { ScanAll(); });
+  }
+
+  /// With the server behind `port`.
+  Duel Measure(int port, int rounds) {
+    ConnectTo(port);
+    ClientLibrary client(port);
+    const Duel duel = Fight(
+        rounds, [this] { ScanAll(); },
+        [&] {
+          for (const std::string& select : selects_) client.ReadAll(select);
+        });
+    TellShares(duel.Ours, PriceLookups(rounds, items_));
+    return duel;
+  }
+
+ private:
+  void ScanAll() {
+    for (const Item& item : items_) {
+      hand_.Scan(item.Barcode);
+      hand_.Draw();
+    }
+  }
+  void TellShares(double all, double prices) const {
+    const double perScan = 1000 / static_cast<double>(items_.size());
+    std::printf("  a scan takes %.2f ms: the price %.2f, search, line and drawing %.2f\n",
+                all * perScan, prices * perScan, (all - prices) * perScan);
+  }
+
+  ClientLibrary client_;
+  std::vector<Item> items_;
+  DeskHand hand_{"frm_Order", "FLEX1"};
+  std::vector<std::string> selects_;
+};
+
+}  // namespace
+
+void BenchScan(BenchServer& server, RatioTable& table) {
+  OpenRecordset(SlotC, ItemListStatement());
+  Scans scans(server);
+  table.AddTimes("scans until the line is drawn, against the price's round trips",
+                 scans.Measure(server.Port(), 15), 1.2);
+  {
+    DelayProxy far(server.Port(), std::chrono::milliseconds(10));
+    table.AddTimes("the same with 10 ms of delay each way", scans.Measure(far.Port(), 3), 1.2);
+  }
+  ConnectTo(server.Port());
+  QueryText("SELECT 1", "");  // lets go of the far connection
+  ClearDesk();
+}
+
+}  // namespace store

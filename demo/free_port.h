@@ -1,0 +1,8 @@
+#pragma once
+
+namespace store {
+
+/// A port of the loopback on which nobody listens, for a private server; 0 when there is none.
+int FreePort();
+
+}  // namespace store
