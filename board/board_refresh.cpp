@@ -1,7 +1,7 @@
 // What the board shows: notices and slips.
 #include "board/board_columns.h"
 #include "board/frm_Start.h"
-#include "forms/host.h"
+#include "forms/hourglass.h"
 #include "gateway/gateway.h"
 #include "lookup/combo_fillers.h"
 #include "session/dates.h"
@@ -57,11 +57,10 @@ std::string WithoutBackslashes(std::string text) {
 }  // namespace
 
 void frm_Start::RefreshBoard() {
-  Host.SetPointer(PointerHourglass);
+  const Hourglass waiting;
   LoadNotices();
   LoadSlips();
   FillDepots(Session.StoreCode, Combo1, false);
-  Host.SetPointer(PointerNormal);
 }
 
 void frm_Start::LoadNotices() {

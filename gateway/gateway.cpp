@@ -1,6 +1,6 @@
 #include "gateway/gateway.h"
 
-#include "forms/host.h"
+#include "forms/hourglass.h"
 #include "session/options_record.h"
 #include "session/session_record.h"
 
@@ -69,13 +69,10 @@ RecordsetSlot FetchRecordset(const std::string& statement) {
 
 void QueryRows(const std::string& statement, StringTable& table, std::int32_t& rowCount,
                std::int32_t& highestColumn) {
-  Host.SetPointer(PointerHourglass);
+  const Hourglass waiting;
   rowCount = 0;
   OpenRecordset(SlotA, statement);
-  if (!LastErrorText.empty() || AtEof(SlotA)) {
-    Host.SetPointer(PointerNormal);
-    return;
-  }
+  if (!LastErrorText.empty() || AtEof(SlotA)) return;
   rowCount = SlotA->RecordCount();
   highestColumn = SlotA->FieldCount() - 1;
   table.Redim(rowCount, highestColumn);
@@ -86,7 +83,6 @@ void QueryRows(const std::string& statement, StringTable& table, std::int32_t& r
     }
   }
   CloseRecordset(SlotA);
-  Host.SetPointer(PointerNormal);
 }
 
 std::string QueryText(const std::string& statement, const std::string& otherwise) {

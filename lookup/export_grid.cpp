@@ -5,6 +5,7 @@
 #include <filesystem>
 
 #include "forms/host.h"
+#include "forms/hourglass.h"
 #include "session/dates.h"
 #include "session/numbers.h"
 
@@ -69,11 +70,14 @@ std::string ColumnLetters(int row, int column, const std::string& before) {
 }
 
 void ExportGrid(const Grid& grid) {
-  Host.SetPointer(PointerHourglass);
-  const std::string path = NewFileName();
-  const bool written = WriteWorkbook(grid, path);
-  const bool opened = written && Host.OpenAddress(path);
-  Host.SetPointer(PointerNormal);
+  bool written = false;
+  bool opened = false;
+  {
+    const Hourglass waiting;
+    const std::string path = NewFileName();
+    written = WriteWorkbook(grid, path);
+    opened = written && Host.OpenAddress(path);
+  }
   if (!written) {
     Host.MsgBox("사용자  작업   취소              ", box::Plain, "강제취소");
   } else if (!opened) {

@@ -1,18 +1,15 @@
 #include "lookup/lookup_grid.h"
 
-#include "forms/host.h"
+#include "forms/hourglass.h"
 #include "gateway/gateway.h"
 
 namespace store {
 
 void FillLookupGrid(const std::string& statement, Grid& grid) {
-  Host.SetPointer(PointerHourglass);
+  const Hourglass waiting;
   grid.SetRows(grid.FixedRows());
   OpenRecordset(SlotA, statement);
-  if (!LastErrorText.empty() || AtEof(SlotA)) {
-    Host.SetPointer(PointerNormal);
-    return;
-  }
+  if (!LastErrorText.empty() || AtEof(SlotA)) return;
   std::string row;
   for (; !AtEof(SlotA); SlotA->MoveNext()) {
     row.clear();
@@ -23,7 +20,6 @@ void FillLookupGrid(const std::string& statement, Grid& grid) {
     grid.AddItem(row);
   }
   CloseRecordset(SlotA);
-  Host.SetPointer(PointerNormal);
 }
 
 }  // namespace store

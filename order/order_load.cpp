@@ -1,5 +1,5 @@
 // Filling the order form from a stored slip.
-#include "forms/host.h"
+#include "forms/hourglass.h"
 #include "gateway/gateway.h"
 #include "order/order_form.h"
 #include "session/formats.h"
@@ -36,7 +36,7 @@ std::string OrderSlipStatement(const std::string& slipId) {
 }  // namespace
 
 void OrderForm::LoadOrderSlip(const std::string& slipId) {
-  Host.SetPointer(PointerHourglass);
+  const Hourglass waiting;
   SqlText = OrderSlipStatement(slipId);
   OpenRecordset(SlotA, SqlText);
   FLEX1.SetRows(1);
@@ -48,7 +48,6 @@ void OrderForm::LoadOrderSlip(const std::string& slipId) {
   CloseRecordset(SlotA);
   loadedLines_ = FLEX1.Revision();
   loadedDate_ = DTOrderDate.Value();
-  Host.SetPointer(PointerNormal);
 }
 
 void OrderForm::LoadOrderHeader() {

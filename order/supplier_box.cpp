@@ -1,5 +1,6 @@
 // Choosing the supplier, which decides prices and, with the option on, which items there are.
 #include "forms/host.h"
+#include "forms/hourglass.h"
 #include "gateway/gateway.h"
 #include "lookup/HELP_CT.h"
 #include "order/order_form.h"
@@ -120,6 +121,7 @@ void OrderForm::ChooseSupplier(TextBox& box, const std::string& lookupTable) {
 }
 
 void OrderForm::FollowSupplier() {
+  const Hourglass waiting;
   if (AppOptions.OrderInfoPartnersOnly == 1) OpenScopedItemList(Text1.Tag);
   FillKindGrid(PRHELP, 1, "");
 }

@@ -31,10 +31,7 @@ void frm_PE_UNIT::FLEX1_KeyPress(const std::string& character) {
 }
 
 void frm_PE_UNIT::FLEX1_KeyDown(Key key) {
-  if (key != Key::F12) return;
-  Host.SetPointer(PointerHourglass);
-  ExportGrid(FLEX1);
-  Host.SetPointer(PointerNormal);
+  if (key == Key::F12) ExportGrid(FLEX1);
 }
 
 void frm_PE_UNIT::inBox_KeyDown(Key key) {

@@ -1,5 +1,5 @@
 // Filling the receipt form from the order that is being received.
-#include "forms/host.h"
+#include "forms/hourglass.h"
 #include "gateway/gateway.h"
 #include "receipt/frm_PE_UNIT.h"
 #include "receipt/receipt_columns.h"
@@ -36,7 +36,7 @@ std::string ReceivedOrderStatement(const std::string& orderId) {
 }  // namespace
 
 void frm_PE_UNIT::LoadReceiptSlip(const std::string& orderId) {
-  Host.SetPointer(PointerHourglass);
+  const Hourglass waiting;
   SqlText = ReceivedOrderStatement(orderId);
   OpenRecordset(SlotA, SqlText);
   FLEX1.SetRows(1);
@@ -46,7 +46,6 @@ void frm_PE_UNIT::LoadReceiptSlip(const std::string& orderId) {
   }
   LaAmt[0].Caption = std::to_string(FLEX1.Rows() - 1);
   CloseRecordset(SlotA);
-  Host.SetPointer(PointerNormal);
 }
 
 void frm_PE_UNIT::LoadReceiptHeader() {

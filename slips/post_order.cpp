@@ -1,5 +1,6 @@
 #include "slips/post_order.h"
 
+#include "forms/hourglass.h"
 #include "gateway/gateway.h"
 #include "slips/slip_statements.h"
 
@@ -48,6 +49,7 @@ void AddOrder(const HeadArray& headValues, const StringTable& lineValues,
 
 std::int16_t PostNewOrder(const HeadArray& headValues, const StringTable& lineValues,
                           const std::string& table) {
+  const Hourglass waiting;
   StartBatch();
   AddOrder(headValues, lineValues, table);
   return ExecuteBatch(SqlBatch);
@@ -55,6 +57,7 @@ std::int16_t PostNewOrder(const HeadArray& headValues, const StringTable& lineVa
 
 std::int16_t PostOrderChange(const HeadArray& headValues, const StringTable& lineValues,
                              const std::string& table) {
+  const Hourglass waiting;
   StartBatch();
   AddToBatch(DeleteStatement(table, headValues[head::Id]));
   AddOrder(headValues, lineValues, table);

@@ -1,6 +1,7 @@
 #include "slips/post_receipt.h"
 
 #include "forms/host.h"
+#include "forms/hourglass.h"
 #include "gateway/gateway.h"
 #include "session/dates.h"
 #include "session/numbers.h"
@@ -128,6 +129,7 @@ void AddBalance(std::vector<std::string> fields, const std::string& balanceColum
 
 std::int16_t PostReceipt(const HeadArray& headValues, const StringTable& lineValues,
                          const std::string& table) {
+  const Hourglass waiting;  // a round trip a line, before the batch
   const Direction direction = DirectionOf(table);
   const std::vector<std::string> head = HeadFields(headValues, head::Supply, head::Discount);
   StartBatch();

@@ -107,7 +107,8 @@ QWidget* LookupWindow::Foot() {
     });
     return button;
   };
-  add("엑셀", Qt::Key_F12, Key::F12);
+  auto* sheet = add("엑셀", Qt::Key_F12, Key::F12);
+  OnShortcut(sheet->Keys(), [sheet] { sheet->click(); });
   add("선택", Qt::Key_Enter, Key::Enter)->MarkMain();
   add("닫기", Qt::Key_Escape, Key::Escape);
   return Line(row);

@@ -107,6 +107,7 @@ QWidget* ReceiptWindow::Foot() {
   row->addWidget(confirm);
   connect(sheet, &QPushButton::clicked, this,
           [this] { Act([this] { receipt_.FLEX1_KeyDown(Key::F12); }); });
+  OnShortcut(sheet->Keys(), [sheet] { sheet->click(); });
   BindPress(*this, "Command1_1", receipt_.Command1[1], *confirm,
             [this] { receipt_.Command1_Click(1); });
   return Group("totals", row);
