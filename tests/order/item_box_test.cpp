@@ -1,4 +1,3 @@
-#include "session/numbers.h"
 #include "session/options_record.h"
 #include "tests/order/order_desk.h"
 
@@ -105,30 +104,6 @@ TEST_F(OrderDesk, KeysInTheBoxWorkOnTheLines) {
   EXPECT_EQ(Lines(), "P0009x1 P0005x1 ");
   EXPECT_EQ(form.inBox.Text(), "half typed");
   EXPECT_EQ(ColumnText(form.FLEX1, 0), "2,1");
-}
-
-TEST_F(OrderDesk, TwoHundredScansInARowAreEachThereOnce) {
-  std::string products =
-      "INSERT INTO PR (PR_CODE,PR_NAME,KD_ID,PR_BCODE,PR_END,PR_TAX2,PR_OP1) VALUES ";
-  for (int i = 0; i < 200; ++i) {
-    const std::string n = std::to_string(1000 + i);
-    products += Splice("{0}('S{1}','스캔{1}','100','990{1}','0','0',{1})", {i > 0 ? "," : "", n});
-  }
-  Sql(products);
-  OpenRecordset(SlotC,
-                "SELECT PR_CODE,PR_NAME,PR_STD,PR_UNT,PR_TAX2,PR_PTNO,' ',' ',PR_BCODE,' ',"
-                "KD_ID FROM PR WHERE PR_END = '0'");
-  OrderForm& form = Open();
-  Supplier("#C0001");
-  for (int i = 0; i < 200; ++i) Enter("990" + std::to_string(1000 + i));
-  ASSERT_EQ(form.FLEX1.Rows(), 201);
-  double sum = 0;
-  for (int row = 1; row <= 200; ++row) {
-    EXPECT_EQ(form.FLEX1.TextMatrix(row, 1), "S" + std::to_string(1200 - row));
-    sum += 1200 - row;
-  }
-  EXPECT_EQ(form.LaAmt[0].Caption, "200");
-  EXPECT_EQ(form.LaAmt[2].Caption, FormatNumber(sum, FormatAmount));
 }
 
 }  // namespace

@@ -45,6 +45,10 @@ TEST_F(PostOrder, PassesOverRowsWithoutAProduct) {
                                        {}});
   EXPECT_EQ(PostNewOrder(OrderHead(), lines, "PEM22"), -1);
   EXPECT_EQ(Lines("CONCAT(PS_NO,PR_CODE)"), "1P0001,3P0003");
+  Sql("DELETE FROM PEM22" + ofOrder);
+  EXPECT_EQ(PostNewOrder(OrderHead(), LineTable({OrderLine("1", "", "12")}), "PEM22"), -1);
+  EXPECT_EQ(Value("SELECT COUNT(*) FROM PEM22" + ofOrder), "1") << "a header may stand alone";
+  EXPECT_EQ(Lines("PR_CODE"), "");
 }
 
 TEST_F(PostOrder, StoresTheLeadingPartOfANumber) {

@@ -157,6 +157,14 @@ TEST_F(PostReceiptTest, OnTheSaleSideLowersStock) {
   EXPECT_EQ(Balances(), "C0001 202404 0/9350,C0001 202405 24400/5280");
 }
 
+TEST_F(PostReceiptTest, TakesACountThatCannotBeReadForNone) {
+  Disconnect();
+  EXPECT_EQ(Post(ReceiptHead(), {ReceiptLine("1", "P0001", "18")}, "PES13"), 0);
+  ASSERT_EQ(SqlBatch.size(), 6u);  // header, order, line; stock and balance
+  EXPECT_EQ(SqlBatch[4].substr(0, 14), "INSERT INTO IV");
+  EXPECT_EQ(SqlBatch[5].substr(0, 16), " insert into CMM");
+}
+
 TEST_F(PostReceiptTest, IsAllOrNothing) {
   // The balance is the last statement; its column cannot hold this total and what it has.
   HeadArray head = ReceiptHead();
