@@ -1,6 +1,5 @@
 #include "forms/open_forms.h"
 #include "session/base_settings.h"
-#include "session/dates.h"
 #include "slips/slip_keys.h"
 #include "tests/order/order_desk.h"
 
