@@ -31,6 +31,8 @@ class OdbcConnection {
 
  private:
   bool Prepare(std::string& errorText);
+  void SortWholeRows();
+  bool IsMariaDb() const;
 
   SQLHDBC handle_ = SQL_NULL_HDBC;
   bool connected_ = false;
