@@ -18,6 +18,7 @@ constexpr int kHeaderMargin = 10;
 constexpr int kNarrowest = 18;
 constexpr int kCellMargin = 12;
 constexpr int kMeasuredRows = 100;
+constexpr size_t kRememberedTexts = 1000;  // of a column
 constexpr int kLongestCode = 120;
 constexpr int kLongestName = 260;
 
@@ -119,13 +120,20 @@ void GridView::MeasureColumns() {
   const int rows = std::min(kMeasuredRows, model_.rowCount());
   for (int column = 0; column < grid_.Cols(); ++column) {
     if (isColumnHidden(column)) continue;
-    int& need = needs_[column];
-    for (int row = 0; row < rows; ++row) {
-      const QString text = model_.index(row, column).data().toString();
-      for (const QString& line : text.split('\n')) {
-        need = std::max(need, fontMetrics().horizontalAdvance(line.trimmed()) + kCellMargin);
-      }
-    }
+    for (int row = 0; row < rows; ++row) Measure(column, row);
+  }
+}
+
+// A text measured before can add nothing: an order that a scan makes longer by one line must not be
+// measured from top to bottom.
+void GridView::Measure(int column, int row) {
+  ColumnNeed& need = needs_[column];
+  if (need.Measured.size() >= kRememberedTexts) need.Measured.clear();
+  const QModelIndex index = model_.index(row, column);
+  if (!need.Measured.insert(grid_.TextMatrix(model_.GridRow(index), column)).second) return;
+  for (const QString& line : index.data().toString().split('\n')) {
+    need.Width =
+        std::max(need.Width, fontMetrics().horizontalAdvance(line.trimmed()) + kCellMargin);
   }
 }
 
@@ -136,7 +144,7 @@ ColumnWish GridView::WishOf(int column) const {
   const auto dragged = widths_.find(column);
   if (dragged != widths_.end()) return {dragged->second, kNarrowest, kNarrowest};
   const auto measured = needs_.find(column);
-  const int need = std::max(least, measured == needs_.end() ? 0 : measured->second);
+  const int need = std::max(least, measured == needs_.end() ? 0 : measured->second.Width);
   // A name can be cut and still be known; a figure, a date or a code cannot.
   const bool isName = asked.Alignment == Align::Left && need > kLongestCode;
   return {std::max(1.0, static_cast<double>(asked.Width)), isName ? least : need,

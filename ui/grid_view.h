@@ -3,6 +3,8 @@
 #include <QTableView>
 #include <functional>
 #include <map>
+#include <string>
+#include <unordered_set>
 #include <vector>
 
 #include "forms/grid.h"
@@ -66,6 +68,7 @@ class GridView : public QTableView {
   void FollowHiddenRows();
   void FollowCurrentCell();
   void MeasureColumns();
+  void Measure(int column, int row);
   ColumnWish WishOf(int column) const;
   void ShareWidth();
   void MoveBorder(int section, int newSize);
@@ -79,10 +82,15 @@ class GridView : public QTableView {
   void AcceptCell(int row, int column, const std::string& typed, int step);
   void PlaceOpenCell();
 
+  struct ColumnNeed {
+    int Width = 0;                             // of the widest text so far
+    std::unordered_set<std::string> Measured;  // cells that have had their say
+  };
+
   Grid& grid_;
   GridModel model_;
   std::map<int, double> widths_;  // what a person dragged, by column
-  std::map<int, int> needs_;      // the widest text so far, by column
+  std::map<int, ColumnNeed> needs_;
   CellEditor* editor_;
   int openRow_ = 0;  // row of the open cell in the grid; 0 when none is open
   bool marksRow_ = true;
