@@ -228,7 +228,10 @@ bool FormWindow::event(QEvent* event) {
 
 void FormWindow::QueueActivate() {
   QTimer::singleShot(0, this, [this] {
-    if (!gone_) Dispatch([this] { form_.Activate(); });
+    if (gone_) return;
+    const QPointer<FormWindow> here(this);
+    Dispatch([this] { form_.Activate(); });
+    if (here != nullptr) begun_ = true;
   });
 }
 

@@ -54,6 +54,8 @@ class FormWindow : public QWidget {
   void Sync();
   void FocusMoved(QWidget& to, bool fromThisWindow);
   bool KeyPressed(const QKeyEvent& event, QWidget& at);
+  /// Whether the window has been drawn and its form has done the work of its first activation.
+  bool HasBegun() const { return begun_; }
 
  protected:
   bool event(QEvent* event) override;
@@ -86,6 +88,7 @@ class FormWindow : public QWidget {
   unsigned focusSeen_ = 0;
   bool gone_ = false;  // the form has closed and may not even be there any more
   bool painted_ = false;
+  bool begun_ = false;
   bool left_ = false;  // for another window, not just for a box
 };
 

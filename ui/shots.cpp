@@ -46,12 +46,12 @@ class Director : public QObject {
   void When(std::function<bool()> ready, std::function<void()> act) {
     steps_.push_back({std::move(ready), std::move(act)});
   }
-  /// When the window of that form is in front and has been drawn.
+  /// When the window of that form is in front and its form has begun to work.
   void WhenShown(const std::string& form, std::function<void(FormWindow&)> act) {
     When(
         [form] {
           FormWindow* window = TheDesk().WindowNamed(form);
-          return window != nullptr && window->isActiveWindow();
+          return window != nullptr && window->isActiveWindow() && window->HasBegun();
         },
         [form, act = std::move(act)] { act(*TheDesk().WindowNamed(form)); });
   }
