@@ -21,7 +21,7 @@ OrderForm::OrderForm(const OrderTypeChoices& choices)
   Text1.Change = [this] { Text1_Change(); };
   DTOrderDate.Change = [this] { DTOrderDate_Change(); };
   FLEX2.RowColChange = [this] { FLEX2_RowColChange(); };
-  TabOrder = {&Text1, &inBox, &FLEX1, &PRHELP, &FLEX2, &DTOrderDate, &Combo1};
+  TabOrder = {&DTOrderDate, &Combo1, &Text1, &inBox, &FLEX1, &PRHELP, &FLEX2};
 }
 
 void OrderForm::SetUpGrids() {

@@ -66,8 +66,8 @@ OrderWindow::OrderWindow(OrderForm& form) : FormWindow(form), order_(form) {
 
 QWidget* OrderWindow::Header() {
   auto* row = Row();
-  AddSupplier(*row);
   AddDateAndDepot(*row);
+  AddSupplier(*row);
   AddWindowButtons(*row);
   return Group("card", row);
 }
@@ -180,7 +180,15 @@ QWidget* OrderWindow::PickList() {
     order_.FLEX2_KeyDown(key);
     return key == Key::F4;
   });
-  return Titled("품목 선택   (수량 입력 후 Enter,  F4 판매이력)", items);
+  OnShortcut(QKeySequence(Qt::CTRL | Qt::Key_Down), [this] { Act([this] { WalkToPickList(); }); });
+  OnShortcut(QKeySequence(Qt::CTRL | Qt::Key_Up),
+             [this] { Act([this] { order_.SetFocus(order_.inBox); }); });
+  return Titled("품목 선택   (Ctrl+↓ ↑,  수량 입력 후 Enter,  F4 판매이력)", items);
+}
+
+void OrderWindow::WalkToPickList() {
+  order_.SetFocus(order_.FLEX2);
+  if (order_.FLEX2.Row() == 0) order_.FLEX2.SetRow(1);
 }
 
 QWidget* OrderWindow::History() {

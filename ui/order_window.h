@@ -9,9 +9,9 @@ namespace store {
 class HistoryChartView;
 class OrderForm;
 
-/// The window of every order form: supplier and date on top, the item box below them, the order's
-/// lines on the left, what can be ordered on the right, totals and the two ways to save at the
-/// bottom.
+/// The window of every order form: date, depot and supplier on top, the item box below them, the
+/// order's lines on the left, what can be ordered on the right, totals and the two ways to save at
+/// the bottom.
 class OrderWindow : public FormWindow {
  public:
   explicit OrderWindow(OrderForm& form);
@@ -25,6 +25,7 @@ class OrderWindow : public FormWindow {
   QWidget* Lines();
   QWidget* Categories();
   QWidget* PickList();
+  void WalkToPickList();
   QWidget* History();
   QWidget* Foot();
   void AddTotal(QHBoxLayout& row, const QString& caption, size_t index, bool big);

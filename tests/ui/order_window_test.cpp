@@ -60,6 +60,16 @@ TEST_F(OrderWindowTest, TheBoxWalksAndDeletesInTheLines) {
   EXPECT_EQ(Find<QLabel>(*window_, "LaAmt_1").text(), "5500");
 }
 
+TEST_F(OrderWindowTest, AKeyLeadsFromTheBoxToThePickListAndBack) {
+  Box().setFocus();
+  Dispatch([this] { form_.FLEX2.AddItem("1000002\t\t\t8802\t콜라"); });
+  QTest::keyClick(&Box(), Qt::Key_Down, Qt::ControlModifier);
+  EXPECT_TRUE(FindGrid(*window_, "FLEX2").hasFocus());
+  EXPECT_EQ(form_.FLEX2.Row(), 1) << "a quantity can be typed at once";
+  QTest::keyClick(window_->focusWidget(), Qt::Key_Up, Qt::ControlModifier);
+  EXPECT_TRUE(Box().hasFocus());
+}
+
 TEST_F(OrderWindowTest, AShortNumberSetsTheQuantityOfTheCurrentLine) {
   Dispatch([this] {
     form_.Text1.Tag = "10006";
