@@ -73,8 +73,10 @@ void OrderForm::ResetOrderForm() {
 }
 
 bool OrderForm::HoldsWork() const {
+  if (!inBox.Enabled) return false;  // a slip that is only looked at cannot be saved
   if (SlipId.empty()) return !Text1.Text().empty() || FLEX1.Rows() > 1;
-  return FLEX1.Revision() != loadedLines_ || DTOrderDate.Value() != loadedDate_;
+  return FLEX1.Revision() != loadedLines_ || DTOrderDate.Value() != loadedDate_ ||
+         Combo1.ListIndex() > 0;
 }
 
 void OrderForm::SetOrderEditable(std::int16_t editable) {

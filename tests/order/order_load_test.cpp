@@ -28,6 +28,9 @@ TEST_F(OrderDesk, AStoredOrderComesWithItsLinesNewestOnTop) {
   EXPECT_EQ(form.LaAmt[2].Caption, "12,000");
   EXPECT_EQ(form.LaAmt[3].Caption, "700");
   EXPECT_FALSE(form.HoldsWork());
+  form.Combo1.SetListIndex(1);
+  EXPECT_TRUE(form.HoldsWork());
+  form.Combo1.SetListIndex(0);
   form.FLEX1.SetRow(1);
   Enter("2");
   EXPECT_TRUE(form.HoldsWork());
@@ -54,6 +57,9 @@ TEST_F(OrderDesk, OnlyAnOrderInEditingCanBeChanged) {
     EXPECT_TRUE(form.FLEX1.Enabled);
     form.FLEX1_KeyPress("1");
     EXPECT_EQ(form.inBox.Text(), c.editable ? "1" : "") << c.id;
+    form.FLEX1.SetRow(1);
+    form.FLEX1_KeyDown(Key::Delete);
+    EXPECT_EQ(form.HoldsWork(), c.editable) << c.id;
     form.KeyDown(Key::Escape);
     EXPECT_EQ(OpenForm("frm_Order"), nullptr);
     EXPECT_EQ(host.FormsShown.back(), "frm_Start");
