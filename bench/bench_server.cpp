@@ -9,10 +9,9 @@
 #include <mutex>
 #include <thread>
 
-#include "demo/free_port.h"
+#include "basics/records.h"
 #include "gateway/gateway.h"
-#include "session/options_record.h"
-#include "session/session_record.h"
+#include "private_db/free_port.h"
 
 namespace store {
 namespace {

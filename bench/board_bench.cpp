@@ -1,13 +1,13 @@
 // The board with ten thousand slips, from the press of the key to what stands on the screen.
 #include <cstdio>
 
+#include "basics/dates.h"
 #include "bench/asked_selects.h"
 #include "bench/benches.h"
 #include "bench/client_library.h"
 #include "bench/desk_hand.h"
 #include "board/frm_Start.h"
 #include "forms/open_forms.h"
-#include "session/dates.h"
 
 namespace store {
 namespace {

@@ -3,10 +3,10 @@
 #include <cstdio>
 #include <cstring>
 
+#include "basics/formats.h"
 #include "bench/benches.h"
 #include "bench/desk_hand.h"
-#include "session/formats.h"
-#include "session/start_data.h"
+#include "start/start_data.h"
 
 namespace store {
 namespace {

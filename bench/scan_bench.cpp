@@ -2,13 +2,13 @@
 #include <chrono>
 #include <cstdio>
 
+#include "basics/dates.h"
 #include "bench/asked_selects.h"
 #include "bench/benches.h"
 #include "bench/client_library.h"
 #include "bench/delay_proxy.h"
 #include "bench/desk_hand.h"
 #include "gateway/gateway.h"
-#include "session/dates.h"
 #include "slips/unit_price.h"
 
 namespace store {

@@ -7,8 +7,8 @@
 #include <filesystem>
 #include <fstream>
 
+#include "basics/text.h"
 #include "bench/benches.h"
-#include "session/text.h"
 
 namespace store {
 namespace {

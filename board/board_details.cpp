@@ -1,7 +1,6 @@
 // The two panes about the selected slip: its partner and its conditions.
 #include <span>
 
-#include "board/board_columns.h"
 #include "board/frm_Start.h"
 #include "gateway/gateway.h"
 

@@ -1,15 +1,13 @@
 // What the board shows: notices and slips.
-#include "board/board_columns.h"
+#include "basics/dates.h"
+#include "basics/formats.h"
+#include "basics/numbers.h"
+#include "basics/records.h"
 #include "board/frm_Start.h"
-#include "forms/hourglass.h"
+#include "forms/host.h"
 #include "gateway/gateway.h"
 #include "lookup/combo_fillers.h"
-#include "session/dates.h"
-#include "session/formats.h"
-#include "session/numbers.h"
-#include "session/options_record.h"
-#include "session/session_record.h"
-#include "slips/slip_states.h"
+#include "slips/slip.h"
 
 namespace store {
 namespace {

@@ -1,14 +1,12 @@
 // What can be done with a slip from the board.
-#include "board/board_columns.h"
+#include "basics/records.h"
+#include "basics/text.h"
 #include "board/frm_Start.h"
 #include "forms/host.h"
 #include "forms/open_forms.h"
 #include "gateway/gateway.h"
-#include "session/options_record.h"
-#include "session/text.h"
-#include "slips/order_form_name.h"
+#include "slips/slip.h"
 #include "slips/slip_form.h"
-#include "slips/slip_states.h"
 
 namespace store {
 namespace {

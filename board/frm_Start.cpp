@@ -2,14 +2,12 @@
 
 #include <memory>
 
-#include "board/board_columns.h"
+#include "basics/dates.h"
+#include "basics/deployment.h"
+#include "basics/records.h"
 #include "forms/host.h"
 #include "forms/open_forms.h"
 #include "gateway/gateway.h"
-#include "session/dates.h"
-#include "session/deployment.h"
-#include "session/run_state.h"
-#include "session/session_record.h"
 
 namespace store {
 namespace {

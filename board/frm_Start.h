@@ -5,9 +5,23 @@
 
 #include "forms/control.h"
 #include "forms/grid.h"
-#include "session/main_window.h"
+#include "slips/slip_form.h"
 
 namespace store {
+
+/// Columns of the board.
+namespace board {
+inline constexpr int Date = 1;
+inline constexpr int State = 3;
+inline constexpr int Lines = 4;
+inline constexpr int Total = 7;
+inline constexpr int SlipId = 8;  ///< Hidden.
+inline constexpr int Confirm = 9;
+inline constexpr int PartnerCode = 10;  ///< Hidden.
+}  // namespace board
+
+/// The customer whose goods-receipt list shows only what logistics has shipped.
+inline constexpr const char* kShippedOnlyCustomer = "fairwind";
 
 /// The main window: head office's notices, the board of the store's order slips, and the details of
 /// the selected slip. It changes only on its own events, never by a timer; when it closes, the

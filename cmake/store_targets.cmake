@@ -1,5 +1,5 @@
-# One library a folder; its links are the arrows between the layers, so an include against the
-# arrows fails to link.
+# One library a folder; its links are the folders that it includes from, no more and no fewer
+# (tests/layers holds both to it).
 function(store_library layer)
   cmake_parse_arguments(LIB "" "" "SOURCES;LINKS" ${ARGN})
   add_library(store_${layer} STATIC ${LIB_SOURCES})

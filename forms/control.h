@@ -6,6 +6,25 @@
 
 namespace store {
 
+/// The keys that forms ask for by name. Every other key arrives as text.
+enum class Key {
+  None,
+  Enter,
+  Escape,
+  Tab,
+  Up,
+  Down,
+  Delete,
+  F1,
+  F3,
+  F4,
+  F5,
+  F6,
+  F9,
+  F10,
+  F12,
+};
+
 /// What every element of a form has: whether it answers, whether it is seen, and its tool tip.
 /// A control is a plain value; the window that shows it is brought into line after each event.
 class Control {

@@ -31,4 +31,30 @@ HostDoor EmptyHost() {
 
 HostDoor Host = EmptyHost();
 
+void EndProgram() {
+  Host.Ending = true;
+  Host.EndProgram();
+}
+
+bool ProgramEnding() { return Host.Ending; }
+
+CalendarDate Today() {
+  const ClockTime now = Host.Now();
+  return {now.Year, now.Month, now.Day};
+}
+
+namespace {
+
+int steps = 0;  // that are running, one within the other
+
+}  // namespace
+
+Hourglass::Hourglass() {
+  if (steps++ == 0) Host.SetPointer(PointerHourglass);
+}
+
+Hourglass::~Hourglass() {
+  if (--steps == 0) Host.SetPointer(PointerNormal);
+}
+
 }  // namespace store

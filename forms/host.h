@@ -3,6 +3,7 @@
 #include <functional>
 #include <string>
 
+#include "basics/dates.h"
 #include "forms/form.h"
 
 namespace store {
@@ -21,16 +22,6 @@ inline constexpr int No = 7;
 
 inline constexpr int PointerNormal = 0;
 inline constexpr int PointerHourglass = 11;
-
-/// The workstation's clock.
-struct ClockTime {
-  int Year = 0;
-  int Month = 0;
-  int Day = 0;
-  int Hour = 0;
-  int Minute = 0;
-  int Second = 0;
-};
 
 struct ProgramVersionNumbers {
   int Major = 0;
@@ -84,6 +75,7 @@ struct HostDoor {
   /// True when another instance of this program file is running on the workstation.
   std::function<bool()> PreviousInstance;
 
+  bool Ending = false;        ///< Set by `store::EndProgram`.
   std::string ProgramFolder;  ///< Without a slash at the end.
   std::string ProgramTitle;
   ProgramVersionNumbers Version;
@@ -91,8 +83,26 @@ struct HostDoor {
 
 extern HostDoor Host;
 
+/// Ends the program when the running event is over. From here on `ProgramEnding()` is true, so that
+/// the steps behind the event know not to go on.
+void EndProgram();
+bool ProgramEnding();
+
+/// Today on the workstation's clock.
+CalendarDate Today();
+
 /// A door behind which nothing happens: every box answers OK, the clock stands. What a run starts
 /// from until the program or a test fills in its own.
 HostDoor EmptyHost();
+
+/// The pointer is an hourglass for as long as one of these lives. Steps within a long step do not
+/// turn it back before the whole is done.
+class Hourglass {
+ public:
+  Hourglass();
+  ~Hourglass();
+  Hourglass(const Hourglass&) = delete;
+  Hourglass& operator=(const Hourglass&) = delete;
+};
 
 }  // namespace store

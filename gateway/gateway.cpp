@@ -1,8 +1,7 @@
 #include "gateway/gateway.h"
 
-#include "forms/hourglass.h"
-#include "session/options_record.h"
-#include "session/session_record.h"
+#include "basics/records.h"
+#include "forms/host.h"
 
 namespace store {
 

@@ -1,10 +1,10 @@
 #include "lookup/HELP_BPR.h"
 
+#include "basics/text.h"
 #include "forms/host.h"
 #include "forms/open_forms.h"
 #include "gateway/gateway.h"
 #include "lookup/consonant_tabs.h"
-#include "session/text.h"
 
 namespace store {
 namespace {

@@ -1,10 +1,9 @@
 #include "lookup/HELP_CT.h"
 
+#include "basics/records.h"
+#include "basics/text.h"
 #include "gateway/gateway.h"
 #include "lookup/consonant_tabs.h"
-#include "session/options_record.h"
-#include "session/session_record.h"
-#include "session/text.h"
 
 namespace store {
 namespace {

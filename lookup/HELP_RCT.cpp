@@ -1,8 +1,8 @@
 #include "lookup/HELP_RCT.h"
 
+#include "basics/records.h"
 #include "gateway/gateway.h"
 #include "lookup/HELP_CT.h"
-#include "session/session_record.h"
 
 namespace store {
 

@@ -1,7 +1,7 @@
 #include "lookup/combo_fillers.h"
 
+#include "basics/text.h"
 #include "gateway/gateway.h"
-#include "session/text.h"
 
 namespace store {
 namespace {

@@ -1,6 +1,6 @@
 #include "lookup/consonant_tabs.h"
 
-#include "session/text.h"
+#include "basics/text.h"
 
 namespace store {
 namespace {

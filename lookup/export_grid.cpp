@@ -4,10 +4,9 @@
 
 #include <filesystem>
 
+#include "basics/dates.h"
+#include "basics/numbers.h"
 #include "forms/host.h"
-#include "forms/hourglass.h"
-#include "session/dates.h"
-#include "session/numbers.h"
 
 namespace store {
 namespace {

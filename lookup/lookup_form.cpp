@@ -1,10 +1,10 @@
 #include "lookup/lookup_form.h"
 
+#include "forms/form.h"
 #include "gateway/gateway.h"
 #include "lookup/consonant_tabs.h"
 #include "lookup/export_grid.h"
 #include "lookup/lookup_grid.h"
-#include "session/window_shell.h"
 
 namespace store {
 

@@ -1,6 +1,6 @@
 #include "lookup/lookup_grid.h"
 
-#include "forms/hourglass.h"
+#include "forms/host.h"
 #include "gateway/gateway.h"
 
 namespace store {

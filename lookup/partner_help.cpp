@@ -1,9 +1,9 @@
 #include "lookup/partner_help.h"
 
+#include "basics/text.h"
 #include "forms/host.h"
 #include "gateway/gateway.h"
 #include "lookup/HELP_CT.h"
-#include "session/text.h"
 
 namespace store {
 namespace {

@@ -1,11 +1,12 @@
 // What the store sold of one item on each of the last 31 days.
 #include <cmath>
 
+#include "basics/dates.h"
+#include "basics/numbers.h"
+#include "basics/records.h"
 #include "gateway/gateway.h"
+#include "forms/host.h"
 #include "order/order_form.h"
-#include "session/dates.h"
-#include "session/numbers.h"
-#include "session/session_record.h"
 
 namespace store {
 namespace {

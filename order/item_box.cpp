@@ -1,11 +1,11 @@
 // The one line through which an order is written: barcodes, searches, quantities.
+#include "basics/dates.h"
+#include "basics/numbers.h"
+#include "basics/records.h"
+#include "basics/text.h"
 #include "forms/host.h"
 #include "gateway/gateway.h"
 #include "order/order_form.h"
-#include "session/dates.h"
-#include "session/numbers.h"
-#include "session/options_record.h"
-#include "session/text.h"
 #include "slips/item_list.h"
 #include "slips/unit_price.h"
 

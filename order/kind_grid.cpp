@@ -1,9 +1,8 @@
 // The item categories beside the pick list.
+#include "basics/records.h"
+#include "basics/text.h"
 #include "gateway/gateway.h"
 #include "order/order_form.h"
-#include "session/options_record.h"
-#include "session/session_record.h"
-#include "session/text.h"
 
 namespace store {
 namespace {

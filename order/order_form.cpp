@@ -1,11 +1,11 @@
 #include "order/order_form.h"
 
+#include "basics/dates.h"
+#include "basics/records.h"
 #include "forms/host.h"
-#include "session/dates.h"
-#include "session/main_window.h"
-#include "session/options_record.h"
 #include "slips/depot_choice.h"
 #include "slips/item_list.h"
+#include "slips/slip_form.h"
 
 namespace store {
 

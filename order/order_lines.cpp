@@ -1,6 +1,6 @@
 // The order's lines: keys on them, quantities, money.
+#include "basics/numbers.h"
 #include "order/order_form.h"
-#include "session/numbers.h"
 
 namespace store {
 namespace {

@@ -1,10 +1,10 @@
 // Filling the order form from a stored slip.
-#include "forms/hourglass.h"
+#include "basics/formats.h"
+#include "basics/numbers.h"
+#include "forms/host.h"
 #include "gateway/gateway.h"
 #include "order/order_form.h"
-#include "session/formats.h"
-#include "session/numbers.h"
-#include "slips/slip_states.h"
+#include "slips/slip.h"
 
 namespace store {
 namespace {

@@ -1,9 +1,9 @@
 // The pick list: items of a search or a category, with a quantity column to type into.
+#include "basics/numbers.h"
+#include "basics/text.h"
 #include "forms/host.h"
 #include "gateway/gateway.h"
 #include "order/order_form.h"
-#include "session/numbers.h"
-#include "session/text.h"
 #include "slips/item_list.h"
 
 namespace store {

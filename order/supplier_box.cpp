@@ -1,12 +1,10 @@
 // Choosing the supplier, which decides prices and, with the option on, which items there are.
+#include "basics/records.h"
+#include "basics/text.h"
 #include "forms/host.h"
-#include "forms/hourglass.h"
 #include "gateway/gateway.h"
 #include "lookup/HELP_CT.h"
 #include "order/order_form.h"
-#include "session/options_record.h"
-#include "session/session_record.h"
-#include "session/text.h"
 #include "slips/item_list.h"
 
 namespace store {

@@ -2,12 +2,11 @@
 
 #include <memory>
 
+#include "basics/dates.h"
+#include "basics/formats.h"
+#include "basics/records.h"
 #include "forms/host.h"
 #include "forms/open_forms.h"
-#include "receipt/receipt_columns.h"
-#include "session/dates.h"
-#include "session/formats.h"
-#include "session/options_record.h"
 #include "slips/depot_choice.h"
 #include "slips/item_list.h"
 

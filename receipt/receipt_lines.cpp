@@ -1,10 +1,9 @@
 // The received quantities: typing, refusing, counting.
+#include "basics/numbers.h"
+#include "basics/records.h"
 #include "forms/host.h"
 #include "lookup/export_grid.h"
 #include "receipt/frm_PE_UNIT.h"
-#include "receipt/receipt_columns.h"
-#include "session/numbers.h"
-#include "session/options_record.h"
 
 namespace store {
 namespace {

@@ -1,10 +1,9 @@
 // Filling the receipt form from the order that is being received.
-#include "forms/hourglass.h"
+#include "basics/formats.h"
+#include "basics/numbers.h"
+#include "forms/host.h"
 #include "gateway/gateway.h"
 #include "receipt/frm_PE_UNIT.h"
-#include "receipt/receipt_columns.h"
-#include "session/formats.h"
-#include "session/numbers.h"
 #include "slips/depot_choice.h"
 
 namespace store {

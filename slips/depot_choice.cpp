@@ -1,7 +1,7 @@
 #include "slips/depot_choice.h"
 
-#include "session/main_window.h"
-#include "session/text.h"
+#include "basics/text.h"
+#include "slips/slip_form.h"
 
 namespace store {
 namespace {

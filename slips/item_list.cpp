@@ -1,7 +1,7 @@
 #include "slips/item_list.h"
 
+#include "basics/records.h"
 #include "gateway/gateway.h"
-#include "session/session_record.h"
 
 namespace store {
 namespace {

@@ -1,7 +1,7 @@
 #include "slips/line_grid.h"
 
-#include "session/formats.h"
-#include "session/numbers.h"
+#include "basics/formats.h"
+#include "basics/numbers.h"
 #include "slips/line_money.h"
 
 namespace store {

@@ -2,9 +2,9 @@
 
 #include <cmath>
 
-#include "session/base_settings.h"
-#include "session/numbers.h"
-#include "session/round_text.h"
+#include "basics/numbers.h"
+#include "basics/records.h"
+#include "basics/round_text.h"
 
 namespace store {
 namespace {

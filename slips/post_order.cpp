@@ -1,6 +1,6 @@
 #include "slips/post_order.h"
 
-#include "forms/hourglass.h"
+#include "forms/host.h"
 #include "gateway/gateway.h"
 #include "slips/slip_statements.h"
 

@@ -1,10 +1,9 @@
 #include "slips/post_receipt.h"
 
+#include "basics/dates.h"
+#include "basics/numbers.h"
 #include "forms/host.h"
-#include "forms/hourglass.h"
 #include "gateway/gateway.h"
-#include "session/dates.h"
-#include "session/numbers.h"
 #include "slips/slip_statements.h"
 
 namespace store {

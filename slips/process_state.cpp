@@ -1,8 +1,10 @@
 #include "slips/process_state.h"
 
+#include "basics/formats.h"
+#include "basics/records.h"
+#include "forms/host.h"
 #include "forms/open_forms.h"
 #include "gateway/gateway.h"
-#include "session/run_state.h"
 #include "slips/slip_keys.h"
 
 namespace store {
@@ -10,7 +12,9 @@ namespace store {
 void ResetProcessState() {
   DropAllForms();
   ResetGateway();
-  ResetSession();
+  ResetRecords();
+  ResetFormats();
+  Host.Ending = false;
   SlipSeqCounter = 0;
   SlipKeyPrefix.clear();
 }

@@ -1,15 +1,31 @@
 #include "slips/slip_checks.h"
 
+#include "basics/dates.h"
+#include "basics/numbers.h"
+#include "basics/records.h"
+#include "basics/text.h"
 #include "forms/host.h"
 #include "gateway/gateway.h"
-#include "session/dates.h"
-#include "session/numbers.h"
-#include "session/session_record.h"
-#include "session/text.h"
-#include "slips/document_date.h"
 #include "slips/item_list.h"
+#include "slips/slip_keys.h"
 
 namespace store {
+
+namespace {
+
+std::string PartnerNameStatement(const std::string& code) {
+  return Splice(
+      " SELECT  CT_NAME "
+      " FROM   CT WHERE CT_CODE = '{0}'",
+      {code});
+}
+
+}  // namespace
+
+std::string PartnerNameOf(const std::string& code) {
+  if (code.empty()) return {};
+  return QueryText(PartnerNameStatement(code), "");
+}
 
 void FillSlipHeader(HeadArray& headValues, const TextBox& partner, const TotalLabels& totals) {
   headValues[head::Today] = FormatDateValue(Today(), "YYYY-MM-DD");

@@ -1,10 +1,16 @@
 #pragma once
 
+#include <string>
+
 #include "forms/control.h"
 #include "slips/line_grid.h"
 #include "slips/slip.h"
 
 namespace store {
+
+/// CT_NAME of a partner. Empty for an empty code, which is not asked for, an unknown one and a
+/// failed read. Reads through `SlotA`.
+std::string PartnerNameOf(const std::string& code);
 
 /// What orders and receipts have in common when they are saved. The checks tell the user what is
 /// wrong and give false.

@@ -21,4 +21,19 @@ class SlipForm : public Form {
   virtual bool HoldsWork() const { return false; }
 };
 
+/// The board as the other forms know it. It lives as long as the program.
+class MainWindow : public Form {
+ public:
+  using Form::Form;
+  /// The depots of the store: name, 30 blanks, code. Order and receipt forms copy the list.
+  ComboBox Combo1;
+};
+
+/// The main window, or nothing before it is made.
+MainWindow* TheMainWindow();
+
+/// Name of the form that serves an order type (`AppOptions.OrderType`, 0 to 3); empty for any other
+/// value.
+const char* OrderFormName(int orderType);
+
 }  // namespace store

@@ -1,9 +1,10 @@
 #include "slips/slip_keys.h"
 
+#include "basics/dates.h"
+#include "basics/numbers.h"
+#include "basics/records.h"
+#include "basics/text.h"
 #include "gateway/gateway.h"
-#include "session/numbers.h"
-#include "session/session_record.h"
-#include "session/text.h"
 
 namespace store {
 
@@ -57,6 +58,19 @@ std::string NextStockCountId() {
   QueryRows(StockCountIdStatement(), found, rows, highestColumn);
   if (rows == 0) return "0001";
   return found.At(1, 0) + Session.UserCode + FormatNumber(ParseNumber(found.At(1, 1)), kNumberMask);
+}
+
+bool DateFitsKey(const std::string& date, const std::string& slipId) {
+  const auto digits = [&](int start, int length) {
+    return static_cast<int>(ParseNumber(MidChars(slipId, start, length)));
+  };
+  const int year = digits(1, 4);
+  const int month = digits(5, 2);
+  const int day = digits(7, 2);
+  if (year == 0 || month == 0 || day == 0) return false;
+  const std::string lower = FormatDateValue(DateSerial(year, month - 1, day), "YYYY-MM-DD");
+  const std::string upper = FormatDateValue(DateSerial(year, month + 1, day), "YYYY-MM-DD");
+  return lower <= date && date <= upper;
 }
 
 }  // namespace store

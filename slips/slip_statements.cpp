@@ -1,6 +1,6 @@
 #include "slips/slip_statements.h"
 
-#include "session/numbers.h"
+#include "basics/numbers.h"
 
 namespace store {
 

@@ -3,11 +3,10 @@
 #include <algorithm>
 #include <array>
 
+#include "basics/numbers.h"
+#include "basics/records.h"
+#include "basics/text.h"
 #include "gateway/gateway.h"
-#include "session/numbers.h"
-#include "session/options_record.h"
-#include "session/session_record.h"
-#include "session/text.h"
 
 namespace store {
 namespace {

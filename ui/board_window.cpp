@@ -9,7 +9,6 @@
 #include <QSplitter>
 #include <QVBoxLayout>
 
-#include "board/board_columns.h"
 #include "board/frm_Start.h"
 #include "ui/bindings.h"
 #include "ui/grid_view.h"

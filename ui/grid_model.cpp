@@ -4,7 +4,7 @@
 #include <QFont>
 #include <algorithm>
 
-#include "session/numbers.h"
+#include "basics/numbers.h"
 #include "ui/qt_text.h"
 
 namespace store {

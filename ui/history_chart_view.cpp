@@ -3,7 +3,7 @@
 #include <QPainter>
 #include <QPainterPath>
 
-#include "session/numbers.h"
+#include "basics/numbers.h"
 #include "ui/qt_text.h"
 #include "ui/style.h"
 

@@ -2,7 +2,7 @@
 
 #include <QKeyEvent>
 
-#include "forms/key.h"
+#include "forms/control.h"
 
 namespace store {
 

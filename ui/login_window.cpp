@@ -6,7 +6,7 @@
 #include <QPainter>
 
 #include "forms/host.h"
-#include "session/frmLogin.h"
+#include "start/frmLogin.h"
 #include "ui/band_painter.h"
 #include "ui/bindings.h"
 #include "ui/key_button.h"

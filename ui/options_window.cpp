@@ -9,7 +9,7 @@
 #include <QRadioButton>
 #include <QVBoxLayout>
 
-#include "session/frmOptions.h"
+#include "start/frmOptions.h"
 #include "ui/bindings.h"
 #include "ui/key_button.h"
 #include "ui/layout_pieces.h"

@@ -11,8 +11,8 @@
 #include "forms/open_forms.h"
 #include "order/order_forms.h"
 #include "receipt/frm_PE_UNIT.h"
-#include "session/frmSplash.h"
-#include "session/main_start.h"
+#include "start/Main_Start.h"
+#include "start/frmSplash.h"
 #include "ui/desk.h"
 #include "ui/real_host.h"
 #include "ui/store_windows.h"
@@ -72,7 +72,7 @@ void PrepareStore(QApplication& application) {
   QApplication::setQuitOnLastWindowClosed(false);
   OpenRealHost();
   RegisterStoreWindows();
-  RegisterSessionForms();
+  RegisterStartForms();
   RegisterBoardForms();
   RegisterOrderForms();
   RegisterReceiptForms();

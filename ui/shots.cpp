@@ -13,6 +13,7 @@
 #include <QTimer>
 #include <deque>
 
+#include "basics/records.h"
 #include "board/frm_Start.h"
 #include "forms/host.h"
 #include "forms/open_forms.h"
@@ -23,8 +24,7 @@
 #include "lookup/HELP_RCT.h"
 #include "lookup/HELP_ST.h"
 #include "order/order_form.h"
-#include "session/main_start.h"
-#include "session/session_record.h"
+#include "start/Main_Start.h"
 #include "ui/desk.h"
 #include "ui/form_window.h"
 #include "ui/grid_view.h"

@@ -4,7 +4,7 @@
 #include <QPainter>
 #include <QVBoxLayout>
 
-#include "session/frmSplash.h"
+#include "start/frmSplash.h"
 #include "ui/band_painter.h"
 #include "ui/bindings.h"
 #include "ui/layout_pieces.h"

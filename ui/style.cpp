@@ -6,7 +6,7 @@
 #include <QPalette>
 #include <QStyleFactory>
 
-#include "slips/slip_states.h"
+#include "slips/slip.h"
 #include "ui/qt_text.h"
 
 namespace store {

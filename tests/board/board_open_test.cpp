@@ -1,6 +1,6 @@
 // From the board into the order and receipt forms.
+#include "basics/records.h"
 #include "forms/host.h"
-#include "session/options_record.h"
 #include "tests/board/board_test.h"
 
 namespace store {

@@ -1,5 +1,5 @@
 // What the board shows.
-#include "session/options_record.h"
+#include "basics/records.h"
 #include "tests/board/board_test.h"
 
 namespace store {

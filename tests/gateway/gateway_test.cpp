@@ -1,7 +1,6 @@
 #include "gateway/gateway.h"
 
-#include "session/options_record.h"
-#include "session/session_record.h"
+#include "basics/records.h"
 #include "tests/gateway/gate.h"
 
 namespace store {

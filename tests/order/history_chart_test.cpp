@@ -1,5 +1,5 @@
+#include "basics/dates.h"
 #include "gateway/gateway.h"
-#include "session/dates.h"
 #include "tests/order/order_desk.h"
 
 namespace store {

@@ -1,10 +1,10 @@
 #include "tests/order/order_desk.h"
 
+#include "basics/dates.h"
+#include "basics/records.h"
 #include "forms/host.h"
 #include "forms/open_forms.h"
 #include "order/order_forms.h"
-#include "session/dates.h"
-#include "session/options_record.h"
 #include "slips/depot_choice.h"
 
 namespace store {

@@ -4,7 +4,7 @@
 
 #include "forms/open_forms.h"
 #include "order/order_form.h"
-#include "session/main_window.h"
+#include "slips/slip_form.h"
 #include "tests/support/small_store_test.h"
 
 namespace store {

@@ -1,5 +1,5 @@
+#include "basics/records.h"
 #include "forms/open_forms.h"
-#include "session/base_settings.h"
 #include "slips/slip_keys.h"
 #include "tests/order/order_desk.h"
 

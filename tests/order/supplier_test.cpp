@@ -1,5 +1,5 @@
+#include "basics/records.h"
 #include "lookup/HELP_CT.h"
-#include "session/options_record.h"
 #include "tests/order/order_desk.h"
 
 namespace store {

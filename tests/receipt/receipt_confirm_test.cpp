@@ -1,6 +1,5 @@
-#include "session/base_settings.h"
-#include "session/dates.h"
-#include "session/options_record.h"
+#include "basics/dates.h"
+#include "basics/records.h"
 #include "slips/slip_keys.h"
 #include "tests/receipt/receipt_desk.h"
 

@@ -1,6 +1,6 @@
 #include "tests/receipt/receipt_desk.h"
 
-#include "session/dates.h"
+#include "basics/dates.h"
 #include "slips/depot_choice.h"
 
 namespace store {

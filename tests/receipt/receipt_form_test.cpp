@@ -1,4 +1,4 @@
-#include "session/options_record.h"
+#include "basics/records.h"
 #include "tests/receipt/receipt_desk.h"
 
 namespace store {

@@ -1,6 +1,6 @@
-#include "slips/document_date.h"
-
 #include <gtest/gtest.h>
+
+#include "slips/slip_keys.h"
 
 namespace store {
 namespace {

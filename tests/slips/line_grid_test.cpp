@@ -2,9 +2,9 @@
 
 #include <gtest/gtest.h>
 
-#include "session/base_settings.h"
-#include "session/formats.h"
-#include "session/run_state.h"
+#include "basics/formats.h"
+#include "basics/records.h"
+#include "slips/process_state.h"
 
 namespace store {
 namespace {
@@ -15,7 +15,7 @@ constexpr LineGridColumns kColumns = {
 class LineGrid : public testing::Test {
  protected:
   LineGrid() {
-    ResetSession();
+    ResetProcessState();
     BaseSettings.VatPercent = "10";
     BaseSettings.VatRounding = "0";
     FormatSetup();

@@ -2,9 +2,9 @@
 
 #include <gtest/gtest.h>
 
-#include "session/base_settings.h"
-#include "session/formats.h"
-#include "session/run_state.h"
+#include "basics/formats.h"
+#include "basics/records.h"
+#include "slips/process_state.h"
 
 namespace store {
 namespace {
@@ -18,7 +18,7 @@ constexpr const char* kRound = "1";
 class LineMoneyRules : public testing::Test {
  protected:
   LineMoneyRules() {
-    ResetSession();
+    ResetProcessState();
     BaseSettings.VatPercent = "10";
     FormatSetup();
   }

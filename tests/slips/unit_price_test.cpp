@@ -1,6 +1,6 @@
 #include "slips/unit_price.h"
 
-#include "session/options_record.h"
+#include "basics/records.h"
 #include "tests/support/small_store_test.h"
 
 namespace store {

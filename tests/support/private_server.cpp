@@ -9,10 +9,9 @@
 #include <fstream>
 #include <sstream>
 
-#include "demo/free_port.h"
+#include "basics/records.h"
 #include "gateway/gateway.h"
-#include "session/options_record.h"
-#include "session/session_record.h"
+#include "private_db/free_port.h"
 #include "slips/process_state.h"
 
 namespace store {

@@ -4,11 +4,11 @@
 
 #include <string>
 
+#include "basics/formats.h"
+#include "basics/records.h"
 #include "forms/grid.h"
 #include "gateway/gateway.h"
-#include "session/formats.h"
-#include "session/session_record.h"
-#include "session/start_data.h"
+#include "start/start_data.h"
 #include "tests/support/private_server.h"
 #include "tests/support/scripted_host.h"
 

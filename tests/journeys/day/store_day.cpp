@@ -3,13 +3,12 @@
 #include <QApplication>
 #include <QtTest>
 
+#include "basics/formats.h"
+#include "basics/records.h"
 #include "forms/host.h"
 #include "forms/open_forms.h"
 #include "gateway/gateway.h"
-#include "session/formats.h"
-#include "session/options_record.h"
-#include "session/session_record.h"
-#include "session/start_data.h"
+#include "start/start_data.h"
 #include "tests/support/private_server.h"
 #include "ui/desk.h"
 #include "ui/run_store.h"

@@ -1,21 +1,21 @@
 // The whole road of an order, driven as a clerk drives it, without a screen.
 #include <gtest/gtest.h>
 
+#include "basics/dates.h"
+#include "basics/formats.h"
+#include "basics/numbers.h"
+#include "basics/records.h"
 #include "board/frm_Start.h"
 #include "forms/open_forms.h"
 #include "gateway/gateway.h"
 #include "order/order_form.h"
 #include "order/order_forms.h"
 #include "receipt/frm_PE_UNIT.h"
-#include "session/dates.h"
-#include "session/formats.h"
-#include "session/frmLogin.h"
-#include "session/frmSplash.h"
-#include "session/main_start.h"
-#include "session/numbers.h"
-#include "session/options.h"
-#include "session/session_record.h"
 #include "slips/process_state.h"
+#include "start/Main_Start.h"
+#include "start/frmLogin.h"
+#include "start/frmSplash.h"
+#include "start/options.h"
 #include "tests/journeys/journey_checks.h"
 #include "tests/support/private_server.h"
 #include "tests/support/scripted_host.h"
@@ -37,7 +37,7 @@ class Workday : public testing::Test {
       return true;
     }();
     (void)loaded;
-    RegisterSessionForms();
+    RegisterStartForms();
     RegisterBoardForms();
     RegisterOrderForms();
     RegisterReceiptForms();

@@ -1,0 +1,11 @@
+#include "basics/records.h"
+
+namespace store {
+
+void ResetRecords() {
+  Session = {};
+  AppOptions = {};
+  BaseSettings = {};
+}
+
+}  // namespace store

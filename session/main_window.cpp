@@ -1,9 +1,0 @@
-#include "session/main_window.h"
-
-#include "forms/open_forms.h"
-
-namespace store {
-
-MainWindow* TheMainWindow() { return dynamic_cast<MainWindow*>(OpenForm("frm_Start")); }
-
-}  // namespace store

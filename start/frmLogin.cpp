@@ -1,0 +1,119 @@
+#include "start/frmLogin.h"
+
+#include "basics/records.h"
+#include "forms/form.h"
+#include "forms/host.h"
+#include "forms/open_forms.h"
+#include "gateway/gateway.h"
+
+namespace store {
+
+namespace {
+
+std::string LoginStatement(const std::string& user, const std::string& password) {
+  return Splice(
+      "SELECT ST_CODE,ST_PWD,ST_NAME,RCT_CODE,ST_ASPLVL FROM ST WHERE  ST_CODE = '{0}' "
+      "AND ST_PWD = '{1}'",
+      {user, password});
+}
+
+constexpr int kLongestInput = 8;
+constexpr int kRefusedAttempt = 3;
+
+}  // namespace
+
+void ReadUser(const std::string& user, const std::string& password) {
+  SqlText = LoginStatement(user, password);
+  OpenRecordset(SlotA, SqlText);
+}
+
+void TakeUser() {
+  Session.UserCode = FieldText(SlotA, 0);
+  Session.UserPassword = FieldText(SlotA, 1);
+  Session.UserName = FieldText(SlotA, 2);
+  Session.UserStoreCode = FieldText(SlotA, 3);
+  Session.UserLevel = FieldText(SlotA, 4);
+}
+
+void TellUnknownUser() {
+  Host.Beep();
+  Host.MsgBox(
+      "사용자정보 오류입니다.                    \r\r"
+      "시스템관리자에게 문의바랍니다. ",
+      box::Critical, "에러");
+}
+
+frmLogin::frmLogin() : Form("frmLogin") {
+  Caption = "로그인";
+  txtUserName.MaxLength = txtPassword.MaxLength = kLongestInput;
+  txtPassword.Masked = true;
+  TabOrder = {&txtUserName, &txtPassword, &cmdOK, &cmdCancel};
+}
+
+void frmLogin::Load() {
+  // The start has tested this already; here only an instance that came up since is met.
+  if (Host.PreviousInstance()) {
+    Host.MsgBox("현재 프로그램이 실행중입니다.      ", box::Critical, "에러");
+    EndProgram();
+    Close();
+    return;
+  }
+  ShapeWindow(*this, placement::Centered, true);
+}
+
+void frmLogin::Activate() {
+  SetFocus(txtUserName);
+  txtUserName.SelectAll();
+}
+
+void frmLogin::Unload() {
+  if (cancelled_) EndProgram();
+}
+
+bool frmLogin::KeyDown(Key key) {
+  switch (key) {
+    case Key::F10:
+      Host.ShowModal(*TheForm("frmOptions"));
+      return true;
+    case Key::Escape:
+      cmdCancel_Click();
+      return true;
+    default:
+      return false;
+  }
+}
+
+void frmLogin::txtUserName_KeyPress(Key key) {
+  if (key == Key::Enter) FocusNext();
+}
+
+void frmLogin::txtPassword_KeyPress(Key key) {
+  if (key == Key::Enter) cmdOK_Click();
+}
+
+void frmLogin::cmdOK_Click() {
+  ++attempts_;
+  if (attempts_ >= kRefusedAttempt) {
+    Host.Beep();
+    Host.MsgBox("권한이 없습니다.                        ", box::Critical, "QUINTA");
+    EndProgram();
+    Close();
+    return;
+  }
+  ReadUser(txtUserName.Text(), txtPassword.Text());
+  if (AtEof(SlotA)) {
+    TellUnknownUser();
+    SetFocus(txtUserName);
+    return;
+  }
+  TakeUser();
+  CloseRecordset(SlotA);
+  Close();
+}
+
+void frmLogin::cmdCancel_Click() {
+  cancelled_ = true;
+  Close();
+}
+
+}  // namespace store

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <string>
+
+#include "basics/records.h"
+
+namespace store {
+
+/// The workstation's options: file "OPT.ini" in `Host.ProgramFolder`, a private profile in code
+/// page 949 (see session/profile_file.h).
+
+/// The one section of the options file.
+inline constexpr const char* kOptionSection = "TARNWICK";
+
+/// The value of a key, at most 254 bytes of code page 949; empty when the key is absent.
+std::string ReadOption(const std::string& section, const std::string& key);
+
+/// Writes one key. A failure is told to the user in a box; the caller goes on with the next key.
+void WriteOption(const std::string& section, const std::string& key, const std::string& value);
+
+/// A number option: the leading numeric part, rounded half to even; 0 when absent or not a number.
+std::int16_t ReadNumberOption(const std::string& section, const std::string& key);
+
+/// Fills `AppOptions` from the file and composes `ConnectString` from it. Once a run, before
+/// anything else goes to the network.
+void LoadOptions();
+
+}  // namespace store
