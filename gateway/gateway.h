@@ -7,6 +7,7 @@
 
 #include "gateway/data_space.h"
 #include "gateway/recordset.h"
+#include "gateway/splice.h"
 #include "gateway/string_table.h"
 
 namespace store {
@@ -71,8 +72,7 @@ void StartBatch();
 /// Adds a statement behind the others.
 void AddToBatch(const std::string& statement);
 
-/// Puts `values[n]` where `text` says {n}. The values go in as they are: nothing is escaped, so a
-/// quote in a value breaks the statement and the server refuses it.
+/// The older way to splice, by position: `values[n]` goes where `text` says {n}.
 std::string Splice(std::string_view text, const std::vector<std::string>& values);
 
 /// All of the gateway's state as at the start of a run.

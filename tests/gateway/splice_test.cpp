@@ -1,3 +1,5 @@
+#include "gateway/splice.h"
+
 #include <gtest/gtest.h>
 
 #include "gateway/gateway.h"
@@ -5,13 +7,28 @@
 namespace store {
 namespace {
 
+struct Columns {
+  static constexpr char kLetter = 'L';
+  static constexpr size_t kFields = 23;
+  std::string Field(size_t number) const { return "<" + std::to_string(number) + ">"; }
+};
+
 TEST(Splice, PutsValuesInAsTheyAreAndNeverTwice) {
-  EXPECT_EQ(Splice("A = '{0}' AND B = {1} OR C = '{0}'", {"o'neil", "3"}),
+  EXPECT_EQ(Splice("A = '{code}' AND B = {n} OR C = '{code}'", "code"_a = "o'neil", "n"_a = "3"),
             "A = 'o'neil' AND B = 3 OR C = 'o'neil'");
-  EXPECT_EQ(Splice("{0}{1}", {"{1}", "{0}"}), "{1}{0}");
-  EXPECT_EQ(Splice("{10}{1}", {"a", "b", "", "", "", "", "", "", "", "", "k"}), "kb");
-  EXPECT_EQ(Splice("{2} {x} {", {"a"}), "{2} {x} {");
+  EXPECT_EQ(Splice("{a}{b}", "a"_a = "{b}", "b"_a = "{a}"), "{b}{a}");
+  EXPECT_EQ(Splice("{L2}{table}{L22}", Columns(), "table"_a = "PSM22"), "<2>PSM22<22>");
 }
+
+using splice::NamesFit;
+using Code = splice::Value<"code">;
+static_assert(NamesFit<Code>("'{code}' {code}"));
+static_assert(NamesFit<Columns>("{L0} {L22}"));
+static_assert(!NamesFit<Code>("'{kode}'"), "a place that no argument bears");
+static_assert(!NamesFit<Code>("nothing"), "an argument without a place");
+static_assert(!NamesFit<Columns>("{L23}"), "a field behind the last");
+static_assert(!NamesFit<Columns>("{L02}"), "a field by another name");
+static_assert(!NamesFit<>("{0}") && !NamesFit<>("{}") && !NamesFit<>("{"), "a brace for nothing");
 
 TEST(BuildConnectString, JoinsItsPartsAsTheDriverReadsThem) {
   BuildConnectString("127.0.0.1;PORT=33061", "kt", "demo");
