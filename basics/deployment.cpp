@@ -10,6 +10,11 @@ std::string FromEnvironment(const char* variable, const char* standard) {
   return set != nullptr && *set != '\0' ? set : standard;
 }
 
+std::chrono::seconds SecondsFromEnvironment(const char* variable, int standard) {
+  const long seconds = std::strtol(FromEnvironment(variable, "").c_str(), nullptr, 10);
+  return std::chrono::seconds(seconds > 0 && seconds < 1'000'000 ? seconds : standard);
+}
+
 }  // namespace
 
 std::string DirectoryServer() {
@@ -17,5 +22,10 @@ std::string DirectoryServer() {
 }
 
 std::string WebHost() { return FromEnvironment("STORE_WEB_HOST", STORE_WEB_HOST); }
+
+std::chrono::seconds ConnectTimeout() { return SecondsFromEnvironment("STORE_CONNECT_TIMEOUT", 5); }
+std::chrono::seconds LockWait() { return SecondsFromEnvironment("STORE_LOCK_WAIT", 10); }
+std::chrono::seconds ReadLimit() { return SecondsFromEnvironment("STORE_READ_LIMIT", 30); }
+std::chrono::seconds BatchLimit() { return SecondsFromEnvironment("STORE_BATCH_LIMIT", 120); }
 
 }  // namespace store

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <string>
 
 namespace store {
@@ -13,5 +14,15 @@ std::string DirectoryServer();
 
 /// Where the product's web pages stand, with the slash at the end. Variable STORE_WEB_HOST.
 std::string WebHost();
+
+/// How long the data tier waits; each variable is a number of seconds.
+std::chrono::seconds ConnectTimeout();  ///< For a server that does not answer a login: 5 seconds.
+                                        ///< Variable STORE_CONNECT_TIMEOUT.
+std::chrono::seconds LockWait();        ///< For rows that another client holds: 10 seconds.
+                                        ///< Variable STORE_LOCK_WAIT.
+std::chrono::seconds ReadLimit();       ///< For a read to be done: 30 seconds. Variable
+                                        ///< STORE_READ_LIMIT.
+std::chrono::seconds BatchLimit();      ///< For a batch to be done: 120 seconds. Variable
+                                        ///< STORE_BATCH_LIMIT.
 
 }  // namespace store

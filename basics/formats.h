@@ -19,6 +19,10 @@ extern std::string FormatMinute;   ///< "YYYY-MM-DD HH:NN"
 extern std::string FormatSecond;   ///< "YYYY-MM-DD HH:NN:SS"
 extern std::string FormatStamp;    ///< "YYYYMMDDHHNNSS"
 
+/// Masks of columns that show numbers the same way for every customer.
+inline constexpr const char* kMaskWhole = "#,###";         ///< Nothing for zero.
+inline constexpr const char* kMaskUpToCents = "#,###.##";  ///< At most two decimals.
+
 /// Fills the formats from `BaseSettings`. Called once at start, after the base codes are loaded.
 void FormatSetup();
 

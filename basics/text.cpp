@@ -126,4 +126,21 @@ std::string MidChars(std::string_view text, int start, int length) {
   return std::string(text.substr(from, SkipChars(text, from, length) - from));
 }
 
+namespace {
+
+constexpr std::string_view kBlanksBeforeCode = "                              ";
+static_assert(kBlanksBeforeCode.size() == 30);
+
+}  // namespace
+
+std::string ListEntry(std::string_view name, std::string_view code) {
+  return std::string(name).append(kBlanksBeforeCode).append(code);
+}
+
+std::string_view NameOfEntry(std::string_view entry) {
+  std::string_view name = entry.substr(0, entry.find(kBlanksBeforeCode));
+  name.remove_prefix(std::min(name.find_first_not_of(' '), name.size()));
+  return name.substr(0, name.find_last_not_of(' ') + 1);
+}
+
 }  // namespace store

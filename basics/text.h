@@ -42,4 +42,9 @@ std::string RightChars(std::string_view text, int count);
 std::string MidChars(std::string_view text, int start);
 std::string MidChars(std::string_view text, int start, int length);
 
+/// An entry of a list: a name, 30 blanks that keep the code out of view, and the code.
+std::string ListEntry(std::string_view name, std::string_view code);
+/// The name of such an entry, without blanks at its ends.
+std::string_view NameOfEntry(std::string_view entry);
+
 }  // namespace store

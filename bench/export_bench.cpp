@@ -20,7 +20,7 @@ constexpr int kRounds = 5;
 Grid ItemGrid() {
   Grid grid;
   grid.SetColumns(std::vector<GridColumn>(11));
-  FillLookupGrid(Splice("{0} LIMIT 20000", {ItemListStatement()}), grid);
+  FillLookupGrid(Splice("{list} LIMIT 20000", "list"_a = ItemListStatement()), grid);
   return grid;
 }
 

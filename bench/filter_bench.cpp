@@ -71,7 +71,7 @@ class SqliteNames {
 };
 
 void FilterName(const std::string& needle) {
-  SetFilter(SlotC, Splice(" PR_NAME LIKE '%{0}%'", {needle}));
+  SetFilter(SlotC, Splice(" PR_NAME LIKE '%{needle}%'", "needle"_a = needle));
 }
 
 }  // namespace
@@ -107,14 +107,16 @@ void BenchFilters(RatioTable& table) {
   table.AddTimes(
       "filter by barcode, against std::string::find",
       Fight(
-          kRounds, [&] { SetFilter(SlotC, Splice(" PR_BCODE  like '{0}%'", {barcode})); },
+          kRounds,
+          [&] { SetFilter(SlotC, Splice(" PR_BCODE  like '{barcode}%'", "barcode"_a = barcode)); },
           [&] { FindLoop(barcodes, barcode); }),
       0.3);
-  table.AddTimes("filter by product code, against std::string::find",
-                 Fight(
-                     kRounds, [&] { SetFilter(SlotC, Splice(" PR_CODE  = '{0}'", {code})); },
-                     [&] { FindLoop(codes, code); }),
-                 0.3);
+  table.AddTimes(
+      "filter by product code, against std::string::find",
+      Fight(
+          kRounds, [&] { SetFilter(SlotC, Splice(" PR_CODE  = '{code}'", "code"_a = code)); },
+          [&] { FindLoop(codes, code); }),
+      0.3);
 }
 
 void BenchGrowth(BenchServer& server, int items) {

@@ -52,9 +52,9 @@ class PeerTable {
 }  // namespace
 
 void BenchPickList(RatioTable& table) {
-  OpenRecordset(SlotC, Splice("{0} LIMIT 20000", {ItemListStatement()}));
+  OpenRecordset(SlotC, Splice("{list} LIMIT 20000", "list"_a = ItemListStatement()));
   DeskHand hand("frm_Order", "FLEX2");
-  hand.Scan(Splice("#{0}", {kSupplier}));
+  hand.Scan("#" + std::string(kSupplier));
   PeerTable peer(hand.GridArea().size());
   Duel best{1e9, 1e9};
   for (int round = 0; round < kRounds; ++round) {

@@ -21,11 +21,11 @@ struct Item {
 
 /// Items that the supplier has a contract price for.
 std::vector<Item> ItemsToScan(ClientLibrary& client) {
-  const std::vector<std::string> texts = client.Texts(
-      Splice("SELECT CONCAT(PR.PR_CODE,' ',PR_BCODE) FROM CTP JOIN PR ON PR.PR_CODE=CTP.PR_CODE "
-             "WHERE CT_CODE='{0}' AND RCT_CODE='1000' AND CTP_FDATE='0000-00-00' AND CTP_UP>0 AND "
-             "PR_END='0' LIMIT 20",
-             {kSupplier}));
+  const std::vector<std::string> texts = client.Texts(Splice(
+      "SELECT CONCAT(PR.PR_CODE,' ',PR_BCODE) FROM CTP JOIN PR ON PR.PR_CODE=CTP.PR_CODE "
+      "WHERE CT_CODE='{supplier}' AND RCT_CODE='1000' AND CTP_FDATE='0000-00-00' AND CTP_UP>0 AND "
+      "PR_END='0' LIMIT 20",
+      "supplier"_a = kSupplier));
   std::vector<Item> items;
   for (const std::string& text : texts) {
     const size_t blank = text.find(' ');
@@ -45,7 +45,7 @@ double PriceLookups(int rounds, const std::vector<Item>& items) {
 class Scans {
  public:
   explicit Scans(BenchServer& server) : client_(server.Port()), items_(ItemsToScan(client_)) {
-    hand_.Scan(Splice("#{0}", {kSupplier}));
+    hand_.Scan("#" + std::string(kSupplier));
     ScanAll();
     selects_ = SelectsOf(server.Port(), [this] { ScanAll(); });
   }

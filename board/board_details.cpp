@@ -11,15 +11,15 @@ std::string PartnerStatement(const std::string& partnerCode) {
   return Splice(
       " SELECT A.CT_NAME,A.CT_JUMIN,A.CT_PHONE,A.CT_FAX,B.CT_CEO,B.CT_CEOPHONE,A.CT_MAIL,B.CT_TMAN,"
       "B.CT_TPHONE,B.CT_TMAIL,concat('[',A.CT_ZIP,'] ',A.CT_ADDR1,' ' ,A.CT_ADDR2)   FROM CT A "
-      "LEFT JOIN CTCOM B ON A.CT_CODE = B.CT_CODE  WHERE A.CT_CODE = '{0}'",
-      {partnerCode});
+      "LEFT JOIN CTCOM B ON A.CT_CODE = B.CT_CODE  WHERE A.CT_CODE = '{partner}'",
+      "partner"_a = partnerCode);
 }
 
 std::string ConditionStatement(const std::string& value) {
   return Splice(
       " SELECT  PE_COND,PE_CSDAY,PE_CSCT,PE_MEMO1,PE_MEMO2,PE_MEMO3,PE_GRDAY,PE_TYPE   FROM PEM22  "
-      "WHERE PE_ID = '{0}'",
-      {value});
+      "WHERE PE_ID = '{value}'",
+      "value"_a = value);
 }
 
 /// The first row goes into the labels, NULL as an empty one; without a row they keep their texts.
@@ -38,8 +38,8 @@ void ShowFirstRow(const std::string& statement, std::span<Label> labels) {
 
 void frm_Start::Image5_Click() {
   ShowPartner(FLEX1.TextMatrix(FLEX1.Row(), board::PartnerCode));
-  // Asked by the total and not by the slip: an order whose key equals its total is all this finds.
-  // Customers know the pane as empty, and it stays so.
+  // The conditions are looked up by the slip's total instead of its key, so the pane stays empty.
+  // Customers know it that way, and it is kept.
   ShowConditions(FLEX1.TextMatrix(FLEX1.Row(), board::Total));
 }
 

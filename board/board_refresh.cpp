@@ -7,6 +7,7 @@
 #include "forms/host.h"
 #include "gateway/gateway.h"
 #include "lookup/combo_fillers.h"
+#include "slips/order_types.h"
 #include "slips/slip.h"
 
 namespace store {
@@ -17,8 +18,8 @@ constexpr int kLightRed = 0xFF5555;  // colour 12 of the palette of 16
 std::string NoticeStatement() {
   return Splice(
       " SELECT NOTICE.NID,SUBJECT,WDAY,content FROM NOTICE LEFT JOIN SETCONFIGNOTICE ON NOTICE.NID "
-      "=  SETCONFIGNOTICE.NID WHERE CID_{0} = 'T' ORDER BY WDAY DESC LIMIT 0, 10 ",
-      {Session.StoreCode});
+      "=  SETCONFIGNOTICE.NID WHERE CID_{store} = 'T' ORDER BY WDAY DESC LIMIT 0, 10 ",
+      "store"_a = Session.StoreCode);
 }
 
 std::string SlipStatement(const std::string& condition) {
@@ -26,14 +27,15 @@ std::string SlipStatement(const std::string& condition) {
       " SELECT ' ' AS SEQ,PE_PDATE,PE_TCTNAME,PE_CK,COUNT(*) AS ACount,PE_AMT,PE_TAX,PE_TOT,"
       "PSM22.PE_ID AS SP1,' ' AS SP2,CT.CT_CODE   FROM (PEM22 LEFT JOIN PSM22 ON PEM22.PE_ID = "
       "PSM22.PE_ID) LEFT JOIN CT ON  PEM22.PE_TCTCODE = CT.CT_CODE   WHERE PEM22.PE_FCTCODE = "
-      "'{0}'  {1}  GROUP BY PSM22.PE_ID ORDER BY PE_PDATE DESC,PE_TCTNAME ",
-      {Session.StoreCode, condition});
+      "'{store}'  {condition}  GROUP BY PSM22.PE_ID ORDER BY PE_PDATE DESC,PE_TCTNAME ",
+      "store"_a = Session.StoreCode, "condition"_a = condition);
 }
 
 std::string PeriodCondition(const std::string& from, const std::string& to) {
   return Splice(
-      " and PE_PDATE between '{0}' and '{1}' and PE_CK not in ( '4','9','8')   AND PE_LINK = ''  ",
-      {from, to});
+      " and PE_PDATE between '{from}' and '{to}' and PE_CK not in ( '4','9','8')   AND PE_LINK = "
+      "''  ",
+      "from"_a = from, "to"_a = to);
 }
 
 constexpr const char* kEditingCondition = " and PE_CK = '0' AND PE_LINK = '' ";
@@ -66,12 +68,12 @@ void frm_Start::LoadNotices() {
   OpenRecordset(SlotA, SqlText);
   FLEX0.SetRows(1);
   if (RecordCountOf(SlotA) == 0) return;
-  for (; !AtEof(SlotA); SlotA->MoveNext()) {
+  ForEachRow(SlotA, [this] {
     FLEX0.AddItem(FieldText(SlotA, 0) + "\t" + WithoutBackslashes(FieldText(SlotA, 1)) + "\t" +
                   FormatDateText(FieldText(SlotA, 2), "yyyy.mm.dd hh:mm") + "\t");
     // The body is set by itself: a tab in it is text and no border between cells.
     FLEX0.SetTextMatrix(FLEX0.Rows() - 1, 3, WithoutBackslashes(FieldText(SlotA, 3)));
-  }
+  });
   CloseRecordset(SlotA);
 }
 
@@ -80,7 +82,7 @@ std::string frm_Start::SearchCondition() const {
   if (Option1[2].Value) return kConfirmedCondition;
   if (Option1[3].Value) {
     if (Session.DatabaseName == kShippedOnlyCustomer) return kShippedCondition;
-    return AppOptions.OrderType == 0 ? kOpenReceiptCondition : kReceiptCondition;
+    return ChosenOrderType().ListsLinkedReceipts ? kReceiptCondition : kOpenReceiptCondition;
   }
   return PeriodCondition(DTOrderDate[0].Value(), DTOrderDate[1].Value());
 }
@@ -91,14 +93,14 @@ void frm_Start::LoadSlips() {
   FLEX1.SetRows(1);
   double lines = 0;
   double total = 0;
-  for (int number = 1; !AtEof(SlotA); ++number, SlotA->MoveNext()) {
-    AddSlipRow(number);
+  ForEachRow(SlotA, [&] {
+    AddSlipRow(FLEX1.Rows());
     lines += ParseNumber(FieldText(SlotA, board::Lines));
     total += ParseNumber(FieldText(SlotA, board::Total));
-  }
+  });
   CloseRecordset(SlotA);
   Label6[0].Caption =
-      std::to_string(FLEX1.Rows() - 1) + "건   " + FormatNumber(lines, "#,###") + " 상품";
+      std::to_string(FLEX1.Rows() - 1) + "건   " + FormatNumber(lines, kMaskWhole) + " 상품";
   Label6[1].Caption = FormatNumber(total, FormatAmount) + "원";
 }
 

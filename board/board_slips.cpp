@@ -5,24 +5,26 @@
 #include "forms/host.h"
 #include "forms/open_forms.h"
 #include "gateway/gateway.h"
+#include "slips/order_types.h"
 #include "slips/slip.h"
 #include "slips/slip_form.h"
 
 namespace store {
 namespace {
 
-/// The guard on the state lets the statement touch nothing when head office has moved the slip.
+/// Both touch nothing when head office has meanwhile moved the slip to another state.
 std::string DeleteSlipStatement(const std::string& slipId) {
-  return Splice(" DELETE FROM PEM22 WHERE  PE_ID = '{0}' AND PE_CK  = '0' ", {slipId});
+  return Splice(" DELETE FROM PEM22 WHERE  PE_ID = '{slip}' AND PE_CK  = '0' ", "slip"_a = slipId);
 }
 
 std::string RevertSlipStatement(const std::string& slipId) {
-  return Splice(" UPDATE PEM22 SET PE_CK  = '0' WHERE  PE_ID = '{0}' AND PE_CK  = '1' ", {slipId});
+  return Splice(" UPDATE PEM22 SET PE_CK  = '0' WHERE  PE_ID = '{slip}' AND PE_CK  = '1' ",
+                "slip"_a = slipId);
 }
 
 std::string FindSlipStatement(const std::string& slipId) {
-  return Splice(" SELECT PEM22.PE_CK,PEM22.PE_ID  FROM PEM22  WHERE PEM22.PE_ID = '{0}'  ",
-                {slipId});
+  return Splice(" SELECT PEM22.PE_CK,PEM22.PE_ID  FROM PEM22  WHERE PEM22.PE_ID = '{slip}'  ",
+                "slip"_a = slipId);
 }
 
 SlipForm* SlipFormNamed(const std::string& name) { return dynamic_cast<SlipForm*>(TheForm(name)); }
@@ -30,7 +32,7 @@ SlipForm* SlipFormNamed(const std::string& name) { return dynamic_cast<SlipForm*
 /// The order form of the workstation's order type, ready for another slip. Nothing when there is no
 /// such form, or when it holds an order that is not stored yet: it then comes forward as it is.
 SlipForm* FreeOrderForm() {
-  const std::string name = OrderFormName(AppOptions.OrderType);
+  const std::string name = ChosenOrderType().FormName;
   if (auto* open = dynamic_cast<SlipForm*>(OpenForm(name))) {
     if (open->HoldsWork()) {
       Host.Show(*open);
@@ -55,8 +57,7 @@ void frm_Start::FLEX1_Click() {
 }
 
 void frm_Start::FLEX1_Walk() {
-  // The row that stands out is the slip that the keys work on, in whichever column one walks: F8
-  // must never delete another.
+  // F8 deletes the selected slip, so the selection follows the highlighted row in every column.
   if (FLEX1.Row() >= 1) SelectSlip();
 }
 

@@ -4,6 +4,7 @@
 
 #include "basics/dates.h"
 #include "basics/deployment.h"
+#include "basics/formats.h"
 #include "basics/records.h"
 #include "forms/host.h"
 #include "forms/open_forms.h"
@@ -33,9 +34,65 @@ frm_Start::frm_Start() : MainWindow("frm_Start") {
   Frame1.Visible = false;
   Text1[1].MultiLine = true;
   SetUpGrids();
-  FLEX0.RowColChange = [this] { FLEX0_RowColChange(); };
+  PublishControls();
+  ConnectEvents();
   TabOrder = {&Text2,          &Option1[0],     &Option1[1], &Option1[2], &Option1[3],
               &DTOrderDate[0], &DTOrderDate[1], &FLEX1,      &FLEX0};
+}
+
+void frm_Start::PublishControls() {
+  Publish("FLEX0", FLEX0);
+  Publish("Frame1", Frame1);
+  Publish("Text1", Text1);
+  Publish("Label2", Label2);
+  Publish("Option1", Option1);
+  Publish("DTOrderDate", DTOrderDate);
+  Publish("Text2", Text2);
+  Publish("FLEX1", FLEX1);
+  Publish("Label6", Label6);
+  Publish("LaCaption", LaCaption);
+  for (const size_t index : {0, 1, 3, 4}) {  // 2 has no picture
+    Publish("Image1_" + std::to_string(index), Image1[index]);
+  }
+  Publish("Image3", Image3);
+  Publish("Label4", Label4);
+  Publish("Label5", Label5);
+  Publish("Image5", Image5);
+  Publish("LaCT", LaCT);
+  Publish("LaPM", LaPM);
+}
+
+void frm_Start::ConnectEvents() {
+  FLEX0.RowColChange = [this] { FLEX0_RowColChange(); };
+  FLEX0.DblClick = [this] { FLEX0_DblClick(); };
+  FLEX0.KeyDown = [this](Key key) {
+    if (key == Key::Enter) FLEX0_DblClick();
+  };
+  FLEX0.OwnKeys = {Key::Enter};
+  for (int i = 0; i < static_cast<int>(Option1.size()); ++i) {
+    Option1[static_cast<size_t>(i)].Click = [this, i] { Option1_Click(i); };
+  }
+  for (DatePicker& date : DTOrderDate) {
+    date.KeyDown = [this](Key key) {
+      if (key == Key::Enter) Image1_Click(3);
+    };
+    date.OwnKeys = {Key::Enter};
+  }
+  Text2.KeyDown = [this](Key key) { Text2_KeyPress(key); };
+  Text2.OwnKeys = {Key::Enter};
+  FLEX1.Click = [this] { FLEX1_Click(); };
+  FLEX1.DblClick = [this] { FLEX1_DblClick(); };
+  FLEX1.Walk = [this] { FLEX1_Walk(); };
+  FLEX1.KeyDown = [this](Key key) { FLEX1_KeyDown(key); };
+  FLEX1.OwnKeys = {Key::F4, Key::Enter};
+  for (int i = 0; i < static_cast<int>(Image1.size()); ++i) {
+    Image1[static_cast<size_t>(i)].Click = [this, i] { Image1_Click(i); };
+  }
+  Image3.Click = [this] { Image3_Click(); };
+  Image5.Click = [this] { Image5_Click(); };
+  Label4.Click = [this] { Label4_Click(); };
+  Label5[0].Click = [this] { Label5_Click(0); };
+  Label5[1].Click = [this] { Label5_Click(1); };
 }
 
 void frm_Start::SetUpGrids() {
@@ -48,10 +105,10 @@ void frm_Start::SetUpGrids() {
       {.Header = "일자", .Width = 1005, .Alignment = Align::Center},
       {.Header = "발주처", .Width = 2055, .Alignment = Align::Left},
       {.Header = "상태", .Width = 885, .Alignment = Align::Center},
-      {.Header = "건수", .Width = 510, .Alignment = Align::Right, .Format = "#,###"},
-      {.Header = "공급가액", .Width = 900, .Alignment = Align::Right, .Format = "#,###"},
-      {.Header = "부가세액", .Width = 900, .Alignment = Align::Right, .Format = "#,###"},
-      {.Header = "합계금액", .Width = 945, .Alignment = Align::Right, .Format = "#,###"},
+      {.Header = "건수", .Width = 510, .Alignment = Align::Right, .Format = kMaskWhole},
+      {.Header = "공급가액", .Width = 900, .Alignment = Align::Right, .Format = kMaskWhole},
+      {.Header = "부가세액", .Width = 900, .Alignment = Align::Right, .Format = kMaskWhole},
+      {.Header = "합계금액", .Width = 945, .Alignment = Align::Right, .Format = kMaskWhole},
       {.Width = 900, .Hidden = true},
       {.Header = "확인", .Width = 420, .Alignment = Align::Center},
       {.Header = "거래처코드", .Width = 900, .Hidden = true},

@@ -48,7 +48,7 @@ class frm_Start : public MainWindow {
   Label Image3;                 ///< Closes the notice pane.
   Label Label4;                 ///< The web page.
   std::array<Label, 2> Label5;  ///< 0 closes the window, 1 makes it small.
-  Label Image5{"[F4]"};         ///< Details of the selected slip.
+  Label Image5;                 ///< "[F4]": Details of the selected slip.
   // Details.
   std::array<Label, 11> LaCT;  ///< The partner.
   std::array<Label, 8> LaPM;   ///< The order's conditions.
@@ -77,6 +77,8 @@ class frm_Start : public MainWindow {
   void Text2_KeyPress(Key key);
 
  private:
+  void PublishControls();
+  void ConnectEvents();
   void SetUpGrids();
   void RefreshBoard();
   void LoadNotices();

@@ -4,6 +4,10 @@
 
 namespace store {
 
+bool Control::Owns(Key key) const {
+  return std::find(OwnKeys.begin(), OwnKeys.end(), key) != OwnKeys.end();
+}
+
 void TextBox::SetText(const std::string& text) {
   if (text == text_) return;
   text_ = text;
@@ -40,6 +44,11 @@ std::string ComboBox::Text() const {
 void ComboBox::SetText(const std::string& entry) {
   const auto found = std::find(list_.begin(), list_.end(), entry);
   if (found != list_.end()) SetListIndex(static_cast<int>(found - list_.begin()));
+}
+
+void Timer::Restart() {
+  Enabled = true;
+  ++restarts_;
 }
 
 void DatePicker::SetValue(const std::string& date) {

@@ -25,14 +25,24 @@ enum class Key {
   F12,
 };
 
-/// What every element of a form has: whether it answers, whether it is seen, and its tool tip.
-/// A control is a plain value; the window that shows it is brought into line after each event.
+/// What every element of a form has: whether it answers, whether it is seen, its tool tip and its
+/// keys. A control is a plain value that carries its events; the window that shows it is brought
+/// into line after each of them.
 class Control {
  public:
   virtual ~Control() = default;
   bool Enabled = true;
   bool Visible = true;
   std::string ToolTipText;
+
+  /// A named key while the control has the keyboard. The form has seen it before.
+  std::function<void(Key)> KeyDown;
+  /// The keys that go no further once the control has had them.
+  std::vector<Key> OwnKeys;
+  /// The keyboard came to the control from another one of its form.
+  std::function<void()> GotFocus;
+
+  bool Owns(Key key) const;
 };
 
 /// A text that the form writes and the user only reads, or clicks.
@@ -41,6 +51,7 @@ class Label : public Control {
   Label() = default;
   explicit Label(std::string caption) : Caption(std::move(caption)) {}
   std::string Caption;
+  std::function<void()> Click;
 };
 
 /// A button with a fixed caption.
@@ -49,6 +60,7 @@ class Button : public Control {
   Button() = default;
   explicit Button(std::string caption) : Caption(std::move(caption)) {}
   std::string Caption;
+  std::function<void()> Click;
 };
 
 /// One line (or, with MultiLine, several) of text that the user edits. `Tag` is a hidden companion
@@ -112,6 +124,8 @@ class CheckBox : public Control {
   explicit CheckBox(std::string caption) : Caption(std::move(caption)) {}
   std::string Caption;
   int Value = 0;
+  /// The user has ticked it or taken the tick away; `Value` is the new one.
+  std::function<void()> Click;
 };
 
 /// One of a group of choices of which one holds; the form keeps the group.
@@ -121,11 +135,14 @@ class OptionButton : public Control {
   explicit OptionButton(std::string caption) : Caption(std::move(caption)) {}
   std::string Caption;
   bool Value = false;
+  /// The user wants this one.
+  std::function<void()> Click;
 };
 
 /// A calendar date, "YYYY-MM-DD".
 class DatePicker : public Control {
  public:
+  /// Raised whenever the date becomes another one, by the user or from code.
   std::function<void()> Change;
   const std::string& Value() const { return value_; }
   void SetValue(const std::string& date);
@@ -139,6 +156,8 @@ class TabStrip : public Control {
  public:
   std::vector<std::string> Captions;
   int CurrTab = -1;
+  /// The user has pressed a tab, counted from 0. Which one is current is for the form to say.
+  std::function<void(int tab)> Click;
 };
 
 /// Fires every `Interval` milliseconds while it is enabled and the interval is not 0.
@@ -146,6 +165,14 @@ class Timer : public Control {
  public:
   Timer() { Enabled = false; }
   int Interval = 0;
+  std::function<void()> Tick;
+
+  /// Begins to count anew, also when it is running.
+  void Restart();
+  unsigned Restarts() const { return restarts_; }
+
+ private:
+  unsigned restarts_ = 0;
 };
 
 /// How far a long step has come.

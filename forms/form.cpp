@@ -23,6 +23,19 @@ bool Form::Close() {
   return true;
 }
 
+bool Form::Press(Key key, Control* at) {
+  if (KeyDown(key) || closed_) return true;
+  if (at == nullptr || !at->Enabled) return false;
+  if (at->KeyDown) at->KeyDown(key);
+  return at->Owns(key);
+}
+
+void Form::TakeFocus(Control& control, bool fromThisForm) {
+  const bool back = !fromThisForm && ActiveControl == &control;
+  ActiveControl = &control;
+  if (!back && control.GotFocus) control.GotFocus();
+}
+
 void Form::SetFocus(Control& control) {
   ActiveControl = &control;
   ++focusRevision_;

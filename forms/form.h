@@ -1,7 +1,9 @@
 #pragma once
 
+#include <concepts>
 #include <cstdint>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "forms/control.h"
@@ -20,6 +22,7 @@ struct WindowPlace {
   int Height = 0;
   bool Rounded = false;
   bool Positioned = false;  ///< The form chose Left and Top.
+  bool OnTop = false;       ///< Stays in front of the windows of all programs.
 };
 
 /// A window without its toolkit: its members are its controls, its methods are its events. A form
@@ -43,8 +46,17 @@ class Form {
   virtual bool QueryUnload() { return true; }
   /// Once, when the form closes.
   virtual void Unload() {}
-  /// The form sees named keys before its controls. True means that the key is used up.
+  /// The form sees named keys before its controls. True means that the key is used up; after false
+  /// the control with the keyboard sees it too.
   virtual bool KeyDown(Key) { return false; }
+
+  /// What a pressed key does: the form sees it, then `at`, the control that had the keyboard (or
+  /// nothing). True when one of them has used it up.
+  bool Press(Key key, Control* at);
+  bool Press(Key key) { return Press(key, ActiveControl); }
+  /// The keyboard came to a control of this form: from another one of it, or from elsewhere, which
+  /// is no news to the control that had it last.
+  void TakeFocus(Control& control, bool fromThisForm);
 
   void EnsureLoaded();
   /// Closes the form and its window unless `QueryUnload` objects. True when it is closed.
@@ -57,9 +69,25 @@ class Form {
   /// What the Tab key does: to the next control of `TabOrder` that can take the focus.
   void FocusNext();
   std::vector<Control*> TabOrder;
+
+  /// Makes a control known to the window. Called in the constructor of the form or of a
+  /// pane of it, once for each that is shown.
+  void Publish(const std::string& name, Control& control) {
+    controls_.emplace_back(name, &control);
+  }
+  /// The members of an array as "Name_0", "Name_1" and so on.
+  template <class Controls>
+  requires(!std::derived_from<Controls, Control>) void Publish(const std::string& name,
+                                                               Controls& controls) {
+    int index = 0;
+    for (Control& control : controls) Publish(name + "_" + std::to_string(index++), control);
+  }
+  /// The controls under the names by which the window finds them, in the order of publishing.
+  const std::vector<std::pair<std::string, Control*>>& Controls() const { return controls_; }
   unsigned FocusRevision() const { return focusRevision_; }
 
  private:
+  std::vector<std::pair<std::string, Control*>> controls_;
   bool loaded_ = false;
   bool closed_ = false;
   unsigned focusRevision_ = 0;

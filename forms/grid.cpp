@@ -1,5 +1,7 @@
 #include "forms/grid.h"
 
+#include <algorithm>
+
 namespace store {
 
 void Grid::SetColumns(std::vector<GridColumn> columns, int fixedRows) {
@@ -68,6 +70,20 @@ void Grid::RemoveItem(int row) {
   rows_.erase(rows_.begin() + row);
   ++revision_;
   if (row_ >= Rows()) Select(Rows() > fixedRows_ ? Rows() - 1 : 0, col_);
+}
+
+int Grid::EntryColumn() const {
+  const auto takesText = [](const GridColumn& column) {
+    return column.Editable && !column.CheckBox;
+  };
+  if (col_ < Cols() && takesText(columns_[static_cast<size_t>(col_)])) return col_;
+  const auto found = std::find_if(columns_.begin(), columns_.end(), takesText);
+  return found == columns_.end() ? -1 : static_cast<int>(found - columns_.begin());
+}
+
+void Grid::SetTopRow(int row) {
+  topRow_ = std::clamp(row, 0, std::max(0, Rows() - fixedRows_ - 1));
+  ++topRowRevision_;
 }
 
 void Grid::Select(int row, int col) {

@@ -19,6 +19,7 @@ struct GridColumn {
   std::string Format = {};  ///< A number mask for what is shown; the cell keeps its text.
   bool Hidden = false;
   bool CheckBox = false;  ///< Cells hold "-1" when ticked, "" or "0" when not.
+  bool Editable = false;  ///< The window may open an editor in its cells, or tick them.
 };
 
 /// How one cell is shown beyond its text.
@@ -36,7 +37,20 @@ class Grid : public Control {
  public:
   /// Raised when the current row or column becomes another one, by the user or from code.
   std::function<void()> RowColChange;
-  int EditableColumn = -1;  ///< The one column in which the window may open an editor.
+  std::function<void()> Click;  ///< On the current cell.
+  std::function<void()> DblClick;
+  /// The user has moved to another row with the keyboard.
+  std::function<void()> Walk;
+  /// A character, or what an input method has put together, typed where no cell can be edited.
+  std::function<void(const std::string& text)> KeyPress;
+  /// Whether a cell of an editable column may be edited; without it every one may.
+  std::function<bool(int row, int col)> BeforeEdit;
+  /// The user has put a text into a cell or has ticked it; it stands there already.
+  std::function<void(int row, int col)> AfterEdit;
+  /// The pointer is over another cell. What the form then makes the tool tip is shown there.
+  std::function<void(int row, int col)> MouseMove;
+
+  bool Redraw = true;  ///< While false the window shows the grid as it was.
 
   /// Sets the columns and writes their headers into row 0; data rows are dropped.
   void SetColumns(std::vector<GridColumn> columns, int fixedRows = 1);
@@ -58,6 +72,17 @@ class Grid : public Control {
   /// Adds a row of tab-joined cells, at the end or before row `index`. Surplus cells are dropped.
   void AddItem(std::string_view tabJoined, int index = -1);
   void RemoveItem(int row);
+
+  /// The column into which typing goes: the current one if a text can be typed there, else the
+  /// first such column; -1 where there is none.
+  int EntryColumn() const;
+
+  /// The first data row in view, counted from `FixedRows()`. The window follows what the form sets,
+  /// and reports where the user has scrolled to. Clamped to the rows.
+  int TopRow() const { return topRow_; }
+  void SetTopRow(int row);
+  void NoteTopRow(int row) { topRow_ = row; }
+  unsigned TopRowRevision() const { return topRowRevision_; }
 
   int Row() const { return row_; }
   int Col() const { return col_; }
@@ -87,6 +112,8 @@ class Grid : public Control {
   int fixedRows_ = 1;
   int row_ = 0;
   int col_ = 0;
+  int topRow_ = 0;
+  unsigned topRowRevision_ = 0;
   unsigned revision_ = 0;
 };
 

@@ -11,17 +11,22 @@ namespace store {
 /// Styles and answers of a message box, as the system's texts name them.
 namespace box {
 inline constexpr int Plain = 0;
+inline constexpr int OkCancel = 1;
 inline constexpr int YesNo = 4;
 inline constexpr int Critical = 16;
 inline constexpr int Question = 32;
+inline constexpr int Warning = 48;
 inline constexpr int Information = 64;
 inline constexpr int Ok = 1;
+inline constexpr int Cancel = 2;
 inline constexpr int Yes = 6;
 inline constexpr int No = 7;
 }  // namespace box
 
 inline constexpr int PointerNormal = 0;
+inline constexpr int PointerArrow = 1;
 inline constexpr int PointerHourglass = 11;
+inline constexpr int PointerArrowHourglass = 13;  ///< Busy, but the window answers.
 
 struct ProgramVersionNumbers {
   int Major = 0;
@@ -32,11 +37,13 @@ struct ProgramVersionNumbers {
 /// The one door to the workstation. The program fills it with the real thing, a test with a
 /// scripted one. All texts are UTF-8.
 struct HostDoor {
-  /// Shows a box and waits. `style` is an icon plus, where asked, `box::YesNo`; an empty title
-  /// means the program's. Answers `box::Ok`, `box::Yes` or `box::No`.
+  /// Shows a box and waits. `style` is an icon plus, where asked, `box::YesNo` or
+  /// `box::OkCancel`; an empty title means the program's. Answers by the button pressed; closing a
+  /// box counts as its No or Cancel.
   std::function<int(const std::string& text, int style, const std::string& title)> MsgBox;
 
-  /// Loads the form, shows its window and returns when the form is closed.
+  /// Loads the form, shows its window and returns when the form is closed or hidden. One that was
+  /// hidden can be shown again and stands as it was left; it is activated each time.
   std::function<void(Form&)> ShowModal;
   /// Loads the form and shows its window beside the others; a window that is there comes forward.
   std::function<void(Form&)> Show;
@@ -50,7 +57,7 @@ struct HostDoor {
 
   /// Size of the screen in pixels.
   std::function<void(int& width, int& height)> ScreenSize;
-  /// `PointerNormal` or `PointerHourglass`.
+  /// One of the pointer values above.
   std::function<void(int pointer)> SetPointer;
   std::function<void()> Beep;
   /// Lets pending window events run, painting among them.
@@ -61,8 +68,10 @@ struct HostDoor {
 
   /// Opens an address or a file with the desktop's own program. False when that cannot be done.
   std::function<bool(const std::string& address)> OpenAddress;
-  /// Starts a program without waiting. False when it cannot be started.
-  std::function<bool(const std::string& path, const std::string& arguments)> StartProgram;
+  /// Starts a program without waiting, its window in the state asked for where the platform lets
+  /// one ask. False when it cannot be started.
+  std::function<bool(const std::string& path, const std::string& arguments, WindowState state)>
+      StartProgram;
 
   /// The per-user settings store. A missing key reads as an empty text.
   std::function<std::string(const std::string& application, const std::string& section,

@@ -18,13 +18,14 @@ bool IsAsciiLetter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 
 
 std::array<std::uint32_t, 256> CountFolded(std::string_view sample) {
   std::array<std::uint32_t, 256> counts{};
-  // Bits from everywhere in the run tell enough, and cost less than they save. A single slice would
-  // not do: in a sorted column neighbours are alike.
-  constexpr size_t bits = 64;
-  constexpr size_t bitBytes = 64;
-  const size_t stride = std::max(sample.size() / bits, bitBytes);
+  // Counting the whole run would take longer than the search. 64 slices spread over it show well
+  // enough which bytes are rare; one slice would not, since neighbours in a sorted column are
+  // alike.
+  constexpr size_t slices = 64;
+  constexpr size_t sliceBytes = 64;
+  const size_t stride = std::max(sample.size() / slices, sliceBytes);
   for (size_t at = 0; at < sample.size(); at += stride) {
-    for (const char c : sample.substr(at, bitBytes)) {
+    for (const char c : sample.substr(at, sliceBytes)) {
       ++counts[static_cast<unsigned char>(FoldAscii(c))];
     }
   }
@@ -69,7 +70,7 @@ void ByteSearch::Next(std::string_view run, size_t from, Hits& hits) const {
   const size_t last = run.size() - length;  // the last place where the needle can begin
   size_t at = from;
 #ifdef __SSE2__
-  // A letter is compared with its case bit set on both sides: only its own two cases then meet it.
+  // With the case bit set on both sides, a letter equals its capital and its small form only.
   struct Watch {
     const char* bytes;
     __m128i wanted;

@@ -7,10 +7,10 @@
 
 namespace store {
 
-/// Finds one text in a long run of bytes, ASCII letters without case. It watches the three bytes of
-/// the needle that are rarest in the run: the syllables of Hangul share their lead bytes, so a
-/// search that waits for the first byte would stop at nearly every letter, and in codes every digit
-/// is as common as the next.
+/// Finds one text (the needle) in a long run of bytes, ASCII letters without case. It compares only
+/// the three bytes of the needle that are rarest in the run, and the rest where all three are met.
+/// A search for the needle's first byte would stop far too often: nearly every syllable of Hangul
+/// begins with one of a few bytes, and in codes and barcodes all ten digits are common.
 class ByteSearch {
  public:
   /// `sample` is the run, or a good part of it, from which the rarity of bytes is judged.
@@ -24,9 +24,9 @@ class ByteSearch {
     size_t count = 0;
     size_t next = npos;  ///< Where to go on from; npos when the run is done.
   };
-  /// Fills `hits` with the occurrences at or after `from`, as many as fit. They come in handfuls,
-  /// since a common needle is met every few hundred bytes and each call has to set up its
-  /// registers.
+  /// Fills `hits` with the occurrences at or after `from`, as many as fit. One call gives many of
+  /// them, because each call costs some preparation and a common needle occurs every few hundred
+  /// bytes.
   void Next(std::string_view run, size_t from, Hits& hits) const;
 
  private:

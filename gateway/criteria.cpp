@@ -54,19 +54,20 @@ class CriteriaReader {
   size_t at_ = 0;
 };
 
-/// Takes the percent signs off the ends of a pattern. Within the text they have no meaning, and
-/// such a pattern is refused.
-bool ReadPattern(std::string pattern, TextMatch& match) {
+/// Takes one percent sign off each end of a pattern. Whatever stands between them are letters, so
+/// that a person can look for "50%".
+TextMatch ReadPattern(std::string_view pattern) {
+  TextMatch match;
   if (!pattern.empty() && pattern.back() == '%') {
     match.toEnd = false;
-    pattern.pop_back();
+    pattern.remove_suffix(1);
   }
   if (!pattern.empty() && pattern.front() == '%') {
     match.fromStart = false;
-    pattern.erase(pattern.begin());
+    pattern.remove_prefix(1);
   }
-  match.needle = std::move(pattern);
-  return match.needle.find('%') == std::string::npos;
+  match.needle = pattern;
+  return match;
 }
 
 }  // namespace
@@ -81,7 +82,8 @@ bool Recordset::Parse(std::string_view criteria, std::vector<Condition>& conditi
     if (reader.Sign('=')) {
       if (!reader.Quoted(condition.match.needle)) return false;
     } else if (SameFolded(reader.Word(), "LIKE")) {
-      if (!reader.Quoted(value) || !ReadPattern(value, condition.match)) return false;
+      if (!reader.Quoted(value)) return false;
+      condition.match = ReadPattern(value);
     } else {
       return false;
     }

@@ -9,7 +9,8 @@ std::shared_ptr<DataTier> DataSpaceObject::CreateObject(const std::string& progI
   // With a host in the address a service would have to answer there; none is built into this
   // client, so it cannot be reached.
   if (address != "http://" || progId != "TWMGR.DEMON") return nullptr;
-  return std::make_shared<DirectTier>();
+  if (!direct_) direct_ = std::make_shared<DirectTier>();
+  return direct_;
 }
 
 }  // namespace store

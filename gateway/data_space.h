@@ -8,8 +8,8 @@
 
 namespace store {
 
-/// The server-side data object: reads and writes, each a complete round trip of its own. An object
-/// keeps no state between calls.
+/// The server-side data object: reads and writes, each a complete round trip of its own. Nothing
+/// that a caller could see is kept between calls.
 class DataTier {
  public:
   virtual ~DataTier() = default;
@@ -31,8 +31,12 @@ class DataSpaceObject {
  public:
   /// `address` is "http://" and the business server's host. With an empty host no service stands
   /// between, and the object works in this process through ODBC; it answers to the name
-  /// "TWMGR.DEMON" only. Nothing when no such object can be reached.
+  /// "TWMGR.DEMON" only. Nothing when no such object can be reached. The object of this process is
+  /// one, with the one connection that it keeps, and goes with this maker.
   std::shared_ptr<DataTier> CreateObject(const std::string& progId, const std::string& address);
+
+ private:
+  std::shared_ptr<DataTier> direct_;
 };
 
 }  // namespace store

@@ -39,28 +39,50 @@ std::string ComposeBlock(const std::vector<std::string>& statements) {
   return block + "COMMIT; END";
 }
 
-bool SwitchAutocommit(const OdbcConnection& connection, SQLULEN mode) {
-  return SQL_SUCCEEDED(
-      SQLSetConnectAttr(connection.Handle(), SQL_ATTR_AUTOCOMMIT, AttributeValue(mode), 0));
+bool SwitchAutocommit(const OdbcConnection& connection, SQLULEN mode, std::string& errorText) {
+  return Succeeded(
+      Odbc.SetConnectAttr(connection.Handle(), SQL_ATTR_AUTOCOMMIT, AttributeValue(mode), 0),
+      SQL_HANDLE_DBC, connection.Handle(), errorText);
+}
+
+bool EndTransaction(const OdbcConnection& connection, SQLSMALLINT how, std::string& errorText) {
+  return Succeeded(Odbc.EndTran(SQL_HANDLE_DBC, connection.Handle(), how), SQL_HANDLE_DBC,
+                   connection.Handle(), errorText);
+}
+
+bool Commit(const OdbcConnection& connection, std::string& errorText) {
+  if (connection.GivenUp()) return false;
+  if (EndTransaction(connection, SQL_COMMIT, errorText)) return true;
+  TellOutcomeUnknown(errorText);
+  return false;
 }
 
 bool RunOneByOne(OdbcConnection& connection, const std::vector<std::string>& statements,
                  std::string& errorText) {
-  if (!SwitchAutocommit(connection, SQL_AUTOCOMMIT_OFF)) {
-    errorText = Diagnostics(SQL_HANDLE_DBC, connection.Handle());
+  std::string ignored;
+  if (!SwitchAutocommit(connection, SQL_AUTOCOMMIT_OFF, errorText)) {
+    connection.Close();
     return false;
   }
-  bool done = std::all_of(statements.begin(), statements.end(), [&](const std::string& statement) {
-    return OdbcStatement(connection).Run(statement, errorText);
-  });
-  if (done && !SQL_SUCCEEDED(SQLEndTran(SQL_HANDLE_DBC, connection.Handle(), SQL_COMMIT))) {
-    errorText = Diagnostics(SQL_HANDLE_DBC, connection.Handle());
-    done = false;
-  }
-  if (!done) SQLEndTran(SQL_HANDLE_DBC, connection.Handle(), SQL_ROLLBACK);
+  const bool done = std::all_of(statements.begin(), statements.end(),
+                                [&](const std::string& statement) {
+                                  return OdbcStatement(connection).Run(statement, errorText);
+                                }) &&
+                    Commit(connection, errorText);
   // A connection left inside a transaction must not serve the next call.
-  if (!SwitchAutocommit(connection, SQL_AUTOCOMMIT_ON)) connection.Disconnect();
+  const bool left = (done || EndTransaction(connection, SQL_ROLLBACK, ignored)) &&
+                    SwitchAutocommit(connection, SQL_AUTOCOMMIT_ON, ignored);
+  if (!left) connection.Close();
   return done;
+}
+
+/// Sends what is a transaction by itself. When the connection breaks meanwhile, the server may have
+/// come to its end all the same.
+bool RunInOneTrip(const OdbcConnection& connection, const std::string& text,
+                  std::string& errorText) {
+  if (OdbcStatement(connection).Run(text, errorText)) return true;
+  if (!connection.Alive()) TellOutcomeUnknown(errorText);
+  return false;
 }
 
 }  // namespace
@@ -87,12 +109,16 @@ bool StandsInBlock(const std::string& statement) {
   return true;
 }
 
+void TellOutcomeUnknown(std::string& errorText) { errorText += "\n저장되었는지 알 수 없습니다."; }
+
 bool RunAsOneTransaction(OdbcConnection& connection, const std::vector<std::string>& statements,
                          std::string& errorText) {
+  if (statements.empty()) return true;
+  if (statements.size() == 1) return RunInOneTrip(connection, statements[0], errorText);
   const std::string block = ComposeBlock(statements);
   if (connection.RunsCompoundBlocks() && block.size() <= kLargestBlock &&
       std::all_of(statements.begin(), statements.end(), StandsInBlock)) {
-    return OdbcStatement(connection).Run(block, errorText);
+    return RunInOneTrip(connection, block, errorText);
   }
   return RunOneByOne(connection, statements, errorText);
 }

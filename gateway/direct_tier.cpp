@@ -3,10 +3,10 @@
 #include <algorithm>
 #include <iterator>
 
+#include "basics/deployment.h"
 #include "gateway/byte_search.h"
 #include "gateway/direct_batch.h"
 #include "gateway/direct_reader.h"
-#include "gateway/odbc_connection.h"
 
 namespace store {
 namespace {
@@ -40,16 +40,64 @@ bool IsSelect(const std::string& statement) {
          SameFolded(std::string_view(statement).substr(begin, 6), "SELECT");
 }
 
-std::unique_ptr<Recordset> Read(OdbcConnection& connection, const std::string& statement,
-                                std::string& errorText) {
+/// What a job leaves behind. It belongs to job and caller both, because a job that is overdue goes
+/// on without its caller.
+struct Answer {
+  std::unique_ptr<Recordset> rows;
+  bool done = false;
+  bool stale = false;  // the connection had been closed by the other side, or broke
+  std::string errorText;
+};
+
+void TellStale(Answer& answer) {
+  answer.stale = true;
+  if (answer.errorText.empty()) answer.errorText = "데이터서버와의 연결이 끊어졌습니다.";
+}
+
+/// A read that follows closely on an answer does not ask first whether the connection stands: it
+/// changes nothing and can be made again.
+void Read(OdbcConnection& connection, const std::string& statement, Answer& answer) {
+  if (!connection.RecentlyAnswered() && !connection.Alive()) return TellStale(answer);
   OdbcStatement run(connection);
-  if (!run.Run(statement, errorText)) return nullptr;
-  auto rows = ReadAllRows(run, errorText);
-  if (rows) connection.NoteAnswer();
-  return rows;
+  if (run.Run(statement, answer.errorText)) answer.rows = ReadAllRows(run, answer.errorText);
+  answer.done = answer.rows != nullptr;
+  if (answer.done) {
+    connection.NoteAnswer();
+  } else if (!connection.Alive()) {
+    TellStale(answer);
+  }
+}
+
+/// A batch asks first, because it must never be sent twice.
+void Write(OdbcConnection& connection, const std::vector<std::string>& statements, Answer& answer) {
+  if (!connection.Alive()) return TellStale(answer);
+  if (connection.GivenUp()) return;
+  answer.done = RunAsOneTransaction(connection, statements, answer.errorText);
+}
+
+std::string OverdueText(std::chrono::seconds limit) {
+  return "데이터서버가 " + std::to_string(limit.count()) + "초 안에 응답하지 않았습니다.";
 }
 
 }  // namespace
+
+bool DirectTier::Reach(const std::string& connectString, std::string& errorText) {
+  if (kept_ && keptString_ == connectString) return true;
+  kept_ = std::make_unique<KeptConnection>();
+  keptString_ = connectString;
+  // The driver's own time-out covers the way to the server, but not a name that nobody resolves.
+  const std::chrono::seconds limit = ConnectTimeout() + std::chrono::seconds(1);
+  const auto answer = std::make_shared<Answer>();
+  const bool inTime = kept_->Do(
+      [answer, connectString](OdbcConnection& connection) {
+        answer->done = connection.Connect(connectString, answer->errorText);
+      },
+      limit);
+  if (inTime && answer->done) return true;
+  errorText = inTime ? answer->errorText : OverdueText(limit);
+  kept_.reset();
+  return false;
+}
 
 std::unique_ptr<Recordset> DirectTier::GETSQL(const std::string& statement, std::string& errorText,
                                               const std::string& connectString) {
@@ -58,14 +106,20 @@ std::unique_ptr<Recordset> DirectTier::GETSQL(const std::string& statement, std:
     return nullptr;
   }
   if (!NamesItsSource(connectString, errorText)) return nullptr;
-  // A read may be made twice: it changes nothing. So one that follows closely on another does not
-  // ask first whether the connection stands, and is made again if it did not.
-  for (const bool trustLately : {true, false}) {
-    errorText.clear();
-    OdbcConnection* connection = ConnectionTo(connectString, trustLately, errorText);
-    if (connection == nullptr) return nullptr;
-    if (auto rows = Read(*connection, statement, errorText)) return rows;
-    if (connection->Alive()) return nullptr;
+  // On a stale connection the read is made once more, on a fresh one.
+  for (int attempt = 0; attempt < 2; ++attempt) {
+    if (!Reach(connectString, errorText)) return nullptr;
+    const auto answer = std::make_shared<Answer>();
+    if (!kept_->Do([answer, statement](
+                       OdbcConnection& connection) { Read(connection, statement, *answer); },
+                   ReadLimit())) {
+      kept_.reset();
+      errorText = OverdueText(ReadLimit());
+      return nullptr;
+    }
+    errorText = answer->done ? std::string() : answer->errorText;
+    if (!answer->stale) return std::move(answer->rows);
+    kept_.reset();
   }
   return nullptr;
 }
@@ -76,11 +130,23 @@ bool DirectTier::PUTSQL(const std::vector<std::string>& statements, std::string&
   std::vector<std::string> toRun;
   std::copy_if(statements.begin(), statements.end(), std::back_inserter(toRun),
                [](const std::string& statement) { return !statement.empty(); });
-  OdbcConnection* connection = ConnectionTo(connectString, false, errorText);
-  if (connection == nullptr) return false;
-  if (toRun.empty()) return true;
-  if (toRun.size() == 1) return OdbcStatement(*connection).Run(toRun[0], errorText);
-  return RunAsOneTransaction(*connection, toRun, errorText);
+  // A stale connection has carried nothing of the batch, which then goes out on a fresh one.
+  for (int attempt = 0; attempt < 2; ++attempt) {
+    if (!Reach(connectString, errorText)) return false;
+    const auto answer = std::make_shared<Answer>();
+    if (!kept_->Do(
+            [answer, toRun](OdbcConnection& connection) { Write(connection, toRun, *answer); },
+            BatchLimit())) {
+      kept_.reset();
+      errorText = OverdueText(BatchLimit());
+      TellOutcomeUnknown(errorText);
+      return false;
+    }
+    errorText = answer->done ? std::string() : answer->errorText;
+    if (!answer->stale) return answer->done;
+    kept_.reset();
+  }
+  return false;
 }
 
 }  // namespace store

@@ -1,16 +1,24 @@
 #pragma once
 
 #include "gateway/data_space.h"
+#include "gateway/kept_connection.h"
 
 namespace store {
 
-/// The data object in this process, by ODBC.
+/// The data object in this process, by ODBC. It keeps one connection, for as long as calls name the
+/// same data source.
 class DirectTier : public DataTier {
  public:
   std::unique_ptr<Recordset> GETSQL(const std::string& statement, std::string& errorText,
                                     const std::string& connectString) override;
   bool PUTSQL(const std::vector<std::string>& statements, std::string& errorText,
               const std::string& connectString) override;
+
+ private:
+  bool Reach(const std::string& connectString, std::string& errorText);
+
+  std::unique_ptr<KeptConnection> kept_;  // nothing when the last one is no longer fit
+  std::string keptString_;
 };
 
 }  // namespace store

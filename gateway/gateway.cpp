@@ -1,7 +1,10 @@
 #include "gateway/gateway.h"
 
+#include <algorithm>
+
 #include "basics/records.h"
 #include "forms/host.h"
+#include "gateway/check.h"
 
 namespace store {
 
@@ -19,7 +22,13 @@ namespace {
 constexpr const char* kProgId = "TWMGR.DEMON";
 constexpr const char* kPassword = "qz4471";
 
-std::shared_ptr<DataTier> ServerObject;  // the last one made; replaced on every call
+std::shared_ptr<DataTier> ServerObject;    // the last one handed out; let go of after some calls
+std::vector<const RecordsetSlot*> Walked;  // the slots being walked, the innermost walk last
+
+void MayReplace(const RecordsetSlot& slot) {
+  Check(std::find(Walked.begin(), Walked.end(), &slot) == Walked.end(),
+        "no read into a slot, and no closing it, while its rows are being walked");
+}
 
 void MakeServerObject() {
   LastErrorText.clear();
@@ -33,6 +42,12 @@ bool AtEof(const RecordsetSlot& slot) { return !slot || slot->Eof(); }
 
 std::string FieldText(const RecordsetSlot& slot, int field) {
   return slot ? std::string(slot->Text(field)) : std::string();
+}
+
+void ForEachRow(const RecordsetSlot& slot, const std::function<void()>& work) {
+  Walked.push_back(&slot);
+  for (; !AtEof(slot); slot->MoveNext()) work();
+  Walked.pop_back();
 }
 
 void SetFilter(const RecordsetSlot& slot, const std::string& criteria) {
@@ -49,6 +64,7 @@ void BuildConnectString(const std::string& server, const std::string& user,
 }
 
 void OpenRecordset(RecordsetSlot& slot, const std::string& statement) {
+  MayReplace(slot);
   MakeServerObject();
   if (!ServerObject) return;
   slot = ServerObject->GETSQL(statement, LastErrorText, ConnectString);
@@ -56,6 +72,7 @@ void OpenRecordset(RecordsetSlot& slot, const std::string& statement) {
 }
 
 void CloseRecordset(RecordsetSlot& slot) {
+  MayReplace(slot);
   slot.reset();
   ServerObject.reset();
 }
@@ -76,11 +93,13 @@ void QueryRows(const std::string& statement, StringTable& table, std::int32_t& r
   highestColumn = SlotA->FieldCount() - 1;
   table.Redim(rowCount, highestColumn);
   SlotA->MoveFirst();
-  for (int row = 1; !SlotA->Eof(); ++row, SlotA->MoveNext()) {
+  int row = 1;
+  ForEachRow(SlotA, [&] {
     for (int column = 0; column <= highestColumn; ++column) {
       table.Set(row, column, std::string(SlotA->Text(column)));
     }
-  }
+    ++row;
+  });
   CloseRecordset(SlotA);
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -34,6 +35,12 @@ bool AtEof(const RecordsetSlot& slot);
 /// The current row's field of a slot as text; empty when the slot holds nothing or is at its end.
 std::string FieldText(const RecordsetSlot& slot, int field);
 
+/// Does `work` for each row of the slot, from the current one to the end; a slot that holds nothing
+/// has no row. Until that is done the slot is being walked: a read into it, or closing it, would
+/// take the rows away under the walk and is a broken rule (gateway/check.h). Such a read belongs
+/// into another slot or into `FetchRecordset`.
+void ForEachRow(const RecordsetSlot& slot, const std::function<void()>& work);
+
 /// Sets a filter on what the slot holds. With nothing in it, or a criteria text that does not
 /// parse, everything stays as it was.
 void SetFilter(const RecordsetSlot& slot, const std::string& criteria);
@@ -46,18 +53,19 @@ int RecordCountOf(const RecordsetSlot& slot);
 void BuildConnectString(const std::string& server, const std::string& user,
                         const std::string& database);
 
-/// Runs a SELECT into `slot`. If the data tier cannot be reached the slot keeps what it held; if
-/// the statement fails it holds nothing afterwards and `LastErrorText` says why.
+/// Runs a SELECT into `slot`, which nobody may be walking. If the data tier cannot be reached the
+/// slot keeps what it held; if the statement fails it holds nothing afterwards and `LastErrorText`
+/// says why.
 void OpenRecordset(RecordsetSlot& slot, const std::string& statement);
 
-/// Empties the slot and lets go of the server object.
+/// Empties the slot, which nobody may be walking, and lets go of the server object.
 void CloseRecordset(RecordsetSlot& slot);
 
 /// As `OpenRecordset`, but the caller owns what comes back and no slot is touched. May be nothing.
 RecordsetSlot FetchRecordset(const std::string& statement);
 
-/// Reads into `table`: rows from 1, columns from 0, NULL as the empty text. With no row, or on a
-/// failure, `rowCount` is 0 and `table` and `highestColumn` are left as they were.
+/// Reads through `SlotA` into `table`: rows from 1, columns from 0, NULL as the empty text. With no
+/// row, or on a failure, `rowCount` is 0 and `table` and `highestColumn` are left as they were.
 void QueryRows(const std::string& statement, StringTable& table, std::int32_t& rowCount,
                std::int32_t& highestColumn);
 
@@ -72,10 +80,7 @@ void StartBatch();
 /// Adds a statement behind the others.
 void AddToBatch(const std::string& statement);
 
-/// The older way to splice, by position: `values[n]` goes where `text` says {n}.
-std::string Splice(std::string_view text, const std::vector<std::string>& values);
-
-/// All of the gateway's state as at the start of a run.
+/// All of the gateway's state as at the start of a run, the kept connection included.
 void ResetGateway();
 
 }  // namespace store

@@ -1,51 +1,59 @@
 #pragma once
 
-#include <sql.h>
-#include <sqlext.h>
-
+#include <atomic>
 #include <chrono>
 #include <string>
 
+#include "gateway/odbc_api.h"
+
 namespace store {
 
-/// A connection to a data source, with the session settings that the statements rely on.
+/// A connection to a data source, with the session settings that the statements rely on. All calls
+/// but `GiveUp` come from one thread, and each may take as long as the network likes.
 class OdbcConnection {
  public:
-  OdbcConnection();
+  OdbcConnection() = default;
   ~OdbcConnection();
   OdbcConnection(const OdbcConnection&) = delete;
   OdbcConnection& operator=(const OdbcConnection&) = delete;
 
   /// Connects with the string as composed. False on failure, with the reason in `errorText`.
   bool Connect(const std::string& connectString, std::string& errorText);
-  void Disconnect();
+  /// Ends the connection and gives everything back. What it had not committed is undone.
+  void Close();
   /// Asks the server, without running anything, whether the connection still stands.
   bool Alive() const;
   /// Remembers that the server has just answered, and whether it did so within the last second.
   void NoteAnswer() { answered_ = std::chrono::steady_clock::now(); }
-  bool AnsweredLately() const;
+  bool RecentlyAnswered() const;
+
+  /// Says that nobody waits any more for what runs on the connection. From any thread.
+  void GiveUp() { givenUp_ = true; }
+  /// Whether that is so: a batch that has not been sent, or not committed, then must not be.
+  bool GivenUp() const { return givenUp_; }
 
   SQLHDBC Handle() const { return handle_; }
   /// Whether the server runs a compound block sent as one statement.
-  bool RunsCompoundBlocks() const;
+  bool RunsCompoundBlocks() const { return isMariaDb_; }
 
  private:
+  bool Allocate(std::string& errorText);
   bool Prepare(std::string& errorText);
+  bool AskWhetherMariaDb(std::string& errorText);
   void SortWholeRows();
-  bool IsMariaDb() const;
 
+  SQLHENV environment_ = SQL_NULL_HENV;
   SQLHDBC handle_ = SQL_NULL_HDBC;
   bool connected_ = false;
+  bool isMariaDb_ = false;
+  std::atomic<bool> givenUp_{false};
   std::chrono::steady_clock::time_point answered_{};
 };
 
-/// The connection of this process to what `connectString` names. It is kept from call to call, as
-/// logging in costs forty times as much as a small read; one that has died is noticed before
-/// anything is sent over it, and a fresh one takes its place. With `trustLately` a connection on
-/// which the server has just answered is not asked first. Nothing when the source cannot be
-/// reached, with the reason in `errorText`.
-OdbcConnection* ConnectionTo(const std::string& connectString, bool trustLately,
-                             std::string& errorText);
+/// Points the driver manager to the driver list beside the program, which gives the driver its old
+/// name. A deployment that sets ODBCSYSINI has a list of its own. To be called before a connection
+/// is made on another thread, as it changes the environment.
+void PointToOwnDriverList();
 
 /// One statement handle of a connection.
 class OdbcStatement {
@@ -60,6 +68,7 @@ class OdbcStatement {
   bool Run(const std::string& text, std::string& errorText);
 
  private:
+  SQLHDBC connection_;
   SQLHSTMT handle_ = SQL_NULL_HSTMT;
 };
 
@@ -68,8 +77,7 @@ inline SQLPOINTER AttributeValue(SQLULEN number) {
   return reinterpret_cast<SQLPOINTER>(number);  // NOLINT(performance-no-int-to-ptr): see above
 }
 
-/// Every diagnostic record of a handle: the server's words without the driver's own brackets,
-/// followed by SQLSTATE and the server's number.
-std::string Diagnostics(SQLSMALLINT handleType, SQLHANDLE handle);
+/// Whether a call on a handle succeeded. If not, `errorText` has the reason and is never empty.
+bool Succeeded(SQLRETURN result, SQLSMALLINT handleType, SQLHANDLE handle, std::string& errorText);
 
 }  // namespace store

@@ -39,8 +39,9 @@ class Recordset {
 
   /// Lets only the rows that meet `criteria` pass and goes to the first of them. An empty criteria
   /// lifts the filter. Grammar: `FIELD = 'x'`, `FIELD LIKE 'x%'`, `'%x'`, `'%x%'` or `'x'`, joined
-  /// by AND; blanks around words do not matter, ASCII letters compare without case, NULL meets
-  /// nothing. False when the text is no such criteria: the former filter then stands.
+  /// by AND; within a pattern a percent sign is a letter; blanks around words do not matter, ASCII
+  /// letters compare without case, NULL meets nothing. False when the text is no such criteria: the
+  /// former filter then stands.
   bool Filter(std::string_view criteria);
 
   /// Goes forward from the current row, that row included, to the first that meets `criteria`

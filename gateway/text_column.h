@@ -7,17 +7,18 @@
 
 namespace store {
 
-/// What a text is compared with, and which ends of it must meet. ASCII letters compare without
-/// case, as in the database.
+/// A text to look for, and whether it must stand at the start, at the end, or be the whole value.
+/// ASCII letters compare without case, as in the database.
 struct TextMatch {
   std::string needle;
   bool fromStart = true;  ///< The text must begin with the needle.
   bool toEnd = true;      ///< The text must end with the needle.
 };
 
-/// One column of a recordset: all its texts in one arena of bytes, each behind a separator byte, so
-/// that a search is a single scan. A text's place is found through its length: one byte a row where
-/// that does, nothing at all while every text is equally long, and the place of each 16th row.
+/// One column of a recordset. All its texts stand in one run of bytes (the arena), with a separator
+/// byte before each, so that the whole item list is searched by one scan over the run. To find a
+/// row's text, the column keeps the start of each 16th row and the length of every row, in one byte
+/// where that is enough. While all texts are of one length, as codes are, it keeps neither.
 class TextColumn {
  public:
   void Append(std::string_view value);
@@ -28,7 +29,7 @@ class TextColumn {
   std::string_view At(std::uint32_t row) const;
   bool IsNull(std::uint32_t row) const;
 
-  /// Appends the numbers of all rows that meet `match`, rising. A NULL meets nothing.
+  /// Appends the numbers of all rows that meet `match`, in rising order. NULL meets nothing.
   void FindAll(const TextMatch& match, std::vector<std::uint32_t>& rows) const;
   bool Meets(std::uint32_t row, const TextMatch& match) const;
 
@@ -48,13 +49,13 @@ class TextColumn {
     std::uint32_t row = 0;
     size_t start = 1;
   };
-  /// Goes on from a row to the one that holds `place` of the arena.
+  /// The row whose text covers `place` of the arena; `from` is that row or one before it.
   Spot GoTo(size_t place, Spot from) const;
 
   static constexpr std::uint8_t kLong = 255;
 
   std::string arena_;  // separator, text, separator, text, ... and one separator at the end
-  std::vector<std::uint8_t> shortLengths_;  // a byte a row: kLong means look into longLengths_
+  std::vector<std::uint8_t> shortLengths_;  // by row; kLong: the length stands in longLengths_
   std::vector<std::pair<std::uint32_t, std::uint32_t>> longLengths_;  // row, length; rising
   std::vector<std::uint32_t> blockStarts_;  // arena position of each 16th row's text
   std::vector<bool> nulls_;                 // empty while no row is NULL

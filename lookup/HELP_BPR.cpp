@@ -12,42 +12,57 @@ namespace {
 std::string NameRange(int tab) {
   const ConsonantRange range = RangeOfTab(tab);
   if (range.Rest) return " AND SUBSTRING(PR_NAME,1,1) < '가' or MID(PR_NAME,1,1) > '희' ";
-  return Splice(" AND SUBSTRING(PR_NAME,1,1) >= '{0}' AND SUBSTRING(PR_NAME,1,1) < '{1}' ",
-                {range.From, range.To});
+  return Splice(" AND SUBSTRING(PR_NAME,1,1) >= '{from}' AND SUBSTRING(PR_NAME,1,1) < '{to}' ",
+                "from"_a = range.From, "to"_a = range.To);
 }
 
 std::string SearchCondition(const std::string& text) {
-  if (LeftChars(text, 1) == "/") return Splice("  PR_STD LIKE '%{0}%'  ", {MidChars(text, 2)});
-  return Splice(" (PR_NAME LIKE '%{0}%' OR PR_BCODE = '{0}' OR PR_PTNO = '{0}' ) ", {text});
+  if (LeftChars(text, 1) == "/") {
+    return Splice("  PR_STD LIKE '%{standard}%'  ", "standard"_a = MidChars(text, 2));
+  }
+  return Splice(" (PR_NAME LIKE '%{text}%' OR PR_BCODE = '{text}' OR PR_PTNO = '{text}' ) ",
+                "text"_a = text);
+}
+
+std::string ProductStatement(const LookupForm& form) {
+  return Splice(
+      " SELECT PR_PTNO,CONCAT(IF(PR_TAX='1','*',IF(PR_TAX='2','@',' ')),PR_CODE),PR_NAME,PR_STD,"
+      "PR_UNT,PR_BCODE,' ',' '   FROM   PR   Where  {condition}",
+      "condition"_a = SearchCondition(form.Text1.Text()));
+}
+
+std::string ProductTabStatement(const LookupForm& form, int tab) {
+  return Splice(
+      " SELECT PR_PTNO,CONCAT(IF(PR_TAX='1','*',IF(PR_TAX='2','@',' ')),PR_CODE),PR_NAME,PR_STD,"
+      "PR_UNT,PR_BCODE,' '   FROM   PR   Where   PR_NAME LIKE '%{text}%' {range}",
+      "text"_a = form.Text1.Text(), "range"_a = NameRange(tab));
+}
+
+const LookupKind& ProductLookup() {
+  static const LookupKind kind = {"HELP_BPR",
+                                  "품목 도움창",
+                                  "품목명",
+                                  {{.Header = "단축코드", .Width = 900, .Alignment = Align::Center},
+                                   {.Header = "품목코드", .Width = 1200, .Alignment = Align::Left},
+                                   {.Header = "품명", .Width = 2700, .Alignment = Align::Left},
+                                   {.Header = "규격", .Width = 1500, .Alignment = Align::Left},
+                                   {.Header = "단위", .Width = 600, .Alignment = Align::Center},
+                                   {.Header = "바코드", .Width = 1500, .Alignment = Align::Center},
+                                   {.Width = 300, .Hidden = true},
+                                   {.Width = 300, .Hidden = true}},
+                                  ProductStatement,
+                                  ProductTabStatement,
+                                  {},
+                                  {"새품목"}};
+  return kind;
 }
 
 }  // namespace
 
-HELP_BPR::HELP_BPR()
-    : LookupForm("HELP_BPR", "품목 도움창", "품목명",
-                 {{.Header = "단축코드", .Width = 900, .Alignment = Align::Center},
-                  {.Header = "품목코드", .Width = 1200, .Alignment = Align::Left},
-                  {.Header = "품명", .Width = 2700, .Alignment = Align::Left},
-                  {.Header = "규격", .Width = 1500, .Alignment = Align::Left},
-                  {.Header = "단위", .Width = 600, .Alignment = Align::Center},
-                  {.Header = "바코드", .Width = 1500, .Alignment = Align::Center},
-                  {.Width = 300, .Hidden = true},
-                  {.Width = 300, .Hidden = true}}) {
-  ShowTabs();
-}
-
-std::string HELP_BPR::FindStatement() const {
-  return Splice(
-      " SELECT PR_PTNO,CONCAT(IF(PR_TAX='1','*',IF(PR_TAX='2','@',' ')),PR_CODE),PR_NAME,PR_STD,"
-      "PR_UNT,PR_BCODE,' ',' '   FROM   PR   Where  {0}",
-      {SearchCondition(Text1.Text())});
-}
-
-std::string HELP_BPR::TabStatement(int tab) const {
-  return Splice(
-      " SELECT PR_PTNO,CONCAT(IF(PR_TAX='1','*',IF(PR_TAX='2','@',' ')),PR_CODE),PR_NAME,PR_STD,"
-      "PR_UNT,PR_BCODE,' '   FROM   PR   Where   PR_NAME LIKE '%{0}%' {1}",
-      {Text1.Text(), NameRange(tab)});
+HELP_BPR::HELP_BPR() : LookupForm(ProductLookup()) {
+  Label2.Caption = "(@ 포함  * 면세)";
+  Label2.Visible = true;
+  Command2.Click = [this] { Command2_Click(); };
 }
 
 void HELP_BPR::ClearResults() { Results.fill(""); }

@@ -10,14 +10,16 @@ constexpr const char* kAllEntry = "*전체*      ";
 constexpr int kLevelLength = 3;
 
 std::string BaseCodeStatement(const std::string& prefix, const std::string& order) {
-  return Splice(" SELECT BAS_CODE,BAS_NAME1 FROM BAS WHERE BAS_CODE LIKE '{0}%'  {1}",
-                {prefix, order});
+  return Splice(" SELECT BAS_CODE,BAS_NAME1 FROM BAS WHERE BAS_CODE LIKE '{prefix}%'  {order}",
+                "prefix"_a = prefix, "order"_a = order);
 }
 
 std::string SubKindStatement(const std::string& parentId, int level) {
   return Splice(
-      " SELECT KD_ID,KD_NAME FROM KIND WHERE KD_ID LIKE '{0}%' AND KD_LVL ='{1}' ORDER BY KD_NAME ",
-      {LeftChars(parentId, level * kLevelLength), std::to_string(level + 1)});
+      " SELECT KD_ID,KD_NAME FROM KIND WHERE KD_ID LIKE '{parent}%' AND KD_LVL ='{level}' ORDER BY "
+      "KD_NAME ",
+      "parent"_a = LeftChars(parentId, level * kLevelLength),
+      "level"_a = std::to_string(level + 1));
 }
 
 constexpr const char* kTopKindStatement =
@@ -25,8 +27,9 @@ constexpr const char* kTopKindStatement =
 
 std::string DepotStatement(const std::string& storeCode) {
   return Splice(
-      " SELECT HCT_CODE,HCT_NAME FROM HCT WHERE RCT_CODE = '{0}' ORDER BY HCT_BAS DESC ,HCT_NAME ",
-      {storeCode});
+      " SELECT HCT_CODE,HCT_NAME FROM HCT WHERE RCT_CODE = '{store}' ORDER BY HCT_BAS DESC "
+      ",HCT_NAME ",
+      "store"_a = storeCode);
 }
 
 void Fill(ComboBox& combo, const std::string& statement, bool all) {
@@ -34,9 +37,8 @@ void Fill(ComboBox& combo, const std::string& statement, bool all) {
   if (all) combo.AddItem(kAllEntry);
   SqlText = statement;
   OpenRecordset(SlotA, SqlText);
-  for (; !AtEof(SlotA); SlotA->MoveNext()) {
-    combo.AddItem(FieldText(SlotA, 1) + std::string(30, ' ') + FieldText(SlotA, 0));
-  }
+  ForEachRow(SlotA,
+             [&] { combo.AddItem(ListEntry(FieldText(SlotA, 1), FieldText(SlotA, 0))); });
   CloseRecordset(SlotA);
 }
 

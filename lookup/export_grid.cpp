@@ -13,9 +13,17 @@ namespace {
 
 constexpr size_t kLongestNumber = 11;  // a longer run of digits is a code, such as a barcode
 
+/// Commas stand for thousands, or the text is a list of something: "1,2".
+bool GroupsByThousands(const std::string& text) {
+  if (text.find(',') == std::string::npos) return true;
+  const std::string whole = text.substr(0, text.find('.'));
+  return FormatNumber(ParseGrouped(whole), "#,##0") == whole;
+}
+
 /// A number that a sheet may hold as one. A code keeps its leading zeros and its digits as text.
 bool ReadsAsNumber(const std::string& text) {
   if (text.empty() || text.size() > kLongestNumber || !IsNumeric(text)) return false;
+  if (!GroupsByThousands(text)) return false;
   return text[0] != '0' || text.size() == 1 || text[1] == '.';
 }
 

@@ -1,30 +1,53 @@
 #include "lookup/lookup_form.h"
 
-#include "forms/form.h"
+#include "forms/host.h"
 #include "gateway/gateway.h"
 #include "lookup/consonant_tabs.h"
 #include "lookup/export_grid.h"
-#include "lookup/lookup_grid.h"
 
 namespace store {
 
-LookupForm::LookupForm(std::string name, std::string caption, std::string searchLabel,
-                       std::vector<GridColumn> columns)
-    : Form(std::move(name)), Label1(std::move(searchLabel)) {
-  Caption = std::move(caption);
-  FLEX1.SetColumns(std::move(columns));
-  TabOne1.Visible = false;
-  TabOrder = {&Text1, &Command1, &FLEX1};
+LookupForm::LookupForm(const LookupKind& kind)
+    : Form(kind.Name), Label1(kind.SearchLabel), kind_(kind) {
+  Caption = kind.Caption;
+  FLEX1.SetColumns(kind.Columns);
+  const bool searches = !Label1.Caption.empty();
+  Label1.Visible = Text1.Visible = Command1.Visible = searches;
+  Label2.Visible = false;
+  TabOne1.Visible = kind.TabStatement != nullptr;
+  if (TabOne1.Visible) TabOne1.Captions = ConsonantTabCaptions();
+  size_t further = 0;
+  for (Button* button : {&Command2, &Command3, &Command4}) {
+    button->Visible = further < kind.Buttons.size();
+    if (button->Visible) button->Caption = kind.Buttons[further++];
+  }
+  PublishControls();
 }
 
-void LookupForm::ShowTabs() {
-  TabOne1.Captions = ConsonantTabCaptions();
-  TabOne1.Visible = true;
+void LookupForm::PublishControls() {
+  Publish("Label1", Label1);
+  Publish("Text1", Text1);
+  Publish("Command1", Command1);
+  Publish("FLEX1", FLEX1);
+  Publish("TabOne1", TabOne1);
+  Publish("Label2", Label2);
+  Publish("Command2", Command2);
+  Publish("Command3", Command3);
+  Publish("Command4", Command4);
+  TabOrder = {&Text1, &Command1, &FLEX1};
+  Text1.KeyDown = [this](Key key) { Text1_KeyDown(key); };
+  Text1.OwnKeys = {Key::Enter, Key::Down};
+  Command1.Click = [this] { Command1_Click(); };
+  FLEX1.DblClick = [this] { FLEX1_DblClick(); };
+  FLEX1.KeyDown = [this](Key key) { FLEX1_KeyDown(key); };
+  FLEX1.OwnKeys = {Key::Enter, Key::F12};
+  TabOne1.Click = [this](int tab) { TabOne1_Click(tab); };
 }
 
 void LookupForm::Load() {
-  ShapeWindow(*this, 3, false);
+  ShapeWindow(*this, placement::Centered, false);
   ClearResults();
+  if (!Text1.Visible) Command1_Click();
 }
 
 void LookupForm::Activate() {
@@ -41,13 +64,19 @@ bool LookupForm::KeyDown(Key key) {
   return true;
 }
 
-std::string LookupForm::TabStatement(int) const { return {}; }
-
-void LookupForm::Command1_Click() { Fill(FindStatement()); }
+void LookupForm::Command1_Click() { Fill(kind_.FindStatement(*this)); }
 
 void LookupForm::TabOne1_Click(int tab) {
   TabOne1.CurrTab = tab;
-  Fill(TabStatement(tab));
+  Fill(kind_.TabStatement == nullptr ? std::string() : kind_.TabStatement(*this, tab));
+}
+
+void LookupForm::WalkTabs(int step) {
+  if (!TabOne1.Visible) return;
+  const int count = static_cast<int>(TabOne1.Captions.size());
+  // Before any tab was pressed the first step leads to either end of the row.
+  const int from = TabOne1.CurrTab < 0 && step < 0 ? 0 : TabOne1.CurrTab;
+  TabOne1_Click((from + step + count) % count);
 }
 
 void LookupForm::Fill(const std::string& statement) {
@@ -77,12 +106,31 @@ void LookupForm::Choose() {
   Close();
 }
 
-std::vector<GridColumn> PartyColumns() {
-  return {{.Header = "코드", .Width = 900, .Alignment = Align::Center},
-          {.Header = "상호", .Width = 1995, .Alignment = Align::Left},
-          {.Header = "대표", .Width = 1155, .Alignment = Align::Center},
-          {.Header = "전화", .Width = 1440, .Alignment = Align::Center},
-          {.Header = "주소", .Width = 900, .Alignment = Align::Left}};
+void LookupForm::ClearResults() {
+  for (std::string* result : {&ResultCode, &ResultName, &ResultPhone, &ResultAddress}) {
+    result->clear();
+  }
+}
+
+void LookupForm::TakeRow(int row) {
+  for (const auto& [result, column] : kind_.Results) this->*result = FLEX1.TextMatrix(row, column);
+}
+
+void FillLookupGrid(const std::string& statement, Grid& grid) {
+  const Hourglass waiting;
+  grid.SetRows(grid.FixedRows());
+  OpenRecordset(SlotA, statement);
+  if (!LastErrorText.empty() || AtEof(SlotA)) return;
+  std::string row;
+  ForEachRow(SlotA, [&] {
+    row.clear();
+    for (int field = 0; field < SlotA->FieldCount(); ++field) {
+      if (field > 0) row += '\t';
+      row += SlotA->Text(field);
+    }
+    grid.AddItem(row);
+  });
+  CloseRecordset(SlotA);
 }
 
 }  // namespace store

@@ -3,7 +3,7 @@
 #include "basics/text.h"
 #include "forms/host.h"
 #include "gateway/gateway.h"
-#include "lookup/HELP_CT.h"
+#include "lookup/party_lookups.h"
 
 namespace store {
 namespace {
@@ -11,16 +11,16 @@ namespace {
 std::string PartnersByPhone(const std::string& digits) {
   return Splice(
       " SELECT CT.CT_CODE,CT_NAME,CT_CEO,CT_PHONE,CONCAT(CT_ADDR1 ,' ', CT_ADDR2)  FROM   CT LEFT "
-      "JOIN CTCOM ON CT.CT_CODE = CTCOM.CT_CODE   WHERE  CT_phone LIKE '%{0}%' ",
-      {digits});
+      "JOIN CTCOM ON CT.CT_CODE = CTCOM.CT_CODE   WHERE  CT_phone LIKE '%{digits}%' ",
+      "digits"_a = digits);
 }
 
 std::string PartnersByNameOrCode(const std::string& text) {
   return Splice(
       " SELECT CT.CT_CODE,CT_NAME,CT_CEO,CT_PHONE,CONCAT(CT_ADDR1 ,' ', CT_ADDR2)  FROM   CT LEFT "
-      "JOIN CTCOM ON CT.CT_CODE = CTCOM.CT_CODE   WHERE  CT_NAME LIKE '%{0}%' OR CT.CT_CODE = "
-      "'{0}' ",
-      {text});
+      "JOIN CTCOM ON CT.CT_CODE = CTCOM.CT_CODE   WHERE  CT_NAME LIKE '%{text}%' OR CT.CT_CODE = "
+      "'{text}' ",
+      "text"_a = text);
 }
 
 std::string JoinedRow(const StringTable& table, int row, int lastColumn) {

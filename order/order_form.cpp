@@ -1,49 +1,102 @@
 #include "order/order_form.h"
 
+#include <memory>
+
 #include "basics/dates.h"
+#include "basics/formats.h"
+#include "basics/numbers.h"
 #include "basics/records.h"
 #include "forms/host.h"
+#include "forms/open_forms.h"
+#include "gateway/gateway.h"
 #include "slips/depot_choice.h"
 #include "slips/item_list.h"
-#include "slips/slip_form.h"
 
 namespace store {
+namespace {
+
+/// Fields of the slip statement, in select order.
+enum SlipField {
+  kName = 2,
+  kSum = 10,
+  kBarcode = 11,
+  kSupplierCode = 12,
+  kSupplierName = 13,
+  kDate = 14,
+  kSlipSupply = 15,
+  kSlipTax = 16,
+  kSlipTotal = 17,
+  kState = 18,
+};
+
+std::string OrderSlipStatement(const std::string& slipId) {
+  return Splice(
+      "SELECT PSM22.PS_NO,PSM22.PR_CODE,PSM22.PR_NAME,PSM22.PR_STD,PSM22.PS_TAXGU,PSM22.PS_UP,' ' "
+      "MINORDER ,PS_SQTY,PS_AMT,PS_TAX,PS_AMT+PS_TAX,PR.PR_BCODE,         PEM22.PE_TCTCODE,"
+      "PEM22.PE_TCTNAME,PEM22.PE_PDATE,PEM22.PE_AMT,PEM22.PE_TAX,PEM22.PE_TOT,PEM22.PE_CK  FROM "
+      "(PEM22 LEFT JOIN PSM22 ON PEM22.PE_ID = PSM22.PE_ID) LEFT JOIN PR ON PSM22.PR_CODE = "
+      "PR.PR_CODE  WHERE PEM22.PE_ID = '{slip}' ORDER BY PSM22.PS_NO DESC ",
+      "slip"_a = slipId);
+}
+
+}  // namespace
 
 OrderForm::OrderForm(const OrderTypeChoices& choices)
-    : SlipForm(choices.FormName), choices_(choices) {
+    : SlipForm(choices.FormName),
+      SupplierPane(static_cast<SlipForm&>(*this)),
+      PickListPane(static_cast<Form&>(*this), choices),
+      KindPane(static_cast<Form&>(*this)),
+      HistoryPane(static_cast<Form&>(*this)),
+      ItemBoxPane(*this, *this, *this, choices),
+      choices_(choices) {
   Caption = choices.Caption;
   Text4.SetText("2002-08-08");
-  Text4.Visible = false;
-  inBox.ToolTipText = "(,) + (찾는문자열) = 품목찾기       (.) + (찾는문자열) = 규격찾기 ";
-  Timer1.Interval = 5000;
-  PRGHP.Visible = false;
-  SetUpGrids();
-  Text1.Change = [this] { Text1_Change(); };
-  DTOrderDate.Change = [this] { DTOrderDate_Change(); };
-  FLEX2.RowColChange = [this] { FLEX2_RowColChange(); };
+  PublishControls();
+  ConnectPanes();
   TabOrder = {&DTOrderDate, &Combo1, &Text1, &inBox, &FLEX1, &PRHELP, &FLEX2};
 }
 
-void OrderForm::SetUpGrids() {
-  FLEX1.SetColumns({
-      {.Header = "No.", .Width = 330, .Alignment = Align::Center},
-      {.Header = "품목코드", .Width = 810, .Alignment = Align::Left, .Hidden = true},
-      {.Header = "품명", .Width = 2055, .Alignment = Align::Left},
-      {.Header = "규격", .Width = 1620, .Alignment = Align::Left, .Hidden = true},
-      {.Header = "세액구분", .Width = 1290, .Alignment = Align::Left, .Hidden = true},
-      {.Header = "단가", .Width = 855, .Alignment = Align::Right, .Format = "#,###.##"},
-      {.Header = "최소발주", .Width = 810, .Alignment = Align::Right, .Hidden = true},
-      {.Header = "발주량", .Width = 840, .Alignment = Align::Right, .Format = "#,###.##"},
-      {.Header = "공급가액", .Width = 1095, .Alignment = Align::Right, .Format = "#,###"},
-      {.Header = "부가세액", .Width = 1035, .Alignment = Align::Right, .Format = "#,###"},
-      {.Header = "합계금액", .Width = 900, .Alignment = Align::Right},
-  });
-  FLEX2.SetColumns(choices_.PickColumns);
-  FLEX2.EditableColumn = choices_.PickEntryColumn;
-  PRHELP.SetColumns({{.Width = 1800}, {.Width = 1800}, {.Width = 1800}}, 0);
-  std::vector<GridColumn> days(32, {.Width = 495, .Alignment = Align::Center});
-  for (int day = 1; day <= 31; ++day) days[static_cast<size_t>(day)].Header = std::to_string(day);
-  PRGHP.SetColumns(std::move(days));
+void OrderForm::PublishControls() {
+  Publish("DTOrderDate", DTOrderDate);
+  Publish("Combo1", Combo1);
+  Publish("LaSatae", LaSatae);
+  Publish("LaBtn_0", LaBtn[0]);
+  Publish("LaBtn_1", LaBtn[1]);
+  Publish("Label5", Label5);
+  DTOrderDate.Change = [this] { DTOrderDate_Change(); };
+  for (const int index : {0, 1}) {
+    LaBtn[static_cast<size_t>(index)].Click = [this, index] { LaBtn_Click(index); };
+    Label5[static_cast<size_t>(index)].Click = [this, index] { Label5_Click(index); };
+  }
+}
+
+void OrderForm::ConnectPanes() {
+  SupplierChanged = [this] { ClearLines(); };
+  FollowSupplier = [this] {
+    const Hourglass waiting;
+    if (AppOptions.OrderInfoPartnersOnly == 1) OpenScopedItemList(Text1.Tag);
+    FillKinds();
+  };
+  AfterLookup = &inBox;
+  KindChosen = [this](const std::string& topLevel) {
+    SetFilter(SlotC, Splice(" KD_ID LIKE '{kind}%'", "kind"_a = topLevel));
+    FillPickGrid();
+  };
+  QuantityEntered = [this](const std::string& code, const std::string& quantity) {
+    AddFromCode(code);
+    // Also when the item was refused for its price: the quantity then lands on the top line.
+    inBox.SetText(quantity);
+    if (FLEX1.Row() >= 1) ApplyQuantity(1);
+  };
+  HistoryWanted = [this](const std::string& code, const std::string& name) {
+    ShowHistory(code, name);
+  };
+}
+
+// A new list of categories always empties the pick list.
+void OrderForm::FillKinds() {
+  FillKindGrid(PRHELP, 1, "", Text1.Tag);
+  FLEX2.SetRows(1);
 }
 
 void OrderForm::Load() { ResetOrderForm(); }
@@ -54,7 +107,7 @@ void OrderForm::Activate() {
   Host.DoEvents();
   if (!SlipId.empty()) LoadOrderSlip(SlipId);
   if (AppOptions.OrderInfoPartnersOnly == 1) OpenScopedItemList(Text1.Tag);
-  FillKindGrid(PRHELP, 1, "");
+  FillKinds();
   CopyDepots(Combo1);
   Combo1.SetListIndex(0);
   SetFocus(Text1);
@@ -70,6 +123,40 @@ void OrderForm::ResetOrderForm() {
   DTOrderDate.SetValue(today);
   Text4.SetText(today);
   for (Label& amount : LaAmt) amount.Caption = "0";
+}
+
+void OrderForm::LoadOrderSlip(const std::string& slipId) {
+  LoadLines(
+      OrderSlipStatement(slipId), [this] { LoadOrderHeader(); }, [this] { LoadOrderLine(); });
+  loadedLines_ = FLEX1.Revision();
+  loadedDate_ = DTOrderDate.Value();
+}
+
+void OrderForm::LoadOrderHeader() {
+  // The name comes before the code and the lines: a change of the supplier's name throws lines
+  // away.
+  Text1.SetText(FieldText(SlotA, kSupplierName));
+  Text1.Tag = FieldText(SlotA, kSupplierCode);
+  DTOrderDate.SetValue(FieldText(SlotA, kDate));
+  Text4.SetText(DTOrderDate.Value());
+
+  const std::string state = FieldText(SlotA, kState);
+  if (state == "0" || state == "2") LaSatae.Caption = kWordEditing;
+  if (state == "1" || state == "3") LaSatae.Caption = kWordConfirmed;
+  SetOrderEditable(state == "0" ? -1 : 0);
+  ShowTotals(FieldText(SlotA, kSlipTotal), FieldText(SlotA, kSlipSupply),
+             FieldText(SlotA, kSlipTax));
+}
+
+void OrderForm::LoadOrderLine() {
+  std::string row;  // cell 0, the number, stays empty until the lines change
+  for (int field = 1; field <= kBarcode; ++field) {
+    row += "\t";
+    if (field == kName) row += FieldText(SlotA, kBarcode) + "\r";
+    row +=
+        field == kSum ? FormatText(FieldText(SlotA, kSum), FormatAmount) : FieldText(SlotA, field);
+  }
+  FLEX1.AddItem(row);
 }
 
 bool OrderForm::HoldsWork() const {
@@ -92,15 +179,11 @@ bool OrderForm::KeyDown(Key key) {
     case Key::Escape:
       Close();
       return true;
-    case Key::F4:
-      if (ActiveControl != &FLEX2) return false;
-      FLEX2_KeyDown(key);
-      return true;
     case Key::F5:
-      SetHistoryWidths(100, 212.223);
+      NarrowHistory();
       return true;
     case Key::F6:
-      SetHistoryWidths(495, 975.464);
+      WidenHistory();
       return true;
     default:
       return false;
@@ -118,13 +201,13 @@ void OrderForm::Label5_Click(int index) {
   }
 }
 
-void OrderForm::Timer1_Timer() {
-  Timer1.Enabled = false;
-  Label6.Caption.clear();
-}
-
 void OrderForm::Unload() {
   if (MainWindow* board = TheMainWindow()) Host.Show(*board);
+}
+
+void RegisterOrderForms() {
+  RegisterForm(BasicOrderType().FormName,
+               [] { return std::make_unique<OrderForm>(BasicOrderType()); });
 }
 
 }  // namespace store

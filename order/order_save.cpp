@@ -3,9 +3,7 @@
 #include "basics/records.h"
 #include "basics/text.h"
 #include "forms/host.h"
-#include "gateway/gateway.h"
 #include "order/order_form.h"
-#include "slips/depot_choice.h"
 #include "slips/item_list.h"
 #include "slips/post_order.h"
 #include "slips/slip_checks.h"
@@ -83,43 +81,24 @@ void OrderForm::BuildOrderLines(std::int16_t& count) {
   PrepareLineArray();
   int number = 0;
   for (int row = 1; row < FLEX1.Rows(); ++row) {
-    const std::string& code = FLEX1.TextMatrix(row, 1);
-    if (MidChars(code, 2).empty()) continue;
-    ++number;
-    if (!FindItem(code)) {
-      Host.MsgBox("[" + code + "] 품목정보가 부족하여 \r\r 순번항목을 구성할 수 없습니다.",
-                  box::Critical, "품목정보오류");
-      return;
-    }
-    FillLine(number, row);
-    if (Trim(DepotCodeOf(Combo1)).empty()) {
-      Host.MsgBox("입고될 기본하치장을 반드시 선택하세요.     ", box::Critical, "하치장선택");
-      return;
-    }
+    if (IsLine(row) && !AddOrderLine(++number, row)) return;
   }
   ToInt16(number, count);
 }
 
-void OrderForm::FillLine(int number, int row) {
-  const auto put = [&](int column, const std::string& text) {
-    LineValues.Set(number, column, text);
-  };
-  put(line::Id, HeadValues[head::Id]);
-  put(line::Number, std::to_string(number));
-  put(line::Date, HeadValues[head::Date]);
-  put(line::ProductCode, FLEX1.TextMatrix(row, 1));
-  FillLineFromItem(LineValues, number);
-  put(line::Quantity, PlainNumber(FLEX1.TextMatrix(row, 7)));
-  put(line::OtherQty, "0");
-  put(line::Cost, "0");
-  put(line::Price, PlainNumber(FLEX1.TextMatrix(row, 5)));
-  put(line::Supply, PlainNumber(FLEX1.TextMatrix(row, 8)));
-  put(line::Tax, PlainNumber(FLEX1.TextMatrix(row, 9)));
-  put(line::User, Session.UserCode);
-  put(line::Type, "0");
-  put(line::Memo, "");
-  put(line::DepotCode, DepotCodeOf(Combo1));
-  put(line::DepotName, DepotNameOf(Combo1));
+bool OrderForm::AddOrderLine(int number, int row) {
+  const std::string& code = FLEX1.TextMatrix(row, order_line::Code);
+  if (!FindItem(code)) {
+    Host.MsgBox("[" + code + "] 품목정보가 부족하여 \r\r 순번항목을 구성할 수 없습니다.",
+                box::Critical, "품목정보오류");
+    return false;
+  }
+  FillLine(LineValues, number, row, HeadValues, Combo1);
+  // Behind the last line that the table holds nothing is taken in, and the limit is named.
+  if (number > LineValues.LastRow()) return CheckLineDepot(LineValues, number);
+  if (!Trim(LineValues.At(number, line::DepotCode)).empty()) return true;
+  Host.MsgBox("입고될 기본하치장을 반드시 선택하세요.     ", box::Critical, "하치장선택");
+  return false;
 }
 
 }  // namespace store

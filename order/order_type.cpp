@@ -1,16 +1,26 @@
 #include "order/order_type.h"
 
+#include "basics/formats.h"
+#include "gateway/splice.h"
+
 namespace store {
+namespace {
+
+std::string BarcodeBeginsWith(const std::string& text) {
+  return Splice(" PR_BCODE  like '{text}%'", "text"_a = text);
+}
+
+}  // namespace
 
 const OrderTypeChoices& BasicOrderType() {
   static const OrderTypeChoices choices{
       .FormName = "frm_Order",
       .Caption = "발주시스템",
       .ConfirmedState = "1",
-      .BarcodeFilter = " PR_BCODE  like '{0}%'",
       .FirstQuantity = "1",
-      .PickEntryColumn = 8,
-      .PickColumns =
+      .BarcodeCriteria = BarcodeBeginsWith,
+      .Pick = {.Code = 0, .Barcode = 3, .Name = 4, .Standard = 5, .Entry = 8},
+      .PickGrid =
           {
               {.Header = "품목코드", .Width = 1050, .Alignment = Align::Left, .Hidden = true},
               {.Header = "S",
@@ -25,14 +35,18 @@ const OrderTypeChoices& BasicOrderType() {
               {.Header = "현재고",
                .Width = 930,
                .Alignment = Align::Right,
-               .Format = "#,###",
+               .Format = kMaskWhole,
                .Hidden = true},
               {.Header = "부족재고",
                .Width = 915,
                .Alignment = Align::Right,
-               .Format = "#,###",
+               .Format = kMaskWhole,
                .Hidden = true},
-              {.Header = "발주량", .Width = 915, .Alignment = Align::Right, .Format = "#,###"},
+              {.Header = "발주량",
+               .Width = 915,
+               .Alignment = Align::Right,
+               .Format = kMaskWhole,
+               .Editable = true},
               {.Width = 900, .Hidden = true},
           },
   };

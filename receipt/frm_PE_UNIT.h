@@ -4,9 +4,7 @@
 #include <cstdint>
 #include <string>
 
-#include "forms/control.h"
-#include "forms/grid.h"
-#include "slips/line_grid.h"
+#include "slips/lines_pane.h"
 #include "slips/slip.h"
 #include "slips/slip_form.h"
 
@@ -14,35 +12,34 @@ namespace store {
 
 /// Columns of the receipt form's grid.
 namespace receipt {
-inline constexpr int Code = 1;
-inline constexpr int Name = 2;  ///< Barcode, carriage return, name.
-inline constexpr int Price = 5;
 inline constexpr int Ordered = 6;
 inline constexpr int Shipped = 7;
 inline constexpr int Received = 8;
-inline constexpr int Supply = 9;
-inline constexpr int Tax = 10;
 inline constexpr int Barcode = 12;
 
-inline constexpr LineGridColumns Money{
-    .Price = Price, .Quantity = Received, .TaxKind = 4, .Supply = Supply, .Tax = Tax, .Sum = 11};
+inline constexpr LineGridColumns Money{.Price = 5,
+                                       .Quantity = Received,
+                                       .TaxKind = 4,
+                                       .Supply = 9,
+                                       .Tax = 10,
+                                       .Sum = 11,
+                                       .OtherQty = Ordered};
+inline constexpr int Code = Money.Code;
+inline constexpr int Name = Money.Name;  ///< Barcode, carriage return, name.
 }  // namespace receipt
 
 /// The window in which a store confirms the goods of one order: what was ordered and shipped stands
 /// in the rows, what really came is typed, and the confirmation turns it into stock. The board sets
 /// `SlipId` (the order) and `SlipTable` ("PEM23", the slip to write) and shows it modally.
-class frm_PE_UNIT : public SlipForm {
+class frm_PE_UNIT : public SlipForm, public LinesPane {
  public:
   frm_PE_UNIT();
 
   TextBox Text1;  ///< Partner: the name, the code in its Tag.
   DatePicker DTOrderDate;
-  DatePicker DTPicker1;  ///< Date of receipt.
-  TextBox Text4;         ///< Copy of the receipt date, never shown.
-  ComboBox Combo1;       ///< The depot that takes all lines of the slip.
-  TextBox inBox;
-  Grid FLEX1;
-  TotalLabels LaAmt;               ///< 0 lines, 1 total, 2 supply amount, 3 VAT.
+  DatePicker DTPicker1;            ///< Date of receipt.
+  TextBox Text4;                   ///< Copy of the receipt date, never shown.
+  ComboBox Combo1;                 ///< The depot that takes all lines of the slip.
   std::array<Button, 2> Command1;  ///< 1 confirms; 0 has no action.
   Label Label4;                    ///< Closes the form.
 
@@ -54,28 +51,25 @@ class frm_PE_UNIT : public SlipForm {
   bool KeyDown(Key key) override;
 
   void DTPicker1_Change();
-  void FLEX1_KeyPress(const std::string& character);
   void FLEX1_KeyDown(Key key);
-  void inBox_KeyDown(Key key);
   void inBox_KeyPress(Key key);
   void Command1_Click(int index);
   void Label4_Click();
 
  private:
   void SetUpGrid();
+  void PublishControls();
   void LoadReceiptSlip(const std::string& orderId);
   void LoadReceiptHeader();
   void LoadReceiptLine();
-  void RecalcReceiptLine(int row);
-  void RecalcReceiptTotals();
   void AcceptReceivedQty(int row);
-  void RemoveCurrentRow();
+
   void ValidateReceipt(std::int16_t& valid);
   void FillHeader();
   void PrepareReceiptLines();
   void BuildReceiptLines(std::int16_t& count);
   bool RowIsReceived(int row) const;
-  bool FillLine(int number, int row);
+  bool AddReceiptLine(int number, int row);
 
   bool activated_ = false;
 };

@@ -3,9 +3,7 @@
 #include "basics/records.h"
 #include "basics/text.h"
 #include "forms/host.h"
-#include "gateway/gateway.h"
 #include "receipt/frm_PE_UNIT.h"
-#include "slips/depot_choice.h"
 #include "slips/item_list.h"
 #include "slips/post_receipt.h"
 #include "slips/slip_checks.h"
@@ -79,7 +77,7 @@ void frm_PE_UNIT::PrepareReceiptLines() {
 }
 
 bool frm_PE_UNIT::RowIsReceived(int row) const {
-  if (MidChars(FLEX1.TextMatrix(row, receipt::Code), 2).empty()) return false;
+  if (!IsLine(row)) return false;
   if (AppOptions.SkipZeroReceipt == 0) return true;
   return AppOptions.SkipZeroReceipt == 1 &&
          ParseGrouped(FLEX1.TextMatrix(row, receipt::Received)) != 0;
@@ -90,21 +88,12 @@ void frm_PE_UNIT::BuildReceiptLines(std::int16_t& count) {
   PrepareReceiptLines();
   int number = 0;
   for (int row = 1; row < FLEX1.Rows(); ++row) {
-    if (!RowIsReceived(row)) continue;
-    ++number;
-    if (!FillLine(number, row)) return;
+    if (RowIsReceived(row) && !AddReceiptLine(++number, row)) return;
   }
   ToInt16(number, count);
 }
 
-bool frm_PE_UNIT::FillLine(int number, int row) {
-  const auto put = [&](int column, const std::string& text) {
-    LineValues.Set(number, column, text);
-  };
-  put(line::Id, HeadValues[head::Id]);
-  put(line::Number, std::to_string(number));
-  put(line::Date, HeadValues[head::Date]);
-  put(line::ProductCode, FLEX1.TextMatrix(row, receipt::Code));
+bool frm_PE_UNIT::AddReceiptLine(int number, int row) {
   if (!FindItem(Trim(FLEX1.TextMatrix(row, receipt::Code)))) {
     Host.MsgBox("[" + FLEX1.TextMatrix(row, receipt::Name) +
                     " ] 상품의 발주단가정보에서 오류가 발생하였습니다. \r\r 다시 시도하여주세요.  "
@@ -112,28 +101,8 @@ bool frm_PE_UNIT::FillLine(int number, int row) {
                 box::Critical, "단가정책오류");
     return false;
   }
-  FillLineFromItem(LineValues, number);
-  put(line::Quantity, PlainNumber(FLEX1.TextMatrix(row, receipt::Received)));
-  put(line::OtherQty, PlainNumber(FLEX1.TextMatrix(row, receipt::Ordered)));
-  put(line::Cost, "0");
-  put(line::Price, PlainNumber(FLEX1.TextMatrix(row, receipt::Price)));
-  put(line::Supply, PlainNumber(FLEX1.TextMatrix(row, receipt::Supply)));
-  put(line::Tax, PlainNumber(FLEX1.TextMatrix(row, receipt::Tax)));
-  put(line::User, Session.UserCode);
-  put(line::Type, "0");
-  put(line::Memo, "");
-  put(line::DepotCode, DepotCodeOf(Combo1));
-  put(line::DepotName, DepotNameOf(Combo1));
-  // A row beyond the limit took nothing in, so it has no depot either: one message for both.
-  if (Trim(LineValues.At(number, line::DepotCode)).empty()) {
-    Host.MsgBox(
-        "입고될 기본하치장을 반드시 선택하세요.  \r또는 최대전표건수를 확인하세요 "
-        "셋팅최대처리건수(" +
-            std::to_string(BaseSettings.MaxSlipLines) + "건)\r",
-        box::Critical, "하치장선택");
-    return false;
-  }
-  return true;
+  FillLine(LineValues, number, row, HeadValues, Combo1);
+  return CheckLineDepot(LineValues, number);
 }
 
 }  // namespace store

@@ -10,10 +10,6 @@ constexpr int kCodeLength = 6;
 
 }  // namespace
 
-std::string DepotEntry(const std::string& name, const std::string& code) {
-  return name + std::string(30, ' ') + code;
-}
-
 std::string DepotCodeOf(const ComboBox& depots) { return RightChars(depots.Text(), kCodeLength); }
 
 std::string DepotNameOf(const ComboBox& depots) {

@@ -6,8 +6,7 @@
 
 namespace store {
 
-/// Entries of the depot list: the name, 30 blanks and the code of 6 characters.
-std::string DepotEntry(const std::string& name, const std::string& code);
+/// The entries of the depot list are `ListEntry` of name and code, which has 6 characters.
 
 /// The code of the chosen depot: the last 6 characters of the entry.
 std::string DepotCodeOf(const ComboBox& depots);

@@ -6,22 +6,34 @@
 namespace store {
 namespace {
 
+std::string ItemListStatement() {
+  return " SELECT PR_CODE,PR_NAME,PR_STD,PR_UNT,PR_TAX2,PR_PTNO,' ',' ',PR_BCODE,' ',KD_ID FROM PR "
+         "WHERE PR_END = '0' ORDER BY PR_NAME";
+}
+
 std::string ScopedItemList(const std::string& supplier) {
   return Splice(
       "SELECT PR.PR_CODE,PR_NAME,PR_STD,PR_UNT,PR_TAX2,PR_PTNO,' ',' ',PR.PR_BCODE,' ',KD_ID FROM "
-      "SAFEIV LEFT JOIN PR ON SAFEIV.PR_CODE = PR.PR_CODE  WHERE PR_END = '0' AND RCT_CODE = '{0}' "
-      "AND CT_CODE = '{1}' ",
-      {Session.StoreCode, supplier});
+      "SAFEIV LEFT JOIN PR ON SAFEIV.PR_CODE = PR.PR_CODE  WHERE PR_END = '0' AND RCT_CODE = "
+      "'{store}' "
+      "AND CT_CODE = '{supplier}' ",
+      "store"_a = Session.StoreCode, "supplier"_a = supplier);
 }
 
 }  // namespace
+
+void OpenItemList() { OpenRecordset(SlotC, ItemListStatement()); }
 
 void OpenScopedItemList(const std::string& supplier) {
   OpenRecordset(SlotC, ScopedItemList(supplier));
 }
 
+void OpenReceiptItemList(const std::string& supplier) {
+  OpenRecordset(SlotC, " " + ScopedItemList(supplier));
+}
+
 bool FindItem(const std::string& productCode) {
-  SetFilter(SlotC, Splice(" PR_CODE = '{0}'", {productCode}));
+  SetFilter(SlotC, Splice(" PR_CODE = '{code}'", "code"_a = productCode));
   return !AtEof(SlotC);
 }
 

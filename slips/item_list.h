@@ -16,8 +16,13 @@ inline constexpr int Barcode = 8;    ///< PR_BCODE
 inline constexpr int KindId = 10;    ///< KD_ID
 }  // namespace item
 
-/// Reads into `SlotC` the items that the store's order settings (SAFEIV) name for a supplier.
+/// Reads every item that is sold into `SlotC`, by name.
+void OpenItemList();
+
+/// Reads into `SlotC` the items that the store's order settings (SAFEIV) name for a supplier. The
+/// second one is the receipt's, whose statement begins with a blank.
 void OpenScopedItemList(const std::string& supplier);
+void OpenReceiptItemList(const std::string& supplier);
 
 /// Sets the filter of `SlotC` to one product. False when the item is not in the list.
 bool FindItem(const std::string& productCode);

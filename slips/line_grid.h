@@ -1,14 +1,14 @@
 #pragma once
 
 #include <array>
+#include <string>
 
 #include "forms/control.h"
 #include "forms/grid.h"
 
 namespace store {
 
-/// Which columns of a grid of slip lines hold what a line's money is made of. Column 0 is always
-/// the running number.
+/// Which columns of a grid of slip lines hold what. Column 0 is always the running number.
 struct LineGridColumns {
   int Price;
   int Quantity;
@@ -16,6 +16,9 @@ struct LineGridColumns {
   int Supply;
   int Tax;
   int Sum;
+  int Code = 1;      ///< PR_CODE
+  int Name = 2;      ///< Barcode, carriage return, name.
+  int OtherQty = 0;  ///< What goes to PS_EQTY; 0 where the slip has no such quantity.
 };
 
 /// The four total labels of a slip: count, total with tax, supply amount, VAT.

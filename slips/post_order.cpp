@@ -10,37 +10,36 @@ namespace {
 std::string LineTable(const std::string& table) { return table == "PEM22" ? "PSM22" : ""; }
 
 std::string DeleteStatement(const std::string& table, const std::string& slipId) {
-  return Splice(" DELETE FROM {0} WHERE PE_ID = '{1}' ", {table, slipId});
+  return Splice(" DELETE FROM {table} WHERE PE_ID = '{slip}' ", "table"_a = table,
+                "slip"_a = slipId);
 }
 
-/// {0} to {22} are the header's elements, {23} the table.
-std::string HeaderStatement(const HeadArray& headValues, const std::string& table) {
-  std::vector<std::string> fields = HeadFields(headValues, head::Supply, head::Total);
-  fields.push_back(table);
+std::string HeaderStatement(const HeadFields& fields, const std::string& table) {
   return Splice(
-      " INSERT INTO {23} ( PE_ID,PE_CK,PE_PDATE,PE_SDATE,PE_FCTCODE,PE_FCTNAME,PE_TCTCODE,"
+      " INSERT INTO {table} ( PE_ID,PE_CK,PE_PDATE,PE_SDATE,PE_FCTCODE,PE_FCTNAME,PE_TCTCODE,"
       "PE_TCTNAME,PE_AMT,PE_TAX,PE_TOT,PE_TMAN,ST_CODE,PE_PRJ,PE_LINK,PE_COND,PE_GRDAY,PE_CSDAY,"
-      "PE_CSCT,PE_TYPE,PE_MEMO1,PE_MEMO2,PE_MEMO3) VALUES  ('{0}','{1}','{2}',now(),  '{4}','{5}',"
-      "'{6}','{7}',    {8} ,{9} ,{10} ,  '{11}' ,'{12}' ,'{13}' ,'{14}' ,  '{15}','{16}','{17}',"
-      "'{18}','{19}','{20}','{21}','{22}')",
-      fields);
+      "PE_CSCT,PE_TYPE,PE_MEMO1,PE_MEMO2,PE_MEMO3) VALUES  ('{H0}','{H1}','{H2}',now(),  "
+      "'{H4}','{H5}',"
+      "'{H6}','{H7}',    {H8} ,{H9} ,{H10} ,  '{H11}' ,'{H12}' ,'{H13}' ,'{H14}' ,  "
+      "'{H15}','{H16}','{H17}',"
+      "'{H18}','{H19}','{H20}','{H21}','{H22}')",
+      fields, "table"_a = table);
 }
 
-/// {0} to {22} are the line's columns, {23} the table.
-std::string LineStatement(std::vector<std::string> fields, const std::string& lines) {
-  fields.push_back(lines);
+std::string LineStatement(const LineFields& fields, const std::string& lines) {
   return Splice(
-      " INSERT INTO {23} (PE_ID,PS_NO,PS_DATE, PR_CODE,PR_NAME,PR_STD,PS_TAXGU,PS_UNT, PS_SQTY,"
+      " INSERT INTO {lines} (PE_ID,PS_NO,PS_DATE, PR_CODE,PR_NAME,PR_STD,PS_TAXGU,PS_UNT, PS_SQTY,"
       "PS_EQTY,PS_COST,PS_UP,PS_AMT,PS_TAX, ST_CODE,PS_TYPE,PS_MEMO,PS_HCTCODE,PS_HCTNAME) VALUES "
-      " ( '{0}',{1},'{2}',    '{3}','{4}','{5}', '{6}','{7}',    {8},{9},{10},{11},{12},{13},    "
-      "'{14}','{15}','{16}','{17}','{18}' ) ",
-      fields);
+      " ( '{L0}',{L1},'{L2}',    '{L3}','{L4}','{L5}', '{L6}','{L7}',    "
+      "{L8},{L9},{L10},{L11},{L12},{L13},    "
+      "'{L14}','{L15}','{L16}','{L17}','{L18}' ) ",
+      fields, "lines"_a = lines);
 }
 
 void AddOrder(const HeadArray& headValues, const StringTable& lineValues,
               const std::string& table) {
-  AddToBatch(HeaderStatement(headValues, table));
-  ForEachLine(lineValues, [&](const std::vector<std::string>& fields) {
+  AddToBatch(HeaderStatement(HeadFields(headValues, head::Supply, head::Total), table));
+  ForEachLine(lineValues, [&](const LineFields& fields) {
     AddToBatch(LineStatement(fields, LineTable(table)));
   });
 }

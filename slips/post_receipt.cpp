@@ -26,77 +26,76 @@ std::string ProgramVersion() {
          std::to_string(Host.Version.Revision);
 }
 
-/// {0} to {22} are the header's elements, {23} the table, {24} the version.
-std::string HeaderStatement(std::vector<std::string> fields, const std::string& table) {
-  fields.push_back(table);
-  fields.push_back(ProgramVersion());
+std::string HeaderStatement(const HeadFields& fields, const std::string& table) {
   return Splice(
-      " INSERT INTO {23} ( PE_ID,PE_CK,PE_PDATE,PE_SDATE,PE_FCTCODE,PE_FCTNAME,PE_TCTCODE,"
+      " INSERT INTO {table} ( PE_ID,PE_CK,PE_PDATE,PE_SDATE,PE_FCTCODE,PE_FCTNAME,PE_TCTCODE,"
       "PE_TCTNAME,PE_AMT,PE_TAX,PE_TOT,PE_MISU,PE_EC,PE_DC,PE_PAYGU,PE_ACCK,PE_TMAN,PE_MEMO,"
-      "ST_CODE,PE_PRJ,PE_LINK,INPUT_PROGRAM) VALUES  ('{0}','{1}','{2}',NOW(),  '{4}','{5}','{6}',"
-      "'{7}',    {8} ,{9} ,{10} ,{11} ,{12} ,{13} ,  '{14}' ,'{15}' ,'{16}' ,  '{17}','{18}',"
-      "'{19}','{20}','{24}')",
-      fields);
+      "ST_CODE,PE_PRJ,PE_LINK,INPUT_PROGRAM) VALUES  ('{H0}','{H1}','{H2}',NOW(),  "
+      "'{H4}','{H5}','{H6}',"
+      "'{H7}',    {H8} ,{H9} ,{H10} ,{H11} ,{H12} ,{H13} ,  '{H14}' ,'{H15}' ,'{H16}' ,  "
+      "'{H17}','{H18}',"
+      "'{H19}','{H20}','{version}')",
+      fields, "table"_a = table, "version"_a = ProgramVersion());
 }
 
-std::string CloseOrderStatement(const std::vector<std::string>& head) {
-  return Splice(" UPDATE PEM22 SET PE_CK = '4' , PE_LINK = '{0}' WHERE PE_ID = '{20}'", head);
+std::string CloseOrderStatement(const HeadFields& head) {
+  return Splice(" UPDATE PEM22 SET PE_CK = '4' , PE_LINK = '{H0}' WHERE PE_ID = '{H20}'", head);
 }
 
-/// {0} to {22} are the line's columns, {23} the table.
-std::string LineStatement(std::vector<std::string> fields, const std::string& lines) {
-  fields.push_back(lines);
+std::string LineStatement(const LineFields& fields, const std::string& lines) {
   return Splice(
-      " INSERT INTO {23} (PE_ID,PS_NO,PS_DATE, PR_CODE,PR_NAME,PR_STD,PS_TAXGU,PS_UNT, PS_SQTY,"
+      " INSERT INTO {lines} (PE_ID,PS_NO,PS_DATE, PR_CODE,PR_NAME,PR_STD,PS_TAXGU,PS_UNT, PS_SQTY,"
       "PS_EQTY,PS_COST,PS_UP,PS_AMT,PS_TAX, ST_CODE,PS_TYPE,PS_MEMO,PS_HCTCODE,PS_HCTNAME,PS_INCK,"
-      "PS_TMID) VALUES  ( '{0}',{1},'{2}',    '{3}','{4}','{5}', '{6}','{7}',    {8},{9},{10},"
-      "{11},{12},{13},    '{14}','{15}','{16}','{17}','{18}','{19}','{21}' ) ",
-      fields);
+      "PS_TMID) VALUES  ( '{L0}',{L1},'{L2}',    '{L3}','{L4}','{L5}', '{L6}','{L7}',    "
+      "{L8},{L9},{L10},"
+      "{L11},{L12},{L13},    '{L14}','{L15}','{L16}','{L17}','{L18}','{L19}','{L21}' ) ",
+      fields, "lines"_a = lines);
 }
 
-/// The stock statements see a line's columns as {0} to {22}, the store as {23} and the stock column
-/// as {24}.
-std::string StockCountStatement(const std::vector<std::string>& fields) {
+std::string StockCountStatement(const LineFields& fields, const std::string& store) {
   return Splice(
-      "select count(*) from IV where RCT_CODE='{23}' and HCT_CODE='{17}' and PR_CODE='{3}' ",
-      fields);
+      "select count(*) from IV where RCT_CODE='{store}' and HCT_CODE='{L17}' and PR_CODE='{L3}' ",
+      fields, "store"_a = store);
 }
 
-std::string StockUpdateStatement(const std::vector<std::string>& fields) {
+std::string StockUpdateStatement(const LineFields& fields, const std::string& store,
+                                 const std::string& column) {
   return Splice(
-      "UPDATE IV SET {24} = {24} + {8} WHERE  RCT_CODE='{23}' AND HCT_CODE='{17}' AND "
-      "PR_CODE='{3}'",
-      fields);
+      "UPDATE IV SET {column} = {column} + {L8} WHERE  RCT_CODE='{store}' AND HCT_CODE='{L17}' AND "
+      "PR_CODE='{L3}'",
+      fields, "store"_a = store, "column"_a = column);
 }
 
-std::string StockInsertStatement(const std::vector<std::string>& fields) {
+std::string StockInsertStatement(const LineFields& fields, const std::string& store,
+                                 const std::string& column) {
   return Splice(
-      "INSERT INTO IV (RCT_CODE, HCT_CODE, PR_CODE, PR_NAME, PR_STD, PR_UNT, PR_BCODE, {24}) "
-      "values  ('{23}','{17}','{3}','{4}','{5} ','{7}','',{8})",
-      fields);
+      "INSERT INTO IV (RCT_CODE, HCT_CODE, PR_CODE, PR_NAME, PR_STD, PR_UNT, PR_BCODE, {column}) "
+      "values  ('{store}','{L17}','{L3}','{L4}','{L5} ','{L7}','',{L8})",
+      fields, "store"_a = store, "column"_a = column);
 }
 
-/// The balance statements see the header's elements as {0} to {22}, the month as {23} and the
-/// balance column as {24}.
-std::string BalanceCountStatement(const std::vector<std::string>& fields) {
+std::string BalanceCountStatement(const HeadFields& fields, const std::string& month) {
   return Splice(
-      "select count(*) from CMM where CM_FCTCODE='{4}' and CM_TCTCODE='{6}' and CM_MGU='C' and "
-      "CM_MM='{23}'",
-      fields);
+      "select count(*) from CMM where CM_FCTCODE='{H4}' and CM_TCTCODE='{H6}' and CM_MGU='C' and "
+      "CM_MM='{month}'",
+      fields, "month"_a = month);
 }
 
-std::string BalanceUpdateStatement(const std::vector<std::string>& fields) {
+std::string BalanceUpdateStatement(const HeadFields& fields, const std::string& month,
+                                   const std::string& column) {
   return Splice(
-      " update CMM set {24} = {24} + {10} where  CM_FCTCODE='{4}' and CM_TCTCODE='{6}' and "
-      "CM_MGU='C' and CM_MM='{23}' ",
-      fields);
+      " update CMM set {column} = {column} + {H10} where  CM_FCTCODE='{H4}' and CM_TCTCODE='{H6}' "
+      "and "
+      "CM_MGU='C' and CM_MM='{month}' ",
+      fields, "month"_a = month, "column"_a = column);
 }
 
-std::string BalanceInsertStatement(const std::vector<std::string>& fields) {
+std::string BalanceInsertStatement(const HeadFields& fields, const std::string& month,
+                                   const std::string& column) {
   return Splice(
-      " insert into CMM (CM_FCTCODE, CM_TCTCODE, CM_MGU, CM_MM, {24}, CM_CK) values   "
-      "('{4}','{6}','C','{23}',{10},'0')",
-      fields);
+      " insert into CMM (CM_FCTCODE, CM_TCTCODE, CM_MGU, CM_MM, {column}, CM_CK) values   "
+      "('{H4}','{H6}','C','{month}',{H10},'0')",
+      fields, "month"_a = month, "column"_a = column);
 }
 
 /// Exactly one row is there to be raised. With none, or with several, a further one is inserted:
@@ -108,20 +107,17 @@ bool CountsOne(const std::string& statement) {
   return one;
 }
 
-void AddStock(std::vector<std::string> fields, const std::string& storeCode,
-              const std::string& stockColumn) {
-  fields.push_back(storeCode);
-  fields.push_back(stockColumn);
-  AddToBatch(CountsOne(StockCountStatement(fields)) ? StockUpdateStatement(fields)
-                                                    : StockInsertStatement(fields));
+void AddStock(const LineFields& fields, const std::string& store, const std::string& column) {
+  AddToBatch(CountsOne(StockCountStatement(fields, store))
+                 ? StockUpdateStatement(fields, store, column)
+                 : StockInsertStatement(fields, store, column));
 }
 
-void AddBalance(std::vector<std::string> fields, const std::string& balanceColumn) {
-  const std::string month = FormatDateText(fields[head::Date], "YYYYMM");
-  fields.push_back(month);
-  fields.push_back(balanceColumn);
-  AddToBatch(CountsOne(BalanceCountStatement(fields)) ? BalanceUpdateStatement(fields)
-                                                      : BalanceInsertStatement(fields));
+void AddBalance(const HeadFields& fields, const std::string& column) {
+  const std::string month = FormatDateText(fields.Field(head::Date), "YYYYMM");
+  AddToBatch(CountsOne(BalanceCountStatement(fields, month))
+                 ? BalanceUpdateStatement(fields, month, column)
+                 : BalanceInsertStatement(fields, month, column));
 }
 
 }  // namespace
@@ -130,15 +126,15 @@ std::int16_t PostReceipt(const HeadArray& headValues, const StringTable& lineVal
                          const std::string& table) {
   const Hourglass waiting;  // a round trip a line, before the batch
   const Direction direction = DirectionOf(table);
-  const std::vector<std::string> head = HeadFields(headValues, head::Supply, head::Discount);
+  const HeadFields head(headValues, head::Supply, head::Discount);
   StartBatch();
   AddToBatch(HeaderStatement(head, table));
   AddToBatch(CloseOrderStatement(head));
-  ForEachLine(lineValues, [&](const std::vector<std::string>& fields) {
+  ForEachLine(lineValues, [&](const LineFields& fields) {
     AddToBatch(LineStatement(fields, direction.lines));
   });
   if (ParseNumber(headValues[head::State]) != 0) {
-    ForEachLine(lineValues, [&](const std::vector<std::string>& fields) {
+    ForEachLine(lineValues, [&](const LineFields& fields) {
       AddStock(fields, headValues[head::FromCode], direction.stockColumn);
     });
     AddBalance(head, direction.balanceColumn);

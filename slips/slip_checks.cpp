@@ -16,8 +16,8 @@ namespace {
 std::string PartnerNameStatement(const std::string& code) {
   return Splice(
       " SELECT  CT_NAME "
-      " FROM   CT WHERE CT_CODE = '{0}'",
-      {code});
+      " FROM   CT WHERE CT_CODE = '{code}'",
+      "code"_a = code);
 }
 
 }  // namespace
@@ -65,12 +65,14 @@ void TellSaveFailed() {
   Host.MsgBox("저장이 실패하였습니다.\r\r MSG: " + LastErrorText, box::Question, "오류");
 }
 
-void FillLineFromItem(StringTable& lineValues, int number) {
-  // The master data of this moment, not of the moment the line was written.
-  lineValues.Set(number, line::ProductName, ItemText(item::Name));
-  lineValues.Set(number, line::Standard, ItemText(item::Standard));
-  lineValues.Set(number, line::TaxKind, ItemText(item::TaxKind));
-  lineValues.Set(number, line::Unit, ItemText(item::Unit));
+bool CheckLineDepot(const StringTable& lineValues, int number) {
+  if (!Trim(lineValues.At(number, line::DepotCode)).empty()) return true;
+  Host.MsgBox(
+      "입고될 기본하치장을 반드시 선택하세요.  \r또는 최대전표건수를 확인하세요 "
+      "셋팅최대처리건수(" +
+          std::to_string(BaseSettings.MaxSlipLines) + "건)\r",
+      box::Critical, "하치장선택");
+  return false;
 }
 
 }  // namespace store

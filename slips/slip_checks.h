@@ -30,7 +30,8 @@ void TellNoLines();
 /// The batch failed; with the server's words.
 void TellSaveFailed();
 
-/// Takes the master data of a line from the current item of the item list.
-void FillLineFromItem(StringTable& lineValues, int number);
+/// Whether a line got its depot; tells what is missing otherwise. A line behind the last of the
+/// table took nothing in, so it has no depot either.
+bool CheckLineDepot(const StringTable& lineValues, int number);
 
 }  // namespace store

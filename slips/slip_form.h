@@ -32,8 +32,4 @@ class MainWindow : public Form {
 /// The main window, or nothing before it is made.
 MainWindow* TheMainWindow();
 
-/// Name of the form that serves an order type (`AppOptions.OrderType`, 0 to 3); empty for any other
-/// value.
-const char* OrderFormName(int orderType);
-
 }  // namespace store

@@ -17,18 +17,19 @@ constexpr const char* kNumberMask = "0000";
 
 std::string SlipIdStatement(const std::string& table) {
   return Splice(
-      " SELECT  CONCAT(date_format(now(),'%Y%m%d'),'', '{0}'),IF(COUNT(PE_ID)=0,1,"
-      "MAX(RIGHT(PE_ID,4))+1)  from {1} WHERE   PE_ID LIKE CONCAT(date_format(now(),'%Y%m%d'),'',"
-      " '{0}%')",
-      {Session.StoreCode, table});
+      " SELECT  CONCAT(date_format(now(),'%Y%m%d'),'', '{store}'),IF(COUNT(PE_ID)=0,1,"
+      "MAX(RIGHT(PE_ID,4))+1)  from {table} WHERE   PE_ID LIKE "
+      "CONCAT(date_format(now(),'%Y%m%d'),'',"
+      " '{store}%')",
+      "store"_a = Session.StoreCode, "table"_a = table);
 }
 
 std::string StockCountIdStatement() {
   return Splice(
-      " SELECT  CONCAT(date_format(now(),'%Y%m%d'),'', '{0}'),IF(COUNT(ME_ID)=0,1,"
+      " SELECT  CONCAT(date_format(now(),'%Y%m%d'),'', '{store}'),IF(COUNT(ME_ID)=0,1,"
       "MAX(RIGHT(ME_ID,4))+1)  from ME  WHERE   ME_ID LIKE CONCAT(date_format(now(),'%Y%m%d'),'',"
-      " '{0}%')",
-      {Session.StoreCode});
+      " '{store}%')",
+      "store"_a = Session.StoreCode);
 }
 
 }  // namespace

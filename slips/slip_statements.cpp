@@ -6,28 +6,25 @@ namespace store {
 
 std::string BareNumber(const std::string& text) { return NumberText(ParseNumber(text)); }
 
-std::vector<std::string> HeadFields(const HeadArray& headValues, int firstNumber, int lastNumber) {
-  std::vector<std::string> fields = headValues;
-  fields.resize(size_t{head::OrderLast} + 1);
+HeadFields::HeadFields(const HeadArray& headValues, int firstNumber, int lastNumber)
+    : texts_(headValues) {
+  texts_.resize(kFields);
   for (int i = firstNumber; i <= lastNumber; ++i) {
-    std::string& field = fields[static_cast<size_t>(i)];
-    field = BareNumber(field);
+    std::string& text = texts_[static_cast<std::size_t>(i)];
+    text = BareNumber(text);
   }
-  return fields;
 }
 
-std::vector<std::string> LineFields(const StringTable& lineValues, int row) {
-  std::vector<std::string> fields;
+LineFields::LineFields(const StringTable& lineValues, int row) {
   for (int column = 0; column <= line::PostedLast; ++column) {
     const bool number = column == line::Number || (column >= line::Quantity && column <= line::Tax);
     const std::string& text = lineValues.At(row, column);
-    fields.push_back(number ? BareNumber(text) : text);
+    texts_.push_back(number ? BareNumber(text) : text);
   }
-  return fields;
 }
 
 void ForEachLine(const StringTable& lineValues,
-                 const std::function<void(const std::vector<std::string>&)>& work) {
+                 const std::function<void(const LineFields&)>& work) {
   for (int row = 1; row <= lineValues.LastRow(); ++row) {
     if (!lineValues.At(row, line::ProductCode).empty()) work(LineFields(lineValues, row));
   }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <functional>
 #include <string>
 #include <vector>
@@ -12,14 +13,36 @@ namespace store {
 /// form; 0 for an empty text.
 std::string BareNumber(const std::string& text);
 
-/// The header's texts with its numbers, the given elements, made ready to stand bare.
-std::vector<std::string> HeadFields(const HeadArray& headValues, int firstNumber, int lastNumber);
+/// A header's elements as its statements name them, {H0} to {H22}: its numbers are made ready to
+/// stand bare, its texts stand as they are.
+class HeadFields {
+ public:
+  static constexpr char kLetter = 'H';
+  static constexpr std::size_t kFields = head::OrderLast + 1;
 
-/// Row `row` of the lines with its numbers (PS_NO and 8 to 13) made ready to stand bare.
-std::vector<std::string> LineFields(const StringTable& lineValues, int row);
+  /// The elements from `firstNumber` to `lastNumber` are numbers.
+  HeadFields(const HeadArray& headValues, int firstNumber, int lastNumber);
+  const std::string& Field(std::size_t element) const { return texts_[element]; }
 
-/// Runs `work` for each row that is a line, from row 1 on, with the fields of `LineFields`.
-void ForEachLine(const StringTable& lineValues,
-                 const std::function<void(const std::vector<std::string>&)>& work);
+ private:
+  std::vector<std::string> texts_;
+};
+
+/// A line's columns as its statements name them, {L0} to {L22}: PS_NO and the columns from quantity
+/// to tax are numbers.
+class LineFields {
+ public:
+  static constexpr char kLetter = 'L';
+  static constexpr std::size_t kFields = line::PostedLast + 1;
+
+  LineFields(const StringTable& lineValues, int row);
+  const std::string& Field(std::size_t column) const { return texts_[column]; }
+
+ private:
+  std::vector<std::string> texts_;
+};
+
+/// Runs `work` for each row that is a line, from row 1 on.
+void ForEachLine(const StringTable& lineValues, const std::function<void(const LineFields&)>& work);
 
 }  // namespace store

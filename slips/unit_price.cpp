@@ -18,15 +18,16 @@ constexpr const char* kLevelOfParty = "NONE";
 enum class Side { Partner, Store };
 
 std::string PartnerPolicyStatement(const std::string& partner) {
-  return Splice(" SELECT CT_DANCK FROM CT WHERE CT_CODE = '{0}'  ", {partner});
+  return Splice(" SELECT CT_DANCK FROM CT WHERE CT_CODE = '{partner}'  ", "partner"_a = partner);
 }
 
 std::string LastTradeStatement(const std::string& partner, const std::string& product,
                                const std::string& source, const std::string& lines) {
   return Splice(
-      " SELECT PS_TAXGU,PS_UP  FROM   {0} INNER JOIN {1} ON {0}.PE_ID = {1}.PE_ID   Where  "
-      "PE_TCTCODE = '{2}' AND PR_CODE = '{3}' ORDER BY PE_PDATE DESC limit 1 ",
-      {source, lines, partner, product});
+      " SELECT PS_TAXGU,PS_UP  FROM   {source} INNER JOIN {lines} ON {source}.PE_ID = "
+      "{lines}.PE_ID   Where  "
+      "PE_TCTCODE = '{partner}' AND PR_CODE = '{product}' ORDER BY PE_PDATE DESC limit 1 ",
+      "source"_a = source, "lines"_a = lines, "partner"_a = partner, "product"_a = product);
 }
 
 std::string PartnerContractStatement(const std::string& partner, const std::string& product,
@@ -35,50 +36,59 @@ std::string PartnerContractStatement(const std::string& partner, const std::stri
   const std::string clause =
       AppOptions.BulkOrderPrice == kPartnerDecides ? "" : " and rct_code = '1000'";
   return Splice(
-      " SELECT  CTP_GU,CTP_UP  FROM   CTP   Where  CT_CODE    = '{0}' AND         PR_CODE = '{1}' "
-      "AND         ((CTP_FDATE <= '{2}'   AND  CTP_TDATE >= '{2}' ) OR (CTP_FDATE = '0000-00-00' "
-      "AND CTP_TDATE = '0000-00-00')) {3}",
-      {partner, product, date, clause});
+      " SELECT  CTP_GU,CTP_UP  FROM   CTP   Where  CT_CODE    = '{partner}' AND         PR_CODE = "
+      "'{product}' "
+      "AND         ((CTP_FDATE <= '{date}'   AND  CTP_TDATE >= '{date}' ) OR (CTP_FDATE = "
+      "'0000-00-00' "
+      "AND CTP_TDATE = '0000-00-00')) {clause}",
+      "partner"_a = partner, "product"_a = product, "date"_a = date, "clause"_a = clause);
 }
 
 std::string StoreContractStatement(const std::string& storeCode, const std::string& product,
                                    const std::string& date) {
   return Splice(
-      " SELECT  CTP_GU,CTP_UP  FROM   RCTP   Where  RCT_CODE    = '{0}' AND         PR_CODE = "
-      "'{1}' AND         ((CTP_FDATE <= '{2}'   AND  CTP_TDATE >= '{2}' ) OR (CTP_FDATE = "
+      " SELECT  CTP_GU,CTP_UP  FROM   RCTP   Where  RCT_CODE    = '{store}' AND         PR_CODE = "
+      "'{product}' AND         ((CTP_FDATE <= '{date}'   AND  CTP_TDATE >= '{date}' ) OR "
+      "(CTP_FDATE = "
       "'0000-00-00' AND CTP_TDATE = '0000-00-00')) ",
-      {storeCode, product, date});
+      "store"_a = storeCode, "product"_a = product, "date"_a = date);
 }
 
 std::string PartnerLevelStatement(const std::string& partner) {
-  return Splice(" SELECT CT_DANLV FROM CT WHERE CT_CODE = '{0}'  ", {partner});
+  return Splice(" SELECT CT_DANLV FROM CT WHERE CT_CODE = '{partner}'  ", "partner"_a = partner);
 }
 
 std::string StoreLevelStatement(const std::string& storeCode) {
-  return Splice(" SELECT RCT_DANLV FROM RCT WHERE RCT_CODE = '{0}'  ", {storeCode});
+  return Splice(" SELECT RCT_DANLV FROM RCT WHERE RCT_CODE = '{store}'  ", "store"_a = storeCode);
 }
 
 std::string ThirdPriceStatement(const std::string& product) {
-  return Splice(" SELECT PR_OP2 AS COL0  FROM   PR   Where  PR_CODE = '{0}'  ", {product});
+  return Splice(" SELECT PR_OP2 AS COL0  FROM   PR   Where  PR_CODE = '{product}'  ",
+                "product"_a = product);
 }
 
 std::string SalePriceStatement(const std::string& product) {
-  return Splice(" SELECT PR_OP1 AS COL0   FROM   PR   Where  PR_CODE = '{0}'  ", {product});
+  return Splice(" SELECT PR_OP1 AS COL0   FROM   PR   Where  PR_CODE = '{product}'  ",
+                "product"_a = product);
 }
 
 std::string LevelPriceStatement(const std::string& product, int column, const std::string& kind) {
-  return Splice(" SELECT DP{0}  AS COL0  FROM   UP   Where  DP_GUBUN = '{1}' AND PR_CODE = '{2}'  ",
-                {std::to_string(column), kind, product});
+  return Splice(
+      " SELECT DP{column}  AS COL0  FROM   UP   Where  DP_GUBUN = '{kind}' AND PR_CODE = "
+      "'{product}'  ",
+      "column"_a = std::to_string(column), "kind"_a = kind, "product"_a = product);
 }
 
 std::string OrderSettingStatement(const std::string& partner, const std::string& product) {
   if (partner.empty()) {
-    return Splice(" SELECT ORD_UP FROM SAFEIV WHERE RCT_CODE = '{0}' AND PR_CODE = '{1}'  ",
-                  {Session.StoreCode, product});
+    return Splice(
+        " SELECT ORD_UP FROM SAFEIV WHERE RCT_CODE = '{store}' AND PR_CODE = '{product}'  ",
+        "store"_a = Session.StoreCode, "product"_a = product);
   }
   return Splice(
-      " SELECT ORD_UP FROM SAFEIV WHERE RCT_CODE = '{0}' AND PR_CODE = '{1}' AND CT_CODE = '{2}'  ",
-      {Session.StoreCode, product, partner});
+      " SELECT ORD_UP FROM SAFEIV WHERE RCT_CODE = '{store}' AND PR_CODE = '{product}' AND CT_CODE "
+      "= '{partner}'  ",
+      "store"_a = Session.StoreCode, "product"_a = product, "partner"_a = partner);
 }
 
 double LastTradePrice(const std::string& partner, const std::string& product,

@@ -12,9 +12,9 @@ namespace {
 
 std::string LoginStatement(const std::string& user, const std::string& password) {
   return Splice(
-      "SELECT ST_CODE,ST_PWD,ST_NAME,RCT_CODE,ST_ASPLVL FROM ST WHERE  ST_CODE = '{0}' "
-      "AND ST_PWD = '{1}'",
-      {user, password});
+      "SELECT ST_CODE,ST_PWD,ST_NAME,RCT_CODE,ST_ASPLVL FROM ST WHERE  ST_CODE = '{user}' "
+      "AND ST_PWD = '{password}'",
+      "user"_a = user, "password"_a = password);
 }
 
 constexpr int kLongestInput = 8;
@@ -47,7 +47,16 @@ frmLogin::frmLogin() : Form("frmLogin") {
   Caption = "로그인";
   txtUserName.MaxLength = txtPassword.MaxLength = kLongestInput;
   txtPassword.Masked = true;
+  Publish("txtUserName", txtUserName);
+  Publish("txtPassword", txtPassword);
+  Publish("cmdOK", cmdOK);
+  Publish("cmdCancel", cmdCancel);
   TabOrder = {&txtUserName, &txtPassword, &cmdOK, &cmdCancel};
+  txtUserName.KeyDown = [this](Key key) { txtUserName_KeyPress(key); };
+  txtPassword.KeyDown = [this](Key key) { txtPassword_KeyPress(key); };
+  txtUserName.OwnKeys = txtPassword.OwnKeys = {Key::Enter};
+  cmdOK.Click = [this] { cmdOK_Click(); };
+  cmdCancel.Click = [this] { cmdCancel_Click(); };
 }
 
 void frmLogin::Load() {

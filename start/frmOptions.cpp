@@ -10,9 +10,21 @@ namespace store {
 namespace {
 
 std::string CompanyStatement(const std::string& companyId) {
-  return Splice(" SELECT DB_HostnameIP,DB_Database,DB_User FROM COMPANY WHERE COM_ID = '{0}' ",
-                {companyId});
+  return Splice(
+      " SELECT DB_HostnameIP,DB_Database,DB_User FROM COMPANY WHERE COM_ID = '{company}' ",
+      "company"_a = companyId);
 }
+
+/// Which box holds which option, in the order in which they are written.
+constexpr std::array<std::pair<size_t, const char*>, 4> kTexts = {{{0, option::DataServer},
+                                                                   {1, option::BusinessServer},
+                                                                   {2, option::BusinessObject},
+                                                                   {4, option::CompanyId}}};
+constexpr std::array<std::pair<CheckBox frmOptions::*, const char*>, 4> kChecks = {
+    {{&frmOptions::Check1, option::OrderZeroPrice},
+     {&frmOptions::Check2, option::OrderInfoPartnersOnly},
+     {&frmOptions::Check3, option::SkipZeroReceipt},
+     {&frmOptions::Check4, option::ShowMidCategory}}};
 
 void FillCheck(CheckBox& check, const std::string& key) {
   const std::int16_t stored = ReadNumberOption(kOptionSection, key);
@@ -35,23 +47,43 @@ frmOptions::frmOptions() : Form("frmOptions") {
   for (CheckBox* check : {&Check2, &Check3, &Check4})
     check->ToolTipText =
         "ASP관리자에서 가맹점의(적정재고)부분에서 셋팅된 발주처만 거래처에서HELP받을 수 있음.";
+  PublishControls();
   TabOrder = {&Text1[0],     &Text1[1],     &Text1[2],     &Text1[4], &Combo1,
               &Check1,       &Check2,       &Check3,       &Check4,   &SSOption1[0],
               &SSOption1[1], &SSOption1[2], &SSOption1[3], &cmdApply, &cmdCancel};
 }
 
+void frmOptions::PublishControls() {
+  for (const auto& [index, key] : kTexts) {
+    Publish("Text1_" + std::to_string(index), Text1[index]);
+    Text1[index].KeyDown = [this, at = static_cast<int>(index)](Key pressed) {
+      Text1_KeyPress(at, pressed);
+    };
+    Text1[index].OwnKeys = {Key::Enter};
+  }
+  Publish("Combo1", Combo1);
+  Publish("Label1", Label1);
+  Publish("Label2", Label2);
+  Publish("Check1", Check1);
+  Publish("Check2", Check2);
+  Publish("Check3", Check3);
+  Publish("Check4", Check4);
+  Publish("SSOption1", SSOption1);
+  for (int i = 0; i < static_cast<int>(SSOption1.size()); ++i) {
+    SSOption1[static_cast<size_t>(i)].Click = [this, i] { SSOption1_Click(i); };
+  }
+  Publish("cmdApply", cmdApply);
+  Publish("cmdCancel", cmdCancel);
+  cmdApply.Click = [this] { cmdApply_Click(); };
+  cmdCancel.Click = [this] { cmdCancel_Click(); };
+}
+
 void frmOptions::Load() {
   ShapeWindow(*this, placement::Centered, false);
-  Text1[0].SetText(ReadOption(kOptionSection, "데이터서버"));
-  Text1[1].SetText(ReadOption(kOptionSection, "업무서버"));
-  Text1[2].SetText(ReadOption(kOptionSection, "업무개체"));
-  Text1[4].SetText(ReadOption(kOptionSection, "회사아이디"));
-  Combo1.SetListIndex(ReadNumberOption(kOptionSection, "일괄발주단가"));
-  FillCheck(Check1, "단가[0]발주");
-  FillCheck(Check2, "발주정보거래처");
-  FillCheck(Check3, "입고량0제외");
-  FillCheck(Check4, "타입A중분류표기");
-  SSOption1_Click(ReadNumberOption(kOptionSection, "발주타입"));
+  for (const auto& [index, key] : kTexts) Text1[index].SetText(ReadOption(kOptionSection, key));
+  Combo1.SetListIndex(ReadNumberOption(kOptionSection, option::BulkOrderPrice));
+  for (const auto& [check, key] : kChecks) FillCheck(this->*check, key);
+  SSOption1_Click(ReadNumberOption(kOptionSection, option::OrderType));
 }
 
 bool frmOptions::KeyDown(Key key) {
@@ -100,18 +132,14 @@ bool frmOptions::CompanyIsKnown() {
 }
 
 void frmOptions::WriteAll() {
-  WriteOption(kOptionSection, "데이터서버", Text1[0].Text());
-  WriteOption(kOptionSection, "업무서버", Text1[1].Text());
-  WriteOption(kOptionSection, "업무개체", Text1[2].Text());
-  WriteOption(kOptionSection, "회사아이디", Text1[4].Text());
-  WriteOption(kOptionSection, "일괄발주단가", std::to_string(Combo1.ListIndex()));
-  WriteOption(kOptionSection, "단가[0]발주", std::to_string(Check1.Value));
-  WriteOption(kOptionSection, "발주정보거래처", std::to_string(Check2.Value));
-  WriteOption(kOptionSection, "입고량0제외", std::to_string(Check3.Value));
-  WriteOption(kOptionSection, "타입A중분류표기", std::to_string(Check4.Value));
+  for (const auto& [index, key] : kTexts) WriteOption(kOptionSection, key, Text1[index].Text());
+  WriteOption(kOptionSection, option::BulkOrderPrice, std::to_string(Combo1.ListIndex()));
+  for (const auto& [check, key] : kChecks) {
+    WriteOption(kOptionSection, key, std::to_string((this->*check).Value));
+  }
   for (size_t i = 0; i < SSOption1.size(); ++i) {
     if (!SSOption1[i].Value) continue;
-    WriteOption(kOptionSection, "발주타입", std::to_string(i));
+    WriteOption(kOptionSection, option::OrderType, std::to_string(i));
     return;
   }
 }

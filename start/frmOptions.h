@@ -34,6 +34,7 @@ class frmOptions : public Form {
   void cmdCancel_Click();
 
  private:
+  void PublishControls();
   bool CompanyIsKnown();
   void WriteAll();
 };

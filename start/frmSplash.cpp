@@ -3,7 +3,7 @@
 #include "basics/records.h"
 #include "forms/form.h"
 #include "forms/host.h"
-#include "gateway/gateway.h"
+#include "slips/item_list.h"
 #include "start/start_data.h"
 
 namespace store {
@@ -11,14 +11,14 @@ namespace {
 
 constexpr int kStartDelay = 100;  // milliseconds
 
-std::string ItemListStatement() {
-  return " SELECT PR_CODE,PR_NAME,PR_STD,PR_UNT,PR_TAX2,PR_PTNO,' ',' ',PR_BCODE,' ',KD_ID FROM PR "
-         "WHERE PR_END = '0' ORDER BY PR_NAME";
-}
-
 }  // namespace
 
-frmSplash::frmSplash() : Form("frmSplash") {}
+frmSplash::frmSplash() : Form("frmSplash") {
+  Publish("lblVersion", lblVersion);
+  Publish("lblStep", lblStep);
+  Publish("Timer1", Timer1);
+  Timer1.Tick = [this] { Timer1_Timer(); };
+}
 
 void frmSplash::Load() {
   ShapeWindow(*this, placement::Centered, true);
@@ -46,7 +46,7 @@ void frmSplash::Timer1_Timer() {
   // With the restricted partners the order form fetches the items it needs by itself.
   if (AppOptions.OrderInfoPartnersOnly == 0) {
     ShowStep("상품 목록을 읽는 중입니다.");
-    OpenRecordset(SlotC, ItemListStatement());
+    OpenItemList();
   }
   Close();
 }

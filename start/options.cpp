@@ -28,15 +28,16 @@ std::int16_t ReadNumberOption(const std::string& section, const std::string& key
 }
 
 void LoadOptions() {
-  AppOptions.DataServer = ReadOption(kOptionSection, "데이터서버");
-  AppOptions.BusinessServer = ReadOption(kOptionSection, "업무서버");
-  AppOptions.CompanyId = ReadOption(kOptionSection, "회사아이디");
-  AppOptions.BulkOrderPrice = ReadOption(kOptionSection, "일괄발주단가");
-  AppOptions.OrderZeroPrice = ReadNumberOption(kOptionSection, "단가[0]발주");
-  AppOptions.OrderInfoPartnersOnly = ReadNumberOption(kOptionSection, "발주정보거래처");
-  AppOptions.SkipZeroReceipt = ReadNumberOption(kOptionSection, "입고량0제외");
-  AppOptions.OrderType = ReadNumberOption(kOptionSection, "발주타입");
-  AppOptions.ShowMidCategory = ReadNumberOption(kOptionSection, "타입A중분류표기");
+  AppOptions.DataServer = ReadOption(kOptionSection, option::DataServer);
+  AppOptions.BusinessServer = ReadOption(kOptionSection, option::BusinessServer);
+  AppOptions.CompanyId = ReadOption(kOptionSection, option::CompanyId);
+  AppOptions.BulkOrderPrice = ReadOption(kOptionSection, option::BulkOrderPrice);
+  AppOptions.OrderZeroPrice = ReadNumberOption(kOptionSection, option::OrderZeroPrice);
+  AppOptions.OrderInfoPartnersOnly =
+      ReadNumberOption(kOptionSection, option::OrderInfoPartnersOnly);
+  AppOptions.SkipZeroReceipt = ReadNumberOption(kOptionSection, option::SkipZeroReceipt);
+  AppOptions.OrderType = ReadNumberOption(kOptionSection, option::OrderType);
+  AppOptions.ShowMidCategory = ReadNumberOption(kOptionSection, option::ShowMidCategory);
   AppOptions.DbUser = "kt";
   BuildConnectString(AppOptions.DataServer, AppOptions.DbUser, AppOptions.CompanyId);
   Host.SetPointer(PointerNormal);

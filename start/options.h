@@ -12,6 +12,20 @@ namespace store {
 /// The one section of the options file.
 inline constexpr const char* kOptionSection = "TARNWICK";
 
+/// The keys of the options, each named here only.
+namespace option {
+inline constexpr const char* DataServer = "데이터서버";
+inline constexpr const char* BusinessServer = "업무서버";
+inline constexpr const char* BusinessObject = "업무개체";
+inline constexpr const char* CompanyId = "회사아이디";
+inline constexpr const char* BulkOrderPrice = "일괄발주단가";
+inline constexpr const char* OrderZeroPrice = "단가[0]발주";
+inline constexpr const char* OrderInfoPartnersOnly = "발주정보거래처";
+inline constexpr const char* SkipZeroReceipt = "입고량0제외";
+inline constexpr const char* ShowMidCategory = "타입A중분류표기";
+inline constexpr const char* OrderType = "발주타입";
+}  // namespace option
+
 /// The value of a key, at most 254 bytes of code page 949; empty when the key is absent.
 std::string ReadOption(const std::string& section, const std::string& key);
 

@@ -32,13 +32,13 @@ std::string StoreStatement(const std::string& userStoreCode) {
   return Splice(
       " SELECT RCT.RCT_CODE,RCT_NAME,RCT_NO,RCTI_CPHONE,' ',RCT_SADDR1 ,RCT_SADDR2,RCT_GUBUN "
       " FROM   RCT LEFT JOIN RCTI ON RCT.RCT_CODE = RCTI.RCT_CODE "
-      " WHERE  RCT.RCT_CODE = '{0}'   ",
-      {userStoreCode});
+      " WHERE  RCT.RCT_CODE = '{store}'   ",
+      "store"_a = userStoreCode);
 }
 
 std::string DefaultDepotStatement(const std::string& storeCode) {
-  return Splice(" SELECT HCT_CODE,HCT_NAME FROM HCT WHERE RCT_CODE = '{0}' AND HCT_BAS ='1' ",
-                {storeCode});
+  return Splice(" SELECT HCT_CODE,HCT_NAME FROM HCT WHERE RCT_CODE = '{store}' AND HCT_BAS ='1' ",
+                "store"_a = storeCode);
 }
 
 // The rows of a read through `SqlText`.

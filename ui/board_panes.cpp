@@ -8,7 +8,6 @@
 #include <array>
 
 #include "board/frm_Start.h"
-#include "ui/bindings.h"
 #include "ui/board_window.h"
 #include "ui/grid_view.h"
 #include "ui/key_button.h"
@@ -75,14 +74,8 @@ class PairGrid {
 }  // namespace
 
 QWidget* BoardWindow::Notices() {
-  notices_ = new GridView(board_.FLEX0);
-  notices_->Events.DblClick = [this] { board_.FLEX0_DblClick(); };
+  notices_ = Named("FLEX0", new GridView(board_.FLEX0));
   notices_->setMinimumHeight(60);
-  BindGrid(*this, "FLEX0", board_.FLEX0, *notices_);
-  OnKey(board_.FLEX0, [this](Key key) {
-    if (key == Key::Enter) board_.FLEX0_DblClick();
-    return key == Key::Enter;
-  });
   auto* column = Column();
   column->addWidget(HeadingLabel("공지사항"));
   column->addWidget(notices_, 1);
@@ -91,7 +84,7 @@ QWidget* BoardWindow::Notices() {
 
 QWidget* BoardWindow::PartnerPane() {
   PairGrid pairs;
-  auto* details = new KeyButton("상세", Qt::Key_F4);
+  auto* details = Named("Image5", new KeyButton("상세", Qt::Key_F4));
   auto* heading = Row();
   heading->setContentsMargins(0, 0, 0, 0);
   heading->addWidget(HeadingLabel("거래처 정보"));
@@ -100,13 +93,9 @@ QWidget* BoardWindow::PartnerPane() {
   auto* top = new QWidget;
   top->setLayout(heading);
   pairs.Heading(top);
-  Bind("Image5", board_.Image5, *details);
-  connect(details, &QPushButton::clicked, this, [this] { Act([this] { board_.Image5_Click(); }); });
-  OnShortcut(details->Keys(), [details] { details->click(); });
   for (const auto& [caption, index] : kPartner) {
-    QLabel* value = ValueLabel();
-    pairs.Add(caption, value, &caption == &kPartner.back().Caption);
-    BindLabel(*this, QString("LaCT_%1").arg(index), board_.LaCT[index], *value);
+    pairs.Add(caption, Named(QString("LaCT_%1").arg(index), ValueLabel()),
+              &caption == &kPartner.back().Caption);
   }
   return Group("card", pairs.Layout());
 }
@@ -115,18 +104,16 @@ QWidget* BoardWindow::ConditionPane() {
   PairGrid pairs;
   pairs.Heading(HeadingLabel("거래 조건"));
   for (const auto& [caption, index] : kConditions) {
-    QLabel* value = ValueLabel();
-    pairs.Add(caption, value, false);
-    BindLabel(*this, QString("LaPM_%1").arg(index), board_.LaPM[index], *value);
+    pairs.Add(caption, Named(QString("LaPM_%1").arg(index), ValueLabel()), false);
   }
   return Group("card", pairs.Layout());
 }
 
 void BoardWindow::MakeNoticePane() {
-  auto* subject = new QLineEdit;
-  auto* body = new QPlainTextEdit;
-  QLabel* date = CaptionLabel({});
-  auto* close = new KeyButton("닫기", Qt::Key_Escape);
+  auto* subject = Named("Text1_0", new QLineEdit);
+  auto* body = Named("Text1_1", new QPlainTextEdit);
+  QLabel* date = Named("Label2", CaptionLabel({}));
+  auto* close = Named("Image3", new KeyButton("닫기", Qt::Key_Escape));
   subject->setReadOnly(true);
   subject->setFocusPolicy(Qt::ClickFocus);
   auto* top = Row();
@@ -136,14 +123,10 @@ void BoardWindow::MakeNoticePane() {
   column->addLayout(top);
   column->addWidget(body, 1);
   column->addWidget(close, 0, Qt::AlignRight);
-  noticePane_ = Group("popup", column);
+  noticePane_ = Named("Frame1", Group("popup", column));
   noticePane_->setParent(this);
   noticePane_->setAutoFillBackground(true);
-  BindTextBox(*this, "Text1_0", board_.Text1[0], *subject);
-  BindReadText(*this, "Text1_1", board_.Text1[1], *body);
-  BindLabel(*this, "Label2", board_.Label2, *date);
-  BindPress(*this, "Image3", board_.Image3, *close, [this] { board_.Image3_Click(); });
-  Bind("Frame1", board_.Frame1, *noticePane_, [this] {
+  AlsoSync([this] {
     if (noticePane_->isVisible()) PlaceNoticePane();
   });
 }

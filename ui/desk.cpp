@@ -109,18 +109,25 @@ void Desk::ShowModal(Form& form) {
   SyncWindows();
   QEventLoop loop;
   const QPointer<QWidget> owner = FrontWindow();
-  window->RunsIn(&loop, owner);
+  window->BeginModal(&loop, owner);
+  const bool again = window->HasBegun();
   window->ComeForward();
+  if (again) window->ActivateAgain();
   loop.exec();
-  // The form may lie on its caller's stack, so its window must be gone when the caller goes on.
-  std::erase(leaving_, window.data());
-  std::erase(open_, window.data());
-  delete window;
+  if (window->IsGone()) {
+    // The form may lie on its caller's stack, so its window must be gone when the caller goes on.
+    std::erase(leaving_, window.data());
+    std::erase(open_, window.data());
+    delete window;
+  }
   if (owner != nullptr && owner->isVisible()) owner->activateWindow();
 }
 
 void Desk::Hide(Form& form) {
-  if (FormWindow* window = WindowOf(form)) window->hide();
+  FormWindow* window = WindowOf(form);
+  if (window == nullptr) return;
+  window->hide();
+  window->EndModal();
 }
 
 void Desk::Minimize(Form& form) {

@@ -10,8 +10,10 @@
 #include <QWindow>
 #include <algorithm>
 
+#include "ui/binding.h"
 #include "ui/desk.h"
 #include "ui/grid_view.h"
+#include "ui/key_button.h"
 #include "ui/key_names.h"
 #include "ui/qt_text.h"
 
@@ -37,25 +39,38 @@ bool IsFunctionKey(const QKeyEvent& event) {
 
 FormWindow::FormWindow(Form& form) : form_(form) { setObjectName(ToQt(form.Name)); }
 
+FormWindow::~FormWindow() = default;
+
 void FormWindow::Act(const std::function<void()>& event) {
   if (gone_) return;
   for (GridView* grid : grids_) grid->TakeOverOpenCell();
   if (!gone_) Dispatch(event);
 }
 
-void FormWindow::Bind(const QString& name, Control& control, QWidget& widget,
-                      std::function<void()> sync) {
-  widget.setObjectName(name);
-  bound_.push_back({&control, &widget});
-  syncs_.push_back(std::move(sync));
+void FormWindow::BindControls() {
+  for (const auto& [name, control] : form_.Controls()) {
+    if (auto* timer = dynamic_cast<Timer*>(control)) {
+      BindTimer(*this, *timer);
+    } else if (auto* widget = findChild<QWidget*>(ToQt(name))) {
+      bindings_.push_back(Bind(*this, *control, *widget));
+    }
+  }
+  ChainTabOrder();
 }
 
-void FormWindow::OnKey(const Control& control, std::function<bool(Key)> handler) {
-  keys_.emplace_back(&control, std::move(handler));
+std::vector<std::string> FormWindow::ControlsWithoutWidget() const {
+  std::vector<std::string> without;
+  for (const auto& [name, control] : form_.Controls()) {
+    const bool isTimer = dynamic_cast<Timer*>(control) != nullptr;
+    if (!isTimer && WidgetOf(control) == nullptr) without.push_back(name);
+  }
+  return without;
 }
 
-void FormWindow::OnGotFocus(const Control& control, std::function<void()> handler) {
-  gotFocus_.emplace_back(&control, std::move(handler));
+void FormWindow::OnPress(KeyButton& button, std::function<void()> event) {
+  connect(&button, &QPushButton::clicked, this, [this, event = std::move(event)] { Act(event); });
+  // A key does no more than the button would: nothing while it is disabled.
+  if (!button.Keys().isEmpty()) OnShortcut(button.Keys(), [&button] { button.click(); });
 }
 
 void FormWindow::OnShortcut(const QKeySequence& keys, std::function<void()> event) {
@@ -74,6 +89,7 @@ void FormWindow::TakePlace() {
     setMask(RoundedRegion(width(), height()));
   }
   if (place.Positioned) move(place.Left, place.Top);
+  if (place.OnTop) setWindowFlag(Qt::WindowStaysOnTopHint);
   if (place.State == WindowState::Minimized) setWindowState(Qt::WindowMinimized);
   if (place.State == WindowState::Maximized) setWindowState(Qt::WindowMaximized);
 }
@@ -85,7 +101,7 @@ void FormWindow::ComeForward() {
   activateWindow();
 }
 
-void FormWindow::RunsIn(QEventLoop* loop, QWidget* owner) {
+void FormWindow::BeginModal(QEventLoop* loop, QWidget* owner) {
   loop_ = loop;
   setWindowModality(Qt::ApplicationModal);
   if (owner == nullptr) return;
@@ -93,11 +109,16 @@ void FormWindow::RunsIn(QEventLoop* loop, QWidget* owner) {
   windowHandle()->setTransientParent(owner->window()->windowHandle());
 }
 
+void FormWindow::EndModal() {
+  if (loop_ != nullptr) loop_->quit();
+  loop_ = nullptr;
+}
+
 void FormWindow::Leave() {
   gone_ = true;
   hide();
   for (QTimer* timer : findChildren<QTimer*>()) timer->stop();
-  if (loop_ != nullptr) loop_->quit();
+  EndModal();
 }
 
 void FormWindow::Sync() {
@@ -105,18 +126,9 @@ void FormWindow::Sync() {
   if (const QString caption = ToQt(form_.Caption); windowTitle() != caption) {
     setWindowTitle(caption);
   }
-  for (const Bound& bound : bound_) SyncCommon(bound);
+  for (const auto& binding : bindings_) binding->Follow();
   for (const auto& sync : syncs_) sync();
   FollowFocus();
-}
-
-void FormWindow::SyncCommon(const Bound& bound) {
-  const Control& control = *bound.control;
-  QWidget& widget = *bound.widget;
-  if (widget.isEnabledTo(this) != control.Enabled) widget.setEnabled(control.Enabled);
-  if (widget.isHidden() == control.Visible) widget.setVisible(control.Visible);
-  const QString tip = ToQt(control.ToolTipText);
-  if (widget.toolTip() != tip) widget.setToolTip(tip);
 }
 
 void FormWindow::FollowFocus() {
@@ -135,30 +147,31 @@ void FormWindow::FollowFocus() {
   if (wanted != nullptr) wanted->setFocus(Qt::OtherFocusReason);
 }
 
-const FormWindow::Bound* FormWindow::BoundAt(const QWidget& widget) const {
+const Binding* FormWindow::BindingAt(const QWidget& widget) const {
   for (const QWidget* at = &widget; at != nullptr && at != this; at = at->parentWidget()) {
-    const auto found = std::find_if(bound_.begin(), bound_.end(),
-                                    [&](const Bound& bound) { return bound.widget == at; });
-    if (found != bound_.end()) return &*found;
+    const auto found = std::find_if(bindings_.begin(), bindings_.end(),
+                                    [&](const auto& binding) { return binding->Shown() == at; });
+    if (found != bindings_.end()) return found->get();
   }
   return nullptr;
 }
 
 QWidget* FormWindow::WidgetOf(const Control* control) const {
-  const auto found = std::find_if(bound_.begin(), bound_.end(),
-                                  [&](const Bound& bound) { return bound.control == control; });
-  return found == bound_.end() ? nullptr : found->widget.data();
+  const auto found = std::find_if(bindings_.begin(), bindings_.end(), [&](const auto& binding) {
+    return &binding->Bound() == control;
+  });
+  return found == bindings_.end() ? nullptr : (*found)->Shown();
 }
 
 void FormWindow::FocusMoved(QWidget& to, bool fromThisWindow) {
   if (gone_) return;
-  const Bound* bound = BoundAt(to);
-  if (bound == nullptr) return;
-  const Control* before = form_.ActiveControl;
-  form_.ActiveControl = bound->control;
-  if (!fromThisWindow && before == bound->control) return;  // back from elsewhere
-  for (const auto& [control, handler] : gotFocus_) {
-    if (control == bound->control) Dispatch(handler);
+  const Binding* binding = BindingAt(to);
+  if (binding == nullptr) return;
+  const auto takeFocus = [&] { form_.TakeFocus(binding->Bound(), fromThisWindow); };
+  if (binding->Bound().GotFocus) {
+    Dispatch(takeFocus);
+  } else {
+    takeFocus();
   }
 }
 
@@ -176,25 +189,15 @@ bool FormWindow::KeyPressed(const QKeyEvent& event, QWidget& at) {
 
   if (key != Key::None) {
     bool used = false;
-    Act([&] { used = form_.KeyDown(key); });
-    if (used || gone_ || ControlTakes(key, at)) return true;
+    const Binding* binding = BindingAt(at);
+    Act([&] { used = form_.Press(key, binding == nullptr ? nullptr : &binding->Bound()); });
+    if (used || gone_) return true;
     if (IsButtonPress(key, at)) {
       static_cast<QAbstractButton&>(at).click();
       return true;
     }
   }
   return ShortcutTakes(event) || gone_;
-}
-
-bool FormWindow::ControlTakes(Key key, QWidget& at) {
-  const Bound* bound = BoundAt(at);
-  if (bound == nullptr) return false;
-  bool used = false;
-  for (const auto& [control, handler] : keys_) {
-    if (control != bound->control) continue;
-    Dispatch([&used, &takes = handler, key] { used = takes(key); });
-  }
-  return used || gone_;
 }
 
 bool FormWindow::ShortcutTakes(const QKeyEvent& event) {
@@ -224,6 +227,11 @@ bool FormWindow::event(QEvent* event) {
       break;
   }
   return handled;
+}
+
+void FormWindow::ActivateAgain() {
+  left_ = false;
+  QueueActivate();
 }
 
 void FormWindow::QueueActivate() {

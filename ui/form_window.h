@@ -1,9 +1,9 @@
 #pragma once
 
 #include <QKeySequence>
-#include <QPointer>
 #include <QWidget>
 #include <functional>
+#include <memory>
 #include <string>
 #include <utility>
 #include <vector>
@@ -15,13 +15,17 @@ class QKeyEvent;
 
 namespace store {
 
+class Binding;
 class GridView;
+class KeyButton;
 
 /// The window of one form: widgets that show the form's controls and turn what a person does into
-/// the form's events. The derived windows build the widgets and say which belongs to which control.
+/// the form's events. The derived windows are layout: they make the widgets and give each the name
+/// of its control.
 class FormWindow : public QWidget {
  public:
   explicit FormWindow(Form& form);
+  ~FormWindow() override;
 
   Form& ShownForm() const { return form_; }
 
@@ -29,27 +33,28 @@ class FormWindow : public QWidget {
   /// first, as when one types a quantity and presses the save key.
   void Act(const std::function<void()>& event);
 
-  /// Ties a widget to its control: enabled, visible and tool tip follow it, `sync` does the rest.
-  /// The widget bears the control's name.
-  void Bind(
-      const QString& name, Control& control, QWidget& widget, std::function<void()> sync = [] {});
   /// Something else that follows the form after each event.
   void AlsoSync(std::function<void()> sync) { syncs_.push_back(std::move(sync)); }
-  /// The control's own keys, after the form has seen them. True means that the key is used up.
-  void OnKey(const Control& control, std::function<bool(Key)> handler);
-  /// The control got the keyboard from another one of this window.
-  void OnGotFocus(const Control& control, std::function<void()> handler);
+  /// A button, and the key written on it, for an event of the form.
+  void OnPress(KeyButton& button, std::function<void()> event);
   /// A key, or a combination of keys, that works wherever the keyboard is in the window, unless the
   /// form or the control has used it up.
   void OnShortcut(const QKeySequence& keys, std::function<void()> event);
   /// A grid whose open cell is taken over by `Act`.
-  void HoldsGrid(GridView& grid) { grids_.push_back(&grid); }
+  void KeepOpenCellsOf(GridView& grid) { grids_.push_back(&grid); }
+  /// The names of published controls for which the layout has no widget.
+  std::vector<std::string> ControlsWithoutWidget() const;
 
   // For the desk.
   void TellSize();
   void TakePlace();
   void ComeForward();
-  void RunsIn(QEventLoop* loop, QWidget* owner);
+  /// The window is modal, in front of `owner`, and ends `loop` when its form closes or hides.
+  void BeginModal(QEventLoop* loop, QWidget* owner);
+  void EndModal();
+  bool IsModal() const { return loop_ != nullptr; }
+  bool IsGone() const { return gone_; }  ///< The form has closed.
+  void ActivateAgain();
   void Leave();
   void Sync();
   void FocusMoved(QWidget& to, bool fromThisWindow);
@@ -60,28 +65,22 @@ class FormWindow : public QWidget {
  protected:
   bool event(QEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
-  /// Called once, when all widgets are bound: the tab key walks as the form says.
-  void ChainTabOrder();
+  /// Called once, at the end of the layout: each control that the form publishes is tied to the
+  /// widget of its name, and the tab key walks as the form says.
+  void BindControls();
 
  private:
-  struct Bound {
-    Control* control;
-    QPointer<QWidget> widget;
-  };
-  const Bound* BoundAt(const QWidget& widget) const;
+  const Binding* BindingAt(const QWidget& widget) const;
   QWidget* WidgetOf(const Control* control) const;
-  void SyncCommon(const Bound& bound);
   void FollowFocus();
   void QueueActivate();
   bool InOpenCell(const QWidget& at) const;
-  bool ControlTakes(Key key, QWidget& at);
+  void ChainTabOrder();
   bool ShortcutTakes(const QKeyEvent& event);
 
   Form& form_;
-  std::vector<Bound> bound_;
+  std::vector<std::unique_ptr<Binding>> bindings_;
   std::vector<std::function<void()>> syncs_;
-  std::vector<std::pair<const Control*, std::function<bool(Key)>>> keys_;
-  std::vector<std::pair<const Control*, std::function<void()>>> gotFocus_;
   std::vector<std::pair<QKeySequence, std::function<void()>>> shortcuts_;
   std::vector<GridView*> grids_;
   QEventLoop* loop_ = nullptr;
@@ -91,5 +90,12 @@ class FormWindow : public QWidget {
   bool begun_ = false;
   bool left_ = false;  // for another window, not just for a box
 };
+
+/// A widget under the name of its control: "Text1", or "Text1_0" for a member of an array.
+template <class Widget>
+Widget* Named(const QString& name, Widget* widget) {
+  widget->setObjectName(name);
+  return widget;
+}
 
 }  // namespace store

@@ -2,6 +2,7 @@
 
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QToolTip>
 #include <algorithm>
 
 #include "ui/cell_editor.h"
@@ -57,6 +58,7 @@ GridView::GridView(Grid& grid, int lines, QWidget* parent)
   horizontalHeader()->setHighlightSections(false);
   horizontalHeader()->setMinimumSectionSize(kNarrowest);
   setAttribute(Qt::WA_InputMethodEnabled);
+  setMouseTracking(true);
   editor_->Left = [this](bool keep, int step) { CloseCell(keep, step); };
   connect(this, &QTableView::clicked, this, &GridView::Clicked);
   connect(this, &QTableView::doubleClicked, this, &GridView::DoubleClicked);
@@ -68,6 +70,8 @@ GridView::GridView(Grid& grid, int lines, QWidget* parent)
 // --- following the form
 
 void GridView::Follow() {
+  if (updatesEnabled() != grid_.Redraw) setUpdatesEnabled(grid_.Redraw);
+  if (!grid_.Redraw) return;
   const Flagged flagged(following_);
   if (model_.Follow()) {
     if (openRow_ != 0) CloseCell(false, 0);
@@ -75,6 +79,16 @@ void GridView::Follow() {
     FollowHiddenRows();
   }
   FollowCurrentCell();
+  FollowTopRow();
+}
+
+// What the form asks for is followed once; then the person may scroll on.
+void GridView::FollowTopRow() {
+  if (topRowSeen_ == grid_.TopRowRevision()) return;
+  topRowSeen_ = grid_.TopRowRevision();
+  executeDelayedItemsLayout();
+  updateGeometries();
+  scrollTo(model_.index(grid_.TopRow(), ShownColumn(0)), PositionAtTop);
 }
 
 void GridView::FollowColumns() {
@@ -192,6 +206,7 @@ void GridView::resizeEvent(QResizeEvent* event) {
 
 void GridView::scrollContentsBy(int dx, int dy) {
   QTableView::scrollContentsBy(dx, dy);
+  if (dy != 0) grid_.NoteTopRow(std::max(0, rowAt(0)));
   PlaceOpenCell();
 }
 
@@ -218,17 +233,33 @@ void GridView::focusInEvent(QFocusEvent* event) {
 void GridView::Clicked(const QModelIndex& index) {
   if (index.data(Qt::CheckStateRole).isValid()) {
     Toggle(index);
-  } else if (Events.Click) {
-    Dispatch(Events.Click);
+  } else if (grid_.Click) {
+    Dispatch(grid_.Click);
   }
 }
 
 void GridView::DoubleClicked(const QModelIndex& index) {
-  if (index.column() == grid_.EditableColumn) {
+  if (grid_.EntryColumn() >= 0 && index.column() == grid_.EntryColumn()) {
     OpenCell();
-  } else if (Events.DblClick) {
-    Dispatch(Events.DblClick);
+  } else if (grid_.DblClick) {
+    Dispatch(grid_.DblClick);
   }
+}
+
+// Each cell may have a tip of its own, which the form writes when the pointer comes to it.
+void GridView::mouseMoveEvent(QMouseEvent* event) {
+  QTableView::mouseMoveEvent(event);
+  const QModelIndex at = indexAt(event->position().toPoint());
+  if (!grid_.MouseMove || at == pointed_) return;
+  pointed_ = at;
+  if (!at.isValid()) return;
+  Dispatch([&] { grid_.MouseMove(model_.GridRow(at), at.column()); });
+  QToolTip::hideText();
+}
+
+void GridView::leaveEvent(QEvent* event) {
+  QTableView::leaveEvent(event);
+  pointed_ = QModelIndex();
 }
 
 // --- typing
@@ -249,7 +280,7 @@ void GridView::keyPressEvent(QKeyEvent* event) {
   }
   const int before = grid_.Row();
   QTableView::keyPressEvent(event);
-  if (grid_.Row() != before && Events.Walk) Dispatch(Events.Walk);
+  if (grid_.Row() != before && grid_.Walk) Dispatch(grid_.Walk);
 }
 
 void GridView::inputMethodEvent(QInputMethodEvent* event) {
@@ -265,32 +296,33 @@ QVariant GridView::inputMethodQuery(Qt::InputMethodQuery query) const {
 }
 
 void GridView::TypeText(const QString& text) {
-  if (grid_.EditableColumn >= 0) {
+  if (grid_.EntryColumn() >= 0) {
     OpenCell(text);
-  } else if (Events.KeyPress) {
-    Dispatch([&] { Events.KeyPress(FromQt(text)); });
+  } else if (grid_.KeyPress) {
+    Dispatch([&] { grid_.KeyPress(FromQt(text)); });
   }
 }
 
 bool GridView::MayEdit(int row, int column) {
   bool may = true;
-  if (Events.BeforeEdit) Dispatch([&] { may = Events.BeforeEdit(row, column); });
+  if (grid_.BeforeEdit) Dispatch([&] { may = grid_.BeforeEdit(row, column); });
   return may;
 }
 
 void GridView::Toggle(const QModelIndex& index) {
   const int row = model_.GridRow(index);
   const int column = index.column();
-  if (!MayEdit(row, column)) return;
+  if (!grid_.Columns()[static_cast<size_t>(column)].Editable || !MayEdit(row, column)) return;
   const bool ticked = index.data(Qt::CheckStateRole).toInt() == Qt::Checked;
   AcceptCell(row, column, ticked ? "0" : "-1", 0);
 }
 
 bool GridView::OpenCell(const QString& text) {
   const int row = grid_.Row();
-  const int column = grid_.EditableColumn;
+  const int column = grid_.EntryColumn();
   if (column < 0 || row < grid_.FixedRows() || !MayEdit(row, column)) return false;
   openRow_ = row;
+  openColumn_ = column;
   scrollTo(model_.IndexOf(row, column));
   PlaceOpenCell();
   editor_->setText(text.isEmpty() ? ToQt(grid_.TextMatrix(row, column)) : text);
@@ -302,7 +334,7 @@ bool GridView::OpenCell(const QString& text) {
 
 void GridView::PlaceOpenCell() {
   if (openRow_ == 0) return;
-  editor_->setGeometry(visualRect(model_.IndexOf(openRow_, grid_.EditableColumn)));
+  editor_->setGeometry(visualRect(model_.IndexOf(openRow_, openColumn_)));
 }
 
 bool GridView::IsOpenCell(const QWidget& widget) const {
@@ -318,7 +350,7 @@ void GridView::CloseCell(bool keep, int step) {
   const std::string typed = FromQt(editor_->text());
   if (editor_->hasFocus()) setFocus();
   editor_->hide();
-  const int column = grid_.EditableColumn;
+  const int column = openColumn_;
   const bool leftAsItWas = step == 0 && typed == grid_.TextMatrix(row, column);
   if (keep && !leftAsItWas) AcceptCell(row, column, typed, step);
 }
@@ -326,7 +358,7 @@ void GridView::CloseCell(bool keep, int step) {
 void GridView::AcceptCell(int row, int column, const std::string& typed, int step) {
   Dispatch([&] {
     grid_.SetTextMatrix(row, column, typed);
-    if (Events.AfterEdit) Events.AfterEdit(row, column);
+    if (grid_.AfterEdit) grid_.AfterEdit(row, column);
   });
   // What the form refused stays in front of the person.
   const bool accepted = grid_.TextMatrix(row, column) == typed;

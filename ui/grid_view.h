@@ -1,7 +1,7 @@
 #pragma once
 
+#include <QPersistentModelIndex>
 #include <QTableView>
-#include <functional>
 #include <map>
 #include <string>
 #include <unordered_set>
@@ -15,18 +15,6 @@ namespace store {
 
 class CellEditor;
 
-/// What a grid asks its form; each is optional.
-struct GridEvents {
-  std::function<void()> Click;
-  std::function<void()> DblClick;
-  /// A person moved to another row with the keyboard.
-  std::function<void()> Walk;
-  /// A character, or what an input method put together, typed where no cell can be edited.
-  std::function<void(const std::string& text)> KeyPress;
-  std::function<bool(int row, int col)> BeforeEdit;
-  std::function<void(int row, int col)> AfterEdit;
-};
-
 /// Shows a grid of a form and lets a person walk, click and type in it. Row heights are uniform and
 /// nothing is measured by row, so that a whole item list fills as fast as ten lines.
 class GridView : public QTableView {
@@ -34,7 +22,6 @@ class GridView : public QTableView {
   /// `lines` is the number of text lines in a row.
   explicit GridView(Grid& grid, int lines = 1, QWidget* parent = nullptr);
 
-  GridEvents Events;
   /// A tint behind a cell's text by what it says; an invalid colour for none.
   std::function<QColor(int column, const QString& text)> Tint;
   /// Marks the current cell alone instead of its row.
@@ -50,8 +37,8 @@ class GridView : public QTableView {
   bool IsOpenCell(const QWidget& widget) const;
   /// Takes over what stands in the open cell, if one is open.
   void TakeOverOpenCell();
-  /// Opens the editable cell of the current row with `text` in it, or with its own text selected.
-  /// False when the form does not let it.
+  /// Opens the cell of the current row that takes typing with `text` in it, or with its own text
+  /// selected. False when the form does not let it.
   bool OpenCell(const QString& text = {});
 
  protected:
@@ -62,6 +49,8 @@ class GridView : public QTableView {
   void resizeEvent(QResizeEvent* event) override;
   void scrollContentsBy(int dx, int dy) override;
   void focusInEvent(QFocusEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void leaveEvent(QEvent* event) override;
 
  private:
   void FollowColumns();
@@ -77,6 +66,7 @@ class GridView : public QTableView {
   void DoubleClicked(const QModelIndex& index);
   void TypeText(const QString& text);
   void Toggle(const QModelIndex& index);
+  void FollowTopRow();
   bool MayEdit(int row, int column);
   void CloseCell(bool keep, int step);
   void AcceptCell(int row, int column, const std::string& typed, int step);
@@ -93,6 +83,9 @@ class GridView : public QTableView {
   std::map<int, ColumnNeed> needs_;
   CellEditor* editor_;
   int openRow_ = 0;  // row of the open cell in the grid; 0 when none is open
+  int openColumn_ = -1;
+  unsigned topRowSeen_ = 0;
+  QPersistentModelIndex pointed_;  // the cell under the pointer
   bool marksRow_ = true;
   bool following_ = false;
   bool sharing_ = false;

@@ -4,18 +4,14 @@
 #include <QPainterPath>
 
 #include "basics/numbers.h"
+#include "order/history_pane.h"
 #include "ui/qt_text.h"
 #include "ui/style.h"
 
 namespace store {
 namespace {
 
-constexpr int kMonthRow = 1;
-constexpr int kDayRow = 2;
-constexpr int kBackRow = 3;
-constexpr int kQuantityRow = 4;
-constexpr int kFirstBarRow = 6;
-constexpr int kBarRows = 10;
+constexpr int kFirstBarRow = history::Offset + 1;
 constexpr int kWhite = 0xFFFFFF;
 constexpr int kNarrowColumn = 200;  // the grid's units; no figure fits below
 constexpr int kMargin = 6;
@@ -53,7 +49,7 @@ QSize HistoryChartView::sizeHint() const {
 // The form paints the rows above a day's bar white; those it leaves are the bar.
 int HistoryChartView::BarRows(int day) const {
   int rows = 0;
-  for (int row = kFirstBarRow; row < kFirstBarRow + kBarRows && row < grid_.Rows(); ++row) {
+  for (int row = kFirstBarRow; row < kFirstBarRow + history::BarRows && row < grid_.Rows(); ++row) {
     if (grid_.Look(row, day).BackColor != kWhite) ++rows;
   }
   return rows;
@@ -80,7 +76,7 @@ void HistoryChartView::paintEvent(QPaintEvent*) {
 void HistoryChartView::PaintHeading(QPainter& painter, const QRect& room) const {
   double sold = 0;
   for (int day = 1; day < grid_.Cols(); ++day) {
-    sold += ParseNumber(grid_.TextMatrix(kQuantityRow, day));
+    sold += ParseNumber(grid_.TextMatrix(history::Quantity, day));
   }
   QString total = ToQt(FormatNumber(sold, "#,##0.##"));
   QRect line(room.left(), room.top(), room.width(), fontMetrics().lineSpacing());
@@ -98,14 +94,14 @@ void HistoryChartView::PaintDay(QPainter& painter, int day, const QRect& column)
   const int datesHeight = narrow ? 0 : 3 * line;
   const int ground = column.bottom() - datesHeight;
   const int tallest = ground - column.top() - quantityHeight;
-  const int height = tallest * BarRows(day) / kBarRows;
+  const int height = tallest * BarRows(day) / history::BarRows;
   const int gap = narrow ? 1 : std::max(1, column.width() / 6);
   painter.setPen(QColor(look::Line));
   painter.drawLine(column.left(), ground, column.right(), ground);
   painter.fillRect(column.left() + gap, ground - height, column.width() - 2 * gap, height,
                    QColor(look::Accent));
   if (narrow) return;
-  const std::string& quantity = grid_.TextMatrix(kQuantityRow, day);
+  const std::string& quantity = grid_.TextMatrix(history::Quantity, day);
   painter.setPen(QColor(quantity == "0" ? look::Line : look::Ink));
   painter.drawText(
       QRect(column.left() - gap, ground - height - line, column.width() + 2 * gap, line),
@@ -117,17 +113,17 @@ void HistoryChartView::PaintDate(QPainter& painter, int day, const QRect& column
   const int line = fontMetrics().lineSpacing();
   const QRect cell(column.left(), top, column.width(), line);
   painter.setPen(QColor(look::Ink));
-  painter.drawText(cell, Qt::AlignCenter, ToQt(grid_.TextMatrix(kDayRow, day)));
+  painter.drawText(cell, Qt::AlignCenter, ToQt(grid_.TextMatrix(history::Day, day)));
   painter.setPen(QColor(look::Muted));
   // A month is written once, where it begins when one reads from the left.
-  const std::string& month = grid_.TextMatrix(kMonthRow, day);
-  if (day == 1 || month != grid_.TextMatrix(kMonthRow, day - 1)) {
+  const std::string& month = grid_.TextMatrix(history::Month, day);
+  if (day == 1 || month != grid_.TextMatrix(history::Month, day - 1)) {
     painter.drawText(QRect(cell.left(), cell.top() + line, cell.width() * 4, line),
                      Qt::AlignLeft | Qt::AlignVCenter,
-                     ToQt(grid_.TextMatrix(0, day)) + "." + ToQt(month));
+                     ToQt(grid_.TextMatrix(history::Year, day)) + "." + ToQt(month));
   }
   painter.drawText(cell.translated(0, 2 * line), Qt::AlignCenter,
-                   "-" + ToQt(grid_.TextMatrix(kBackRow, day)));
+                   "-" + ToQt(grid_.TextMatrix(history::DaysBack, day)));
 }
 
 }  // namespace store

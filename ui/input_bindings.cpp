@@ -6,9 +6,8 @@
 #include <QPlainTextEdit>
 #include <QRadioButton>
 #include <QSignalBlocker>
-#include <memory>
 
-#include "ui/bindings.h"
+#include "ui/binding.h"
 #include "ui/desk.h"
 #include "ui/form_window.h"
 #include "ui/qt_text.h"
@@ -17,96 +16,177 @@ namespace store {
 namespace {
 
 const QString kDateForm = QStringLiteral("yyyy-MM-dd");
+const char* const kStarInPlaceOfLetters = "lineedit-password-character: 42;";
 
-void FollowText(const TextBox& box, QLineEdit& edit) {
-  const QString text = ToQt(box.Text());
-  // Setting the text drops what an input method is putting together, so only when it differs.
-  if (edit.text() != text) edit.setText(text);
-}
+/// The form is told every committed text; what an input method is still putting together is not
+/// part of the text yet.
+class TextBinding : public Binding {
+ public:
+  TextBinding(FormWindow& window, TextBox& box, QLineEdit& edit)
+      : Binding(box, edit), box_(box), edit_(edit), selectionSeen_(box.SelectionRevision()) {
+    if (box.MaxLength > 0) edit.setMaxLength(box.MaxLength);
+    if (box.Masked) {
+      edit.setEchoMode(QLineEdit::Password);
+      edit.setStyleSheet(kStarInPlaceOfLetters);
+    }
+    QObject::connect(&edit, &QLineEdit::textEdited, &window, [this](const QString& text) {
+      const std::string typed = FromQt(text);
+      seen_.Differs(typed);
+      Dispatch([&] { box_.SetText(typed); });
+    });
+  }
 
-void FollowSelection(const TextBox& box, QLineEdit& edit) {
-  if (box.WantedSelection() == TextBox::Selection::All) edit.selectAll();
-  if (box.WantedSelection() == TextBox::Selection::End) edit.end(false);
+ private:
+  void FollowValue() override {
+    // Setting the text drops what an input method is putting together, so only when it differs.
+    if (seen_.Differs(box_.Text())) edit_.setText(ToQt(box_.Text()));
+    if (selectionSeen_ == box_.SelectionRevision()) return;
+    selectionSeen_ = box_.SelectionRevision();
+    if (box_.WantedSelection() == TextBox::Selection::All) edit_.selectAll();
+    if (box_.WantedSelection() == TextBox::Selection::End) edit_.end(false);
+  }
+  TextBox& box_;
+  QLineEdit& edit_;
+  SeenText seen_;
+  unsigned selectionSeen_;
+};
+
+/// A text of several lines that the form writes and the person reads.
+class ReadTextBinding : public Binding {
+ public:
+  ReadTextBinding(TextBox& box, QPlainTextEdit& edit) : Binding(box, edit), box_(box), edit_(edit) {
+    edit.setReadOnly(true);
+  }
+
+ private:
+  void FollowValue() override {
+    if (seen_.Differs(box_.Text())) edit_.setPlainText(ShownLines(box_.Text()));
+  }
+  const TextBox& box_;
+  QPlainTextEdit& edit_;
+  SeenText seen_;
+};
+
+class ComboBinding : public Binding {
+ public:
+  ComboBinding(FormWindow& window, ComboBox& combo, QComboBox& list)
+      : Binding(combo, list), combo_(combo), list_(list) {
+    QObject::connect(&list, &QComboBox::activated, &window,
+                     [&combo](int index) { Dispatch([&] { combo.SetListIndex(index); }); });
+  }
+
+ private:
+  void FollowValue() override {
+    if (seen_ == combo_.Revision()) return;
+    seen_ = combo_.Revision();
+    list_.clear();
+    for (const std::string& entry : combo_.List()) list_.addItem(ShownEntry(entry));
+    list_.setCurrentIndex(combo_.ListIndex());
+  }
+  const ComboBox& combo_;
+  QComboBox& list_;
+  unsigned seen_ = 0;
+};
+
+class DateBinding : public Binding {
+ public:
+  DateBinding(FormWindow& window, DatePicker& picker, QDateEdit& edit)
+      : Binding(picker, edit), picker_(picker), edit_(edit) {
+    edit.setDisplayFormat(kDateForm);
+    edit.setCalendarPopup(true);
+    // The earliest date stands for a text that is no date, and shows as a blank.
+    edit.setSpecialValueText(QStringLiteral(" "));
+    QObject::connect(&edit, &QDateEdit::dateChanged, &window, [this](const QDate& date) {
+      const std::string chosen = FromQt(date.toString(kDateForm));
+      seen_.Differs(chosen);
+      Dispatch([&] { picker_.SetValue(chosen); });
+    });
+  }
+
+ private:
+  void FollowValue() override {
+    if (!seen_.Differs(picker_.Value())) return;
+    const QDate date = QDate::fromString(ToQt(picker_.Value()), kDateForm);
+    const QSignalBlocker quiet(&edit_);
+    edit_.setDate(date.isValid() ? date : edit_.minimumDate());
+  }
+  DatePicker& picker_;
+  QDateEdit& edit_;
+  SeenText seen_;
+};
+
+class CheckBinding : public Binding {
+ public:
+  CheckBinding(FormWindow& window, CheckBox& check, QCheckBox& box)
+      : Binding(check, box), check_(check), box_(box) {
+    QObject::connect(&box, &QCheckBox::clicked, &window, [&window, &check](bool ticked) {
+      window.Act([&] {
+        check.Value = ticked ? 1 : 0;
+        if (check.Click) check.Click();
+      });
+    });
+  }
+
+ private:
+  void FollowValue() override {
+    if (seen_.Differs(check_.Caption)) box_.setText(ToQt(check_.Caption));
+    if (box_.isChecked() != (check_.Value != 0)) box_.setChecked(check_.Value != 0);
+  }
+  const CheckBox& check_;
+  QCheckBox& box_;
+  SeenText seen_;
+};
+
+class OptionBinding : public Binding {
+ public:
+  OptionBinding(FormWindow& window, OptionButton& option, QRadioButton& radio)
+      : Binding(option, radio), option_(option), radio_(radio) {
+    const QString letter = radio.property(kLetterProperty).toString();
+    if (!letter.isEmpty()) mark_ = " (&" + letter + ")";
+    QObject::connect(&radio, &QRadioButton::clicked, &window, [&window, &option] {
+      window.Act([&option] {
+        if (option.Click) option.Click();
+      });
+    });
+  }
+
+ private:
+  void FollowValue() override {
+    if (seen_.Differs(option_.Caption)) radio_.setText(ToQt(option_.Caption) + mark_);
+    if (radio_.isChecked() == option_.Value) return;
+    // In a group nothing can be switched off by itself; here the form keeps the group.
+    radio_.setAutoExclusive(false);
+    radio_.setChecked(option_.Value);
+    radio_.setAutoExclusive(true);
+  }
+  const OptionButton& option_;
+  QRadioButton& radio_;
+  QString mark_;
+  SeenText seen_;
+};
+
+/// The binding of a control and a widget that are of these kinds; nothing when one is not.
+template <class Kind, class Shown, class Made>
+std::unique_ptr<Binding> BindKinds(FormWindow& window, Control& control, QWidget& widget) {
+  auto* of = dynamic_cast<Kind*>(&control);
+  auto* shown = qobject_cast<Shown*>(&widget);
+  if (of == nullptr || shown == nullptr) return nullptr;
+  return std::make_unique<Made>(window, *of, *shown);
 }
 
 }  // namespace
 
-void BindTextBox(FormWindow& window, const QString& name, TextBox& box, QLineEdit& edit) {
-  if (box.MaxLength > 0) edit.setMaxLength(box.MaxLength);
-  if (box.Masked) edit.setEchoMode(QLineEdit::Password);
-  auto seen = std::make_shared<unsigned>(box.SelectionRevision());
-  window.Bind(name, box, edit, [&box, &edit, seen] {
-    FollowText(box, edit);
-    if (*seen == box.SelectionRevision()) return;
-    *seen = box.SelectionRevision();
-    FollowSelection(box, edit);
-  });
-  QObject::connect(&edit, &QLineEdit::textEdited, &window,
-                   [&box](const QString& text) { Dispatch([&] { box.SetText(FromQt(text)); }); });
-}
-
-void BindReadText(FormWindow& window, const QString& name, TextBox& box, QPlainTextEdit& edit) {
-  edit.setReadOnly(true);
-  window.Bind(name, box, edit, [&box, &edit] {
-    const QString text = ShownLines(box.Text());
-    if (edit.toPlainText() != text) edit.setPlainText(text);
-  });
-}
-
-void BindComboBox(FormWindow& window, const QString& name, ComboBox& combo, QComboBox& list) {
-  auto seen = std::make_shared<unsigned>(0);
-  window.Bind(name, combo, list, [&combo, &list, seen] {
-    if (*seen == combo.Revision()) return;
-    *seen = combo.Revision();
-    list.clear();
-    for (const std::string& entry : combo.List()) list.addItem(ShownEntry(entry));
-    list.setCurrentIndex(combo.ListIndex());
-  });
-  QObject::connect(&list, &QComboBox::activated, &window,
-                   [&combo](int index) { Dispatch([&] { combo.SetListIndex(index); }); });
-}
-
-void BindDatePicker(FormWindow& window, const QString& name, DatePicker& picker, QDateEdit& edit) {
-  edit.setDisplayFormat(kDateForm);
-  edit.setCalendarPopup(true);
-  // The earliest date stands for a text that is no date, and shows as a blank.
-  edit.setSpecialValueText(QStringLiteral(" "));
-  window.Bind(name, picker, edit, [&picker, &edit] {
-    const QDate date = QDate::fromString(ToQt(picker.Value()), kDateForm);
-    const QDate shown = date.isValid() ? date : edit.minimumDate();
-    if (edit.date() == shown) return;
-    const QSignalBlocker quiet(edit);
-    edit.setDate(shown);
-  });
-  QObject::connect(&edit, &QDateEdit::dateChanged, &window, [&picker](const QDate& date) {
-    Dispatch([&] { picker.SetValue(FromQt(date.toString(kDateForm))); });
-  });
-}
-
-void BindCheckBox(FormWindow& window, const QString& name, CheckBox& check, QCheckBox& box) {
-  window.Bind(name, check, box, [&check, &box] {
-    const QString caption = ToQt(check.Caption);
-    if (box.text() != caption) box.setText(caption);
-    if (box.isChecked() != (check.Value != 0)) box.setChecked(check.Value != 0);
-  });
-  QObject::connect(&box, &QCheckBox::clicked, &window,
-                   [&check](bool ticked) { Dispatch([&] { check.Value = ticked ? 1 : 0; }); });
-}
-
-void BindOption(FormWindow& window, const QString& name, OptionButton& option, QRadioButton& radio,
-                std::function<void()> click, const QString& letter) {
-  const QString mark = letter.isEmpty() ? QString() : " (&" + letter + ")";
-  window.Bind(name, option, radio, [&option, &radio, mark] {
-    const QString text = ToQt(option.Caption) + mark;
-    if (radio.text() != text) radio.setText(text);
-    if (radio.isChecked() == option.Value) return;
-    // In a group nothing can be switched off by itself; here the form keeps the group.
-    radio.setAutoExclusive(false);
-    radio.setChecked(option.Value);
-    radio.setAutoExclusive(true);
-  });
-  QObject::connect(&radio, &QRadioButton::clicked, &window,
-                   [&window, click = std::move(click)] { window.Act(click); });
+std::unique_ptr<Binding> BindInput(FormWindow& window, Control& control, QWidget& widget) {
+  if (auto* read = qobject_cast<QPlainTextEdit*>(&widget)) {
+    auto* box = dynamic_cast<TextBox*>(&control);
+    return box == nullptr ? nullptr : std::make_unique<ReadTextBinding>(*box, *read);
+  }
+  auto bound = BindKinds<TextBox, QLineEdit, TextBinding>(window, control, widget);
+  if (!bound) bound = BindKinds<ComboBox, QComboBox, ComboBinding>(window, control, widget);
+  if (!bound) bound = BindKinds<DatePicker, QDateEdit, DateBinding>(window, control, widget);
+  if (!bound) bound = BindKinds<CheckBox, QCheckBox, CheckBinding>(window, control, widget);
+  if (!bound) bound = BindKinds<OptionButton, QRadioButton, OptionBinding>(window, control, widget);
+  return bound;
 }
 
 }  // namespace store

@@ -1,28 +1,25 @@
 #include "ui/instance_lock.h"
 
-#include <QCryptographicHash>
-#include <QDir>
-
-#include "ui/qt_text.h"
+#include <fcntl.h>
+#include <sys/file.h>
+#include <unistd.h>
 
 namespace store {
-namespace {
 
-QString LockPath(const std::string& programPath) {
-  const QString runtimeFolder = qEnvironmentVariable("XDG_RUNTIME_DIR");
-  const QString folder = runtimeFolder.isEmpty() ? QDir::tempPath() : runtimeFolder;
-  // Where users share a folder, nobody can clear away what another one's crash has left.
-  const QByteArray who = programPath.c_str() + QDir::homePath().toUtf8();
-  const QString name = QCryptographicHash::hash(who, QCryptographicHash::Sha1).toHex();
-  return folder + "/store_client-" + name + ".lock";
+InstanceLock::~InstanceLock() {
+  if (file_ >= 0) close(file_);
 }
 
-}  // namespace
-
-InstanceLock::InstanceLock(const std::string& programPath) : file_(LockPath(programPath)) {
-  file_.setStaleLockTime(0);  // a run may last for days; only a dead one gives way
+bool InstanceLock::Holds() {
+  if (file_ >= 0) return true;
+  const int file = open(programPath_.c_str(), O_RDONLY | O_CLOEXEC);
+  if (file < 0) return true;
+  if (flock(file, LOCK_EX | LOCK_NB) != 0) {
+    close(file);
+    return false;
+  }
+  file_ = file;
+  return true;
 }
-
-bool InstanceLock::Holds() { return file_.isLocked() || file_.tryLock(0); }
 
 }  // namespace store

@@ -34,6 +34,18 @@ QLabel* TotalLabel() {
   return label;
 }
 
+void AddTotals(QHBoxLayout& row, const std::array<const char*, 4>& captions) {
+  constexpr size_t kTotal = 1;
+  constexpr int kGap = 12;
+  for (const size_t index : {size_t{0}, size_t{2}, size_t{3}, kTotal}) {
+    QLabel* amount = index == kTotal ? TotalLabel() : new QLabel;
+    amount->setObjectName(QString("LaAmt_%1").arg(index));
+    row.addWidget(CaptionLabel(captions[index]));
+    row.addWidget(amount);
+    row.addSpacing(kGap);
+  }
+}
+
 QFrame* Group(const QString& role, QLayout* content) {
   auto* frame = new QFrame;
   frame->setProperty("role", role);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <array>
 
 class QFrame;
 class QHBoxLayout;
@@ -17,6 +18,10 @@ QLabel* HeadingLabel(const QString& text);
 /// A place for a text that the form writes; cut at its end when it does not fit.
 QLabel* ValueLabel();
 QLabel* TotalLabel();
+
+/// The four totals of a slip, in a row: the captions of "LaAmt_0" to "LaAmt_3", which are count,
+/// total with tax, supply amount and VAT. The total comes last and large.
+void AddTotals(QHBoxLayout& row, const std::array<const char*, 4>& captions);
 
 /// A framed group of things. `role` is "card", "totals", "popup" or "band".
 QFrame* Group(const QString& role, QLayout* content);

@@ -8,7 +8,6 @@
 #include "forms/host.h"
 #include "start/frmLogin.h"
 #include "ui/band_painter.h"
-#include "ui/bindings.h"
 #include "ui/key_button.h"
 #include "ui/layout_pieces.h"
 #include "ui/qt_text.h"
@@ -23,20 +22,20 @@ constexpr int kBandHeight = 84;
 
 LoginWindow::LoginWindow(frmLogin& form) : FormWindow(form) {
   setFixedSize(kSize);
-  BindFields(form);
-  ChainTabOrder();
+  LayOut();
+  BindControls();
 }
 
-void LoginWindow::BindFields(frmLogin& form) {
-  auto* user = new QLineEdit;
-  auto* password = new QLineEdit;
-  auto* ok = new KeyButton({}, Qt::Key_Enter);
-  auto* cancel = new KeyButton({}, Qt::Key_Escape);
+void LoginWindow::LayOut() {
+  auto* user = Named("txtUserName", new QLineEdit);
+  auto* password = Named("txtPassword", new QLineEdit);
+  auto* ok = Named("cmdOK", new KeyButton({}, Qt::Key_Enter));
+  auto* cancel = Named("cmdCancel", new KeyButton({}, Qt::Key_Escape));
   auto* options = new KeyButton("연결설정", Qt::Key_F10);
   ok->setFocusPolicy(Qt::TabFocus);
   cancel->setFocusPolicy(Qt::TabFocus);
   ok->MarkMain();
-  // The password is a row of dots; hangul must not be put together under it.
+  // The password is a row of stars; hangul must not be put together under it.
   password->setInputMethodHints(Qt::ImhHiddenText | Qt::ImhNoPredictiveText);
 
   auto* fields = new QGridLayout;
@@ -58,20 +57,7 @@ void LoginWindow::BindFields(frmLogin& form) {
   content->addLayout(buttons);
   setLayout(content);
 
-  BindTextBox(*this, "txtUserName", form.txtUserName, *user);
-  BindTextBox(*this, "txtPassword", form.txtPassword, *password);
-  BindPress(*this, "cmdOK", form.cmdOK, *ok, [&form] { form.cmdOK_Click(); });
-  BindPress(*this, "cmdCancel", form.cmdCancel, *cancel, [&form] { form.cmdCancel_Click(); });
-  connect(options, &QPushButton::clicked, this,
-          [&] { Act([&] { ShownForm().KeyDown(Key::F10); }); });
-  OnKey(form.txtUserName, [&form](Key key) {
-    form.txtUserName_KeyPress(key);
-    return key == Key::Enter;
-  });
-  OnKey(form.txtPassword, [&form](Key key) {
-    form.txtPassword_KeyPress(key);
-    return key == Key::Enter;
-  });
+  OnPress(*options, [this] { ShownForm().KeyDown(Key::F10); });
 }
 
 void LoginWindow::paintEvent(QPaintEvent*) {

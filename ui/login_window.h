@@ -15,7 +15,7 @@ class LoginWindow : public FormWindow {
   void paintEvent(QPaintEvent* event) override;
 
  private:
-  void BindFields(frmLogin& form);
+  void LayOut();
 };
 
 }  // namespace store

@@ -2,11 +2,8 @@
 
 #include "ui/form_window.h"
 
-class QHBoxLayout;
-
 namespace store {
 
-class Button;
 class LookupForm;
 
 /// The window of every lookup form: a search line, tabs by initial consonant where the form has
@@ -16,14 +13,9 @@ class LookupWindow : public FormWindow {
   explicit LookupWindow(LookupForm& form);
 
  private:
-  QWidget* SearchLine();
+  static QWidget* SearchLine();
   QWidget* Tabs();
-  void WalkTabs(int step);
-  QWidget* Matches();
   QWidget* Foot();
-  void AddButtons(QHBoxLayout& row);
-  void AddButton(QHBoxLayout& row, const QString& name, Button& button,
-                 std::function<void()> click);
 
   LookupForm& lookup_;
 };

@@ -3,6 +3,7 @@
 #include <QMessageBox>
 #include <QPainter>
 #include <QPushButton>
+#include <array>
 
 #include "forms/host.h"
 #include "ui/desk.h"
@@ -13,7 +14,7 @@ namespace store {
 namespace {
 
 constexpr int kIconSize = 36;
-constexpr int kIcons = box::Critical | box::Question | box::Information;
+constexpr int kIcons = box::Critical | box::Question | box::Warning | box::Information;
 
 struct Sign {
   QRgb Colour;
@@ -23,6 +24,8 @@ struct Sign {
 Sign SignOf(int style) {
   switch (style & kIcons) {
     case box::Critical:
+      return {look::Warning, "!"};
+    case box::Warning:
       return {look::Warning, "!"};
     case box::Question:
       return {look::Accent, "?"};
@@ -51,6 +54,18 @@ QPixmap IconOf(int style, double scale) {
   return icon;
 }
 
+struct Choice {
+  QString Text;
+  int Answer = 0;
+};
+
+/// The buttons of a style, the one that Enter presses first; Esc presses the last.
+std::array<Choice, 2> ChoicesOf(int style) {
+  if ((style & box::YesNo) != 0) return {{{"예(&Y)", box::Yes}, {"아니오(&N)", box::No}}};
+  if ((style & box::OkCancel) != 0) return {{{"확인", box::Ok}, {"취소", box::Cancel}}};
+  return {{{"확인", box::Ok}, {}}};
+}
+
 }  // namespace
 
 int ShowMessage(const std::string& text, int style, const std::string& title) {
@@ -63,21 +78,18 @@ int ShowMessage(const std::string& text, int style, const std::string& title) {
   message.setTextFormat(Qt::PlainText);
   message.setText(ShownLines(text));
   message.setIconPixmap(IconOf(style, message.devicePixelRatioF()));
-  QPushButton* yes = nullptr;
-  if ((style & box::YesNo) != 0) {
-    yes = message.addButton(QObject::tr("예(&Y)"), QMessageBox::YesRole);
-    QPushButton* no = message.addButton(QObject::tr("아니오(&N)"), QMessageBox::NoRole);
-    message.setDefaultButton(yes);
-    message.setEscapeButton(no);
-  } else {
-    message.addButton(QObject::tr("확인"), QMessageBox::AcceptRole);
+  const std::array<Choice, 2> choices = ChoicesOf(style);
+  std::array<QPushButton*, 2> buttons{};
+  for (size_t i = 0; i < choices.size() && !choices[i].Text.isEmpty(); ++i) {
+    buttons[i] = message.addButton(choices[i].Text, QMessageBox::ActionRole);
+    message.setEscapeButton(buttons[i]);
   }
+  message.setDefaultButton(buttons[0]);
   desk.BoxOpened();
   message.exec();
   if (behind != nullptr) behind->activateWindow();
   desk.BoxClosed();
-  if (yes == nullptr) return box::Ok;
-  return message.clickedButton() == yes ? box::Yes : box::No;
+  return message.clickedButton() == buttons[1] ? choices[1].Answer : choices[0].Answer;
 }
 
 }  // namespace store

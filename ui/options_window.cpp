@@ -10,7 +10,6 @@
 #include <QVBoxLayout>
 
 #include "start/frmOptions.h"
-#include "ui/bindings.h"
 #include "ui/key_button.h"
 #include "ui/layout_pieces.h"
 
@@ -21,80 +20,56 @@ constexpr int kWidth = 520;
 
 }  // namespace
 
-OptionsWindow::OptionsWindow(frmOptions& form) : FormWindow(form), options_(form) {
+OptionsWindow::OptionsWindow(frmOptions& form) : FormWindow(form) {
   auto* content = Column();
   content->addWidget(ConnectionFields());
   content->addWidget(Choices());
-  content->addWidget(OrderTypes());
+  content->addWidget(OrderTypes(static_cast<int>(form.SSOption1.size())));
   for (size_t i = 0; i < form.Label2.size(); ++i) {
-    QLabel* note = CaptionLabel({});
-    content->addWidget(note);
-    BindLabel(*this, QString("Label2_%1").arg(i), form.Label2[i], *note);
+    content->addWidget(Named(QString("Label2_%1").arg(i), CaptionLabel({})));
   }
   content->addStretch();
   content->addWidget(Buttons());
   FillWindow(*this, content);
-  ChainTabOrder();
+  BindControls();
   resize(kWidth, sizeHint().height());
 }
 
 QWidget* OptionsWindow::ConnectionFields() {
   auto* fields = new QGridLayout;
   fields->setHorizontalSpacing(10);
-  int line = 0;
-  const auto place = [&](size_t index, QWidget* field) {
-    QLabel* caption = CaptionLabel({});
-    BindLabel(*this, QString("Label1_%1").arg(index), options_.Label1[index], *caption);
-    fields->addWidget(caption, line, 0);
-    fields->addWidget(field, line++, 1);
+  const auto place = [&](int index, QWidget* field) {
+    const int line = fields->rowCount();
+    fields->addWidget(Named(QString("Label1_%1").arg(index), CaptionLabel({})), line, 0);
+    fields->addWidget(field, line, 1);
   };
   for (const int index : {0, 1, 2, 4}) {
-    const auto at = static_cast<size_t>(index);
-    auto* edit = new QLineEdit;
-    place(at, edit);
-    BindTextBox(*this, QString("Text1_%1").arg(index), options_.Text1[at], *edit);
-    OnKey(options_.Text1[at], [this, index](Key key) {
-      options_.Text1_KeyPress(index, key);
-      return key == Key::Enter;
-    });
+    place(index, Named(QString("Text1_%1").arg(index), new QLineEdit));
   }
-  auto* policy = new QComboBox;
-  place(3, policy);
-  BindComboBox(*this, "Combo1", options_.Combo1, *policy);
+  place(3, Named("Combo1", new QComboBox));
   return Group("card", fields);
 }
 
 QWidget* OptionsWindow::Choices() {
   auto* column = Column();
-  const auto add = [&](const char* name, CheckBox& check) {
-    auto* box = new QCheckBox;
-    column->addWidget(box);
-    BindCheckBox(*this, name, check, *box);
-  };
-  add("Check1", options_.Check1);
-  add("Check2", options_.Check2);
-  add("Check3", options_.Check3);
-  add("Check4", options_.Check4);
+  for (const char* check : {"Check1", "Check2", "Check3", "Check4"}) {
+    column->addWidget(Named(check, new QCheckBox));
+  }
   return Group("card", column);
 }
 
-QWidget* OptionsWindow::OrderTypes() {
+QWidget* OptionsWindow::OrderTypes(int count) {
   auto* types = new QGridLayout;
   types->addWidget(HeadingLabel("발주타입"), 0, 0, 1, 2);
-  for (size_t i = 0; i < options_.SSOption1.size(); ++i) {
-    OptionButton& option = options_.SSOption1[i];
-    auto* radio = new QRadioButton;
-    const int at = static_cast<int>(i);
-    types->addWidget(radio, 1 + at / 2, at % 2);
-    BindOption(*this, QString("SSOption1_%1").arg(at), option, *radio,
-               [this, at] { options_.SSOption1_Click(at); });
+  for (int i = 0; i < count; ++i) {
+    types->addWidget(Named(QString("SSOption1_%1").arg(i), new QRadioButton), 1 + i / 2, i % 2);
   }
   return Group("card", types);
 }
 
 QWidget* OptionsWindow::Buttons() {
-  auto* apply = new KeyButton({}, Qt::Key_F9);
-  auto* cancel = new KeyButton({}, Qt::Key_Escape);
+  auto* apply = Named("cmdApply", new KeyButton({}, Qt::Key_F9));
+  auto* cancel = Named("cmdCancel", new KeyButton({}, Qt::Key_Escape));
   for (KeyButton* button : {apply, cancel}) button->setFocusPolicy(Qt::TabFocus);
   apply->MarkMain();
   auto* row = Row();
@@ -104,9 +79,6 @@ QWidget* OptionsWindow::Buttons() {
   row->addWidget(cancel);
   auto* buttons = new QWidget;
   buttons->setLayout(row);
-  BindPress(*this, "cmdApply", options_.cmdApply, *apply, [this] { options_.cmdApply_Click(); });
-  BindPress(*this, "cmdCancel", options_.cmdCancel, *cancel,
-            [this] { options_.cmdCancel_Click(); });
   return buttons;
 }
 

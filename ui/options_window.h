@@ -14,12 +14,10 @@ class OptionsWindow : public FormWindow {
   explicit OptionsWindow(frmOptions& form);
 
  private:
-  QWidget* ConnectionFields();
-  QWidget* Choices();
-  QWidget* OrderTypes();
-  QWidget* Buttons();
-
-  frmOptions& options_;
+  static QWidget* ConnectionFields();
+  static QWidget* Choices();
+  static QWidget* OrderTypes(int count);
+  static QWidget* Buttons();
 };
 
 }  // namespace store

@@ -28,12 +28,11 @@ class OrderWindow : public FormWindow {
   void WalkToPickList();
   QWidget* History();
   QWidget* Foot();
-  void AddTotal(QHBoxLayout& row, const QString& caption, size_t index, bool big);
   void FollowHistory();
 
   OrderForm& order_;
   HistoryChartView* history_ = nullptr;
-  std::string historyOf_;  // the quantities last drawn
+  std::string historyOf_;  // the item last drawn
 };
 
 }  // namespace store

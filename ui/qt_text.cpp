@@ -1,13 +1,8 @@
 #include "ui/qt_text.h"
 
+#include "basics/text.h"
+
 namespace store {
-namespace {
-
-constexpr std::string_view kBlanksBeforeCode = "                              ";
-static_assert(kBlanksBeforeCode.size() == 30);
-
-}  // namespace
-
 QString ToQt(std::string_view text) {
   return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
@@ -20,8 +15,6 @@ QString ShownLines(std::string_view text) {
   return shown;
 }
 
-QString ShownEntry(std::string_view entry) {
-  return ToQt(entry.substr(0, entry.find(kBlanksBeforeCode))).trimmed();
-}
+QString ShownEntry(std::string_view entry) { return ToQt(NameOfEntry(entry)); }
 
 }  // namespace store

@@ -26,9 +26,10 @@ void ScreenSize(int& width, int& height) {
 }
 
 void SetPointer(int pointer) {
-  const bool waits = QGuiApplication::overrideCursor() != nullptr;
-  if (pointer == PointerHourglass && !waits) QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-  if (pointer == PointerNormal && waits) QGuiApplication::restoreOverrideCursor();
+  if (QGuiApplication::overrideCursor() != nullptr) QGuiApplication::restoreOverrideCursor();
+  if (pointer == PointerArrow) QGuiApplication::setOverrideCursor(Qt::ArrowCursor);
+  if (pointer == PointerHourglass) QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+  if (pointer == PointerArrowHourglass) QGuiApplication::setOverrideCursor(Qt::BusyCursor);
 }
 
 // What a person types or clicks meanwhile waits: a running event must not be overtaken by the next.
@@ -50,12 +51,30 @@ bool OpenAddress(const std::string& address) {
   return QDesktopServices::openUrl(isPath ? QUrl::fromLocalFile(text) : QUrl(text));
 }
 
-bool StartProgram(const std::string& path, const std::string& arguments) {
-  return QProcess::startDetached(ToQt(path), QProcess::splitCommand(ToQt(arguments)));
+// No desktop of this kind lets one program say how another's window opens; elsewhere the state goes
+// with the start.
+bool StartProgram(const std::string& path, const std::string& arguments,
+                  [[maybe_unused]] WindowState state) {
+  QProcess program;
+  program.setProgram(ToQt(path));
+  program.setArguments(QProcess::splitCommand(ToQt(arguments)));
+#ifdef Q_OS_WIN
+  program.setCreateProcessArgumentsModifier([state](QProcess::CreateProcessArguments* start) {
+    constexpr unsigned long kUseShowWindow = 1;
+    constexpr unsigned short kNormal = 1;
+    constexpr unsigned short kMinimized = 2;
+    constexpr unsigned short kMaximized = 3;
+    start->startupInfo->dwFlags |= kUseShowWindow;
+    start->startupInfo->wShowWindow = state == WindowState::Minimized   ? kMinimized
+                                      : state == WindowState::Maximized ? kMaximized
+                                                                        : kNormal;
+  });
+#endif
+  return program.startDetached();
 }
 
 QSettings SettingsOf(const std::string& application) {
-  return {QSettings::IniFormat, QSettings::UserScope, QStringLiteral("Tarnwick"),
+  return {QSettings::IniFormat, QSettings::UserScope, QStringLiteral("TARNWICK"),
           ToQt(application)};
 }
 
@@ -106,7 +125,7 @@ void OpenRealHost() {
   OpenWindows();
   OpenWorkstation();
   Host.ProgramFolder = FromQt(QCoreApplication::applicationDirPath());
-  Host.ProgramTitle = "Tarnwick발주시스템";
+  Host.ProgramTitle = "TARNWICK";
   Host.Version = {STORE_VERSION_MAJOR, STORE_VERSION_MINOR, STORE_VERSION_PATCH};
 }
 

@@ -15,11 +15,9 @@ class ReceiptWindow : public FormWindow {
   explicit ReceiptWindow(frm_PE_UNIT& form);
 
  private:
-  QWidget* Header();
-  QWidget* QuantityBox();
-  QWidget* Lines();
+  static QWidget* Header();
+  static QWidget* QuantityBox();
   QWidget* Foot();
-  void AddTotal(QHBoxLayout& row, const QString& caption, size_t index, bool big);
 
   frm_PE_UNIT& receipt_;
 };

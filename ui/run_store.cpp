@@ -9,7 +9,7 @@
 #include "board/frm_Start.h"
 #include "forms/host.h"
 #include "forms/open_forms.h"
-#include "order/order_forms.h"
+#include "order/order_form.h"
 #include "receipt/frm_PE_UNIT.h"
 #include "start/Main_Start.h"
 #include "start/frmSplash.h"

@@ -6,7 +6,6 @@
 
 #include "start/frmSplash.h"
 #include "ui/band_painter.h"
-#include "ui/bindings.h"
 #include "ui/layout_pieces.h"
 #include "ui/qt_text.h"
 
@@ -20,17 +19,15 @@ constexpr int kBandHeight = 130;
 
 SplashWindow::SplashWindow(frmSplash& form) : FormWindow(form), splash_(form) {
   setFixedSize(kSize);
-  QLabel* version = CaptionLabel({});
-  auto* step = new QLabel;
+  QLabel* version = Named("lblVersion", CaptionLabel({}));
+  auto* step = Named("lblStep", new QLabel);
   auto* content = new QVBoxLayout;
   content->setContentsMargins(28, kBandHeight + 16, 28, 20);
   content->addWidget(version);
   content->addStretch();
   content->addWidget(step);
   setLayout(content);
-  BindLabel(*this, "lblVersion", form.lblVersion, *version);
-  BindLabel(*this, "lblStep", form.lblStep, *step);
-  BindTimer(*this, form.Timer1, [&form] { form.Timer1_Timer(); });
+  BindControls();
 }
 
 void SplashWindow::paintEvent(QPaintEvent*) {

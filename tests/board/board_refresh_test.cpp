@@ -132,9 +132,9 @@ TEST_F(BoardRefresh, ListsTenNoticesAtMost) {
   for (int id = 11; id <= 22; ++id) {
     const std::string text = std::to_string(id);
     Sql(
-        Splice("INSERT INTO NOTICE VALUES ({0},'알림','2024-06-{0} 10:00:00','');"
-               "INSERT INTO SETCONFIGNOTICE (NID,CID_1001) VALUES ({0},'T')",
-               {text}));
+        Splice("INSERT INTO NOTICE VALUES ({text},'알림','2024-06-{text} 10:00:00','');"
+               "INSERT INTO SETCONFIGNOTICE (NID,CID_1001) VALUES ({text},'T')",
+               "text"_a = text));
   }
   ShowBoard();
   EXPECT_EQ(ColumnText(board.FLEX0, 0), "22,21,20,19,18,17,16,15,14,13");

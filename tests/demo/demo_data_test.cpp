@@ -20,24 +20,27 @@ class Demo : public testing::Test {
     return rows.empty() ? "" : rows[0][0];
   }
   static void ExpectNone(const std::string& what, const std::string& from) {
-    EXPECT_EQ(Value(Splice("SELECT COUNT(*) FROM {0}", {from})), "0") << what;
+    EXPECT_EQ(Value(Splice("SELECT COUNT(*) FROM {from}", "from"_a = from)), "0") << what;
   }
 };
 
 TEST_F(Demo, DocumentsAddUpAndTheirKeysSayWhoWroteThem) {
   for (const auto& [header, lines, kind] :
        {std::array{"PEM22", "PSM22", "22"}, {"PEM23", "PSM23", "23"}, {"PES13", "PSS13", "13"}}) {
-    EXPECT_NE(Value(Splice("SELECT COUNT(*) FROM {0}", {header})), "0");
-    ExpectNone("a header that is not the sum of its lines",
-               Splice("{0} H LEFT JOIN (SELECT PE_ID,SUM(PS_AMT) A,SUM(PS_TAX) T FROM {1} GROUP BY "
-                      "PE_ID) L ON L.PE_ID=H.PE_ID WHERE NOT (PE_AMT<=>A AND PE_TAX<=>T AND "
-                      "PE_TOT<=>A+T)",
-                      {header, lines}));
-    ExpectNone("a key of another day, store, user or kind",
-               Splice("{0} H LEFT JOIN ST ON ST.ST_CODE=SUBSTRING(H.PE_ID,13,LENGTH(H.PE_ID)-18) "
-                      "AND RCT_CODE=PE_FCTCODE WHERE ST.ST_CODE IS NULL OR H.PE_ID NOT LIKE "
-                      "CONCAT(DATE_FORMAT(PE_SDATE,'%Y%m%d'),PE_FCTCODE,ST.ST_CODE,'{1}____')",
-                      {header, kind}));
+    EXPECT_NE(Value(Splice("SELECT COUNT(*) FROM {header}", "header"_a = header)), "0");
+    ExpectNone(
+        "a header that is not the sum of its lines",
+        Splice(
+            "{header} H LEFT JOIN (SELECT PE_ID,SUM(PS_AMT) A,SUM(PS_TAX) T FROM {lines} GROUP BY "
+            "PE_ID) L ON L.PE_ID=H.PE_ID WHERE NOT (PE_AMT<=>A AND PE_TAX<=>T AND "
+            "PE_TOT<=>A+T)",
+            "header"_a = header, "lines"_a = lines));
+    ExpectNone(
+        "a key of another day, store, user or kind",
+        Splice("{header} H LEFT JOIN ST ON ST.ST_CODE=SUBSTRING(H.PE_ID,13,LENGTH(H.PE_ID)-18) "
+               "AND RCT_CODE=PE_FCTCODE WHERE ST.ST_CODE IS NULL OR H.PE_ID NOT LIKE "
+               "CONCAT(DATE_FORMAT(PE_SDATE,'%Y%m%d'),PE_FCTCODE,ST.ST_CODE,'{kind}____')",
+               "header"_a = header, "kind"_a = kind));
   }
 }
 
@@ -64,17 +67,18 @@ TEST_F(Demo, StockAndBalancesAgreeWithThePostedSlips) {
     const char* balance;
   } cases[] = {{"PEM23", "PSM23", "INQTY", "CM_M23"}, {"PES13", "PSS13", "OTQTY", "CM_M13"}};
   for (const auto& c : cases) {
-    ExpectNone("stock that the lines do not make",
-               Splice("(SELECT SUM(Q) MOVED FROM (SELECT PE_FCTCODE S,PS_HCTCODE D,PR_CODE P,"
-                      "-PS_SQTY Q FROM {0} JOIN {1} USING (PE_ID) UNION ALL SELECT RCT_CODE,"
-                      "HCT_CODE,PR_CODE,{2} FROM IV) M GROUP BY S,D,P) B WHERE MOVED<>0",
-                      {c.header, c.lines, c.stock}));
+    ExpectNone(
+        "stock that the lines do not make",
+        Splice("(SELECT SUM(Q) MOVED FROM (SELECT PE_FCTCODE S,PS_HCTCODE D,PR_CODE P,"
+               "-PS_SQTY Q FROM {header} JOIN {lines} USING (PE_ID) UNION ALL SELECT RCT_CODE,"
+               "HCT_CODE,PR_CODE,{stock} FROM IV) M GROUP BY S,D,P) B WHERE MOVED<>0",
+               "header"_a = c.header, "lines"_a = c.lines, "stock"_a = c.stock));
     ExpectNone("a balance that the slips do not make",
                Splice("(SELECT SUM(T) LEFT_OVER FROM (SELECT PE_FCTCODE S,PE_TCTCODE P,"
-                      "REPLACE(LEFT(PE_PDATE,7),'-','') M,-PE_TOT T FROM {0} UNION ALL SELECT "
-                      "CM_FCTCODE,CM_TCTCODE,CM_MM,{1} FROM CMM) M GROUP BY S,P,M) B WHERE "
+                      "REPLACE(LEFT(PE_PDATE,7),'-','') M,-PE_TOT T FROM {header} UNION ALL SELECT "
+                      "CM_FCTCODE,CM_TCTCODE,CM_MM,{balance} FROM CMM) M GROUP BY S,P,M) B WHERE "
                       "LEFT_OVER<>0",
-                      {c.header, c.balance}));
+                      "header"_a = c.header, "balance"_a = c.balance));
   }
 }
 

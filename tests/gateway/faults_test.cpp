@@ -9,6 +9,7 @@
 #include <thread>
 
 #include "tests/gateway/gate.h"
+#include "tests/support/scripted_host.h"
 
 namespace store {
 namespace {
@@ -31,12 +32,12 @@ TEST_F(Gate, ABatchRunsInOrderAndPassesOverEmptyElements) {
 
 TEST_F(Gate, AQuoteInAValueReadsAsNothingAndFailsABatchWhole) {
   Sql("INSERT INTO T VALUES (1,'x',1)");
-  Query(Splice("SELECT N FROM T WHERE A = '{0}'", {"o'neil"}));
+  Query(Splice("SELECT N FROM T WHERE A = '{text}'", "text"_a = "o'neil"));
   EXPECT_EQ(rows, 0);
-  EXPECT_EQ(
-      ExecuteBatch({"", InsertNumber(2), Splice("INSERT INTO T (N,A) VALUES (3,'{0}')", {"o'neil"}),
-                    InsertNumber(4)}),
-      0);
+  EXPECT_EQ(ExecuteBatch({"", InsertNumber(2),
+                          Splice("INSERT INTO T (N,A) VALUES (3,'{text}')", "text"_a = "o'neil"),
+                          InsertNumber(4)}),
+            0);
   EXPECT_NE(LastErrorText.find("SQL syntax"), std::string::npos) << LastErrorText;
   EXPECT_EQ(Numbers(), "1 ");
 }
@@ -109,7 +110,8 @@ TEST_F(Gate, APowerCutWhileABatchRunsLeavesAllOfItOrNothing) {
     Sql("DELETE FROM T");
     std::vector<std::string> slow = {""};
     for (int n = 1; n <= 30; ++n) {
-      slow.push_back(Splice("INSERT INTO T (N,A) SELECT {0},SLEEP(0.02)", {std::to_string(n)}));
+      slow.push_back(
+          Splice("INSERT INTO T (N,A) SELECT {n},SLEEP(0.02)", "n"_a = std::to_string(n)));
     }
     std::thread cut([delay] {
       std::this_thread::sleep_for(std::chrono::milliseconds(delay));
@@ -156,6 +158,7 @@ class MuteServer {
   int port_ = 0;
 };
 
+// The attempt that was given up still waits when the next one is made.
 TEST_F(Gate, AServerThatNeverAnswersIsGivenUpAtTheConnectTimeout) {
   const MuteServer mute;
   setenv("STORE_CONNECT_TIMEOUT", "1", 1);
@@ -164,13 +167,58 @@ TEST_F(Gate, AServerThatNeverAnswersIsGivenUpAtTheConnectTimeout) {
   unsetenv("STORE_CONNECT_TIMEOUT");
   EXPECT_EQ(rows, 0);
   EXPECT_NE(LastErrorText, "");
+  BuildConnectString(TestServer().ServerOption(), "kt", "gate");
+  EXPECT_EQ(QueryText("SELECT 1", "-"), "1") << LastErrorText;
+}
+
+TEST_F(Gate, AServerThatStandsStillHoldsUpACallOnlyUntilItsLimit) {
+  const ScriptedHost host;
+  Query("SELECT N FROM T");
+  ASSERT_EQ(LastErrorText, "");
+  setenv("STORE_READ_LIMIT", "1", 1);
+  setenv("STORE_BATCH_LIMIT", "1", 1);
+  for (const bool batch : {false, true}) {
+    TestServer().Freeze();
+    if (batch) {
+      EXPECT_EQ(ExecuteBatch({"", InsertNumber(1), InsertNumber(2)}), 0);
+      EXPECT_NE(LastErrorText.find("알 수 없습니다"), std::string::npos) << LastErrorText;
+    } else {
+      OpenRecordset(SlotB, "SELECT N FROM T");
+      EXPECT_EQ(SlotB, nullptr);
+      EXPECT_NE(LastErrorText.find("1초"), std::string::npos) << LastErrorText;
+      EXPECT_EQ(std::vector<int>(host.Pointers.end() - 2, host.Pointers.end()),
+                (std::vector<int>{PointerHourglass, PointerNormal}));
+    }
+    TestServer().Thaw();
+    Query("SELECT 1");
+    EXPECT_EQ(rows, 1) << LastErrorText;
+  }
+  unsetenv("STORE_READ_LIMIT");
+  unsetenv("STORE_BATCH_LIMIT");
+  // What came back late found that nobody waited, and was not sent.
+  EXPECT_EQ(Numbers(), "");
+}
+
+TEST_F(Gate, ABatchTooLargeForOneBlockIsAllOrNothingToo) {
+  const std::string large(3 << 20, 'x');
+  std::vector<std::string> statements = {""};
+  for (int n = 1; n <= 3; ++n) {
+    statements.push_back(Splice("INSERT INTO T (N,A) VALUES ({n},'{large}')",
+                                "n"_a = std::to_string(n), "large"_a = large));
+  }
+  statements.push_back(InsertNumber(3));
+  EXPECT_EQ(ExecuteBatch(statements), 0);
+  EXPECT_NE(LastErrorText.find("Duplicate entry '3'"), std::string::npos) << LastErrorText;
+  EXPECT_EQ(Numbers(), "");
+  statements.pop_back();
+  EXPECT_EQ(ExecuteBatch(statements), -1) << LastErrorText;
+  EXPECT_EQ(Numbers(), "1 2 3 ");
 }
 
 TEST_F(Gate, ALockThatSomebodyHoldsFailsTheBatchInsteadOfHangingIt) {
   Sql("INSERT INTO T VALUES (1,'x',1)");
   setenv("STORE_LOCK_WAIT", "1", 1);
-  BuildConnectString(TestServer().ServerOption(), "kt", "small_other");
-  Query("SELECT 1");  // lets go of the connection that has the longer wait
+  ResetGateway();
   BuildConnectString(TestServer().ServerOption(), "kt", "gate");
   std::thread holder([] {
     TestServer().Sql("gate",

@@ -30,7 +30,7 @@ std::string Gate::Numbers() {
 void Gate::Query(const std::string& statement) { QueryRows(statement, table, rows, highestColumn); }
 
 std::string InsertNumber(int n) {
-  return Splice(" INSERT INTO T (N,A) VALUES ({0},'a{0}') ", {std::to_string(n)});
+  return Splice(" INSERT INTO T (N,A) VALUES ({n},'a{n}') ", "n"_a = std::to_string(n));
 }
 
 }  // namespace store

@@ -123,6 +123,34 @@ TEST_F(Gate, SlotsStandSideBySide) {
   EXPECT_EQ(FieldText(own, 0), "y");
 }
 
+TEST_F(Gate, TheConnectionIsKeptFromCallToCallAndGoesWithTheGatewaysState) {
+  const std::string first = QueryText("SELECT CONNECTION_ID()", "-");
+  CloseRecordset(SlotA);
+  EXPECT_EQ(QueryText("SELECT CONNECTION_ID()", "-"), first);
+  ResetGateway();
+  BuildConnectString(TestServer().ServerOption(), "kt", "gate");
+  EXPECT_NE(QueryText("SELECT CONNECTION_ID()", "-"), first) << LastErrorText;
+}
+
+TEST_F(Gate, KoreanIsRightOnAServerThatIsSetToAnotherCharacterSet) {
+  PrivateServer korean(
+      "--character-set-server=euckr --collation-server=euckr_korean_ci "
+      "--skip-character-set-client-handshake");
+  korean.Start();
+  korean.MakeSchema("gate");
+  BuildConnectString(korean.ServerOption(), "kt", "gate");
+  const std::string name = "쀍한글 \xF0\x9F\x8D\x8A";  // beyond EUC-KR, and beyond three bytes
+  ASSERT_EQ(ExecuteBatch({"", "CREATE TABLE T (N INT, A TEXT CHARACTER SET utf8mb4)",
+                          "INSERT INTO T VALUES (1,'" + name + "')"}),
+            -1)
+      << LastErrorText;
+  EXPECT_EQ(korean.Rows("gate", "SELECT A FROM T")[0][0], name);
+  Query("SELECT A,'" + name + "' FROM T WHERE A = '" + name + "'");
+  ASSERT_EQ(rows, 1) << LastErrorText;
+  EXPECT_EQ(table.At(1, 0), name);
+  EXPECT_EQ(table.At(1, 1), name);
+}
+
 TEST_F(Gate, AnObjectOfAnotherNameOrPlaceIsNotThere) {
   DataSpaceObject space;
   EXPECT_NE(space.CreateObject("TWMGR.DEMON", "http://"), nullptr);
@@ -148,8 +176,7 @@ TEST_F(Gate, TheSessionGroupsAndStoresAsTheStatementsExpect) {
   TestServer().Sql("gate",
                    "SET GLOBAL sql_mode = 'ONLY_FULL_GROUP_BY,NO_ZERO_DATE,"
                    "NO_ZERO_IN_DATE,STRICT_TRANS_TABLES,NO_BACKSLASH_ESCAPES'");
-  BuildConnectString(TestServer().ServerOption(), "kt", "small_other");
-  Query("SELECT 1");  // lets go of the connection that still has the former settings
+  ResetGateway();
   BuildConnectString(TestServer().ServerOption(), "kt", "gate");
   Sql("ALTER TABLE T ADD W DATETIME");
   EXPECT_EQ(ExecuteBatch({"", "INSERT INTO T (N,A,W) VALUES (1,'it\\'s','0000-00-00')"}), -1)

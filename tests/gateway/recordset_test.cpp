@@ -59,6 +59,7 @@ TEST_F(ItemList, FilterLetsThroughWhatMeetsIt) {
       {" PR_CODE  = '0002'", "0002|"},
       {"PR_CODE = '000'", ""},
       {"PR_NAME LIKE '%%'", "0001|0002|0003|0005|"},
+      {"PR_NAME LIKE '%우유%500ml%'", ""},  // between the ends a percent sign is a letter
       {"PR_NAME LIKE '%'", "0001|0002|0003|0005|"},
       {"PR_NAME = ''", "0005|"},
       {"PR_NAME LIKE '%우유%' AND PR_BCODE LIKE '%18'", "0002|"},
@@ -78,9 +79,9 @@ TEST_F(ItemList, FilterLetsThroughWhatMeetsIt) {
 TEST_F(ItemList, WhatDoesNotParseLeavesTheFormerFilterStanding) {
   ASSERT_TRUE(list.Filter("PR_CODE = '0003'"));
   for (const char* criteria :
-       {"PR_NAME LIKE '%o'neil%'", "PR_NAME LIKE '%a%b%'", "NOFIELD = 'x'", "PR_CODE = 0001",
-        "PR_CODE '0001'", "PR_CODE = '0001' OR PR_CODE = '0002'", "PR_CODE = '0001' AND",
-        "PR_CODE = '0001", "LIKE", "PR_CODE < '0002'"}) {
+       {"PR_NAME LIKE '%o'neil%'", "NOFIELD = 'x'", "PR_CODE = 0001", "PR_CODE '0001'",
+        "PR_CODE = '0001' OR PR_CODE = '0002'", "PR_CODE = '0001' AND", "PR_CODE = '0001", "LIKE",
+        "PR_CODE < '0002'"}) {
     EXPECT_FALSE(list.Filter(criteria)) << criteria;
     list.MoveFirst();
     EXPECT_EQ(Walk(list, 0), "0003|") << criteria;

@@ -32,10 +32,11 @@ Table LineRows(const std::string& table, const std::string& id) {
   return DemoRows(Splice(
       "SELECT L.PS_NO,L.PS_DATE=H.PE_PDATE,L.PR_CODE,L.PR_NAME=P.PR_NAME,L.PR_STD=P.PR_STD,"
       "L.PS_TAXGU=P.PR_TAX2,L.PS_UNT=P.PR_UNT,PS_SQTY,PS_EQTY,PS_COST,PS_UP,PS_AMT,PS_TAX,"
-      "L.ST_CODE,PS_TYPE,PS_MEMO,PS_HCTCODE,PS_HCTNAME=D.HCT_NAME FROM PS{0} L JOIN PE{0} H ON "
+      "L.ST_CODE,PS_TYPE,PS_MEMO,PS_HCTCODE,PS_HCTNAME=D.HCT_NAME FROM PS{table} L JOIN PE{table} "
+      "H ON "
       "H.PE_ID=L.PE_ID JOIN PR P ON P.PR_CODE=L.PR_CODE JOIN HCT D ON D.HCT_CODE=L.PS_HCTCODE "
-      "WHERE L.PE_ID='{1}' ORDER BY PS_NO",
-      {table, id}));
+      "WHERE L.PE_ID='{id}' ORDER BY PS_NO",
+      "table"_a = table, "id"_a = id));
 }
 
 Table ExpectedLines(const std::vector<JourneyLine>& lines, const std::string& depotCode,
@@ -66,7 +67,8 @@ std::string DemoValue(const std::string& select) {
 void DemoSql(const std::string& statements) { TestServer().Sql("demo", statements); }
 
 std::string CodeOf(const std::string& barcode) {
-  return DemoValue(Splice("SELECT PR_CODE FROM PR WHERE PR_BCODE='{0}'", {barcode}));
+  return DemoValue(
+      Splice("SELECT PR_CODE FROM PR WHERE PR_BCODE='{barcode}'", "barcode"_a = barcode));
 }
 
 std::string NewestOrder() {
@@ -89,16 +91,16 @@ void ExpectOrder(const std::string& id, const std::string& state, const std::str
           "PE_CK,PE_PDATE,PE_FCTCODE,PE_FCTNAME=RCT_NAME,PE_TCTCODE,PE_TCTNAME,PE_AMT,PE_TAX,"
           "PE_TOT,CONCAT('[',PE_TMAN,ST_CODE,PE_PRJ,PE_LINK,PE_COND,PE_GRDAY,PE_CSDAY,PE_CSCT,"
           "PE_TYPE,PE_MEMO1,PE_MEMO2,PE_MEMO3,']'),ABS(TIMESTAMPDIFF(MINUTE,PE_SDATE,NOW()))<5 "
-          "FROM PEM22 JOIN RCT ON RCT_CODE=PE_FCTCODE WHERE PE_ID='{0}'",
-          {id})),
+          "FROM PEM22 JOIN RCT ON RCT_CODE=PE_FCTCODE WHERE PE_ID='{id}'",
+          "id"_a = id)),
       Table{header});
   EXPECT_EQ(LineRows("M22", id), ExpectedLines(lines, depotCode, false));
 }
 
 std::string ExpectReceipt(const std::string& orderId, const std::string& depotCode,
                           const std::vector<JourneyLine>& lines) {
-  std::string id =
-      DemoValue(Splice("SELECT PE_LINK FROM PEM22 WHERE PE_ID='{0}' AND PE_CK='4'", {orderId}));
+  std::string id = DemoValue(Splice(
+      "SELECT PE_LINK FROM PEM22 WHERE PE_ID='{orderId}' AND PE_CK='4'", "orderId"_a = orderId));
   const std::string today = DemoValue("SELECT DATE_FORMAT(NOW(),'%Y-%m-%d')");
   std::vector<std::string> header = {
       "1", today, "1001", "1", kJourneySupplier, kJourneySupplierName};
@@ -112,37 +114,39 @@ std::string ExpectReceipt(const std::string& orderId, const std::string& depotCo
                 "SELECT PE_CK,PE_PDATE,PE_FCTCODE,PE_FCTNAME=RCT_NAME,PE_TCTCODE,PE_TCTNAME,PE_AMT,"
                 "PE_TAX,PE_TOT,PE_MISU,PE_EC,PE_DC,PE_PAYGU,CONCAT('[',PE_ACCK,PE_TMAN,PE_MEMO,"
                 "PE_PRJ,']'),ST_CODE,PE_LINK,INPUT_PROGRAM REGEXP '^[0-9]+$' FROM PEM23 JOIN RCT "
-                "ON RCT_CODE=PE_FCTCODE WHERE PE_ID='{0}'",
-                {id})),
+                "ON RCT_CODE=PE_FCTCODE WHERE PE_ID='{id}'",
+                "id"_a = id)),
             Table{header});
   EXPECT_EQ(LineRows("M23", id), ExpectedLines(lines, depotCode, true));
   EXPECT_EQ(DemoValue(Splice("SELECT GROUP_CONCAT(DISTINCT CONCAT('[',PS_INCK,PS_TMID,']')) FROM "
-                             "PSM23 WHERE PE_ID='{0}'",
-                             {id})),
+                             "PSM23 WHERE PE_ID='{id}'",
+                             "id"_a = id)),
             "[]");
   return id;
 }
 
 void ShipOrder(const std::string& orderId, const std::string& barcodeShort, int missing) {
   DemoSql(
-      Splice("UPDATE PEM22 SET PE_CK='3' WHERE PE_ID='{0}';"
-             "UPDATE PSM22 SET PS_EQTY=PS_SQTY WHERE PE_ID='{0}';"
-             "UPDATE PSM22 SET PS_EQTY=PS_SQTY-{1} WHERE PE_ID='{0}' AND PR_CODE='{2}'",
-             {orderId, std::to_string(missing), CodeOf(barcodeShort)}));
+      Splice("UPDATE PEM22 SET PE_CK='3' WHERE PE_ID='{orderId}';"
+             "UPDATE PSM22 SET PS_EQTY=PS_SQTY WHERE PE_ID='{orderId}';"
+             "UPDATE PSM22 SET PS_EQTY=PS_SQTY-{missing} WHERE PE_ID='{orderId}' AND "
+             "PR_CODE='{barcodeShort}'",
+             "orderId"_a = orderId, "missing"_a = std::to_string(missing),
+             "barcodeShort"_a = CodeOf(barcodeShort)));
 }
 
 std::string StockIn(const std::string& barcode, const std::string& depotCode) {
-  return DemoValue(
-      Splice("SELECT IFNULL(SUM(INQTY),'none') FROM IV WHERE RCT_CODE='1001' AND HCT_CODE='{0}' "
-             "AND PR_CODE='{1}'",
-             {depotCode, CodeOf(barcode)}));
+  return DemoValue(Splice(
+      "SELECT IFNULL(SUM(INQTY),'none') FROM IV WHERE RCT_CODE='1001' AND HCT_CODE='{depotCode}' "
+      "AND PR_CODE='{barcode}'",
+      "depotCode"_a = depotCode, "barcode"_a = CodeOf(barcode)));
 }
 
 std::string BalanceIn() {
   return DemoValue(
       Splice("SELECT IFNULL(SUM(CM_M23),'none') FROM CMM WHERE CM_FCTCODE='1001' AND "
-             "CM_TCTCODE='{0}' AND CM_MGU='C' AND CM_MM=DATE_FORMAT(NOW(),'%Y%m')",
-             {kJourneySupplier}));
+             "CM_TCTCODE='{journeySupplier}' AND CM_MGU='C' AND CM_MM=DATE_FORMAT(NOW(),'%Y%m')",
+             "journeySupplier"_a = kJourneySupplier));
 }
 
 }  // namespace store

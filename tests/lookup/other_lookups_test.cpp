@@ -1,10 +1,7 @@
 #include "forms/host.h"
 #include "forms/open_forms.h"
 #include "lookup/HELP_BPR.h"
-#include "lookup/HELP_CTM.h"
-#include "lookup/HELP_HCT.h"
-#include "lookup/HELP_RCT.h"
-#include "lookup/HELP_ST.h"
+#include "lookup/party_lookups.h"
 #include "tests/support/small_store_test.h"
 
 namespace store {

@@ -1,6 +1,6 @@
 #include "basics/records.h"
 #include "forms/host.h"
-#include "lookup/HELP_CT.h"
+#include "lookup/party_lookups.h"
 #include "tests/support/small_store_test.h"
 
 namespace store {

@@ -12,10 +12,10 @@ class HistoryChart : public OrderDesk {
     const std::string id = day + "1001u0113" + std::to_string(1000 + ++sales_);
     Sql(
         Splice("INSERT INTO PES13 (PE_ID,PE_CK,PE_PDATE,PE_SDATE,PE_FCTCODE,PE_TCTCODE) VALUES "
-               "('{0}','1','2024-01-01',NOW(),'1001','x');"
+               "('{id}','1','2024-01-01',NOW(),'1001','x');"
                "INSERT INTO PSS13 (PE_ID,PS_NO,PS_DATE,PR_CODE,PS_SQTY) VALUES "
-               "('{0}',1,'2024-01-01','{1}',{2})",
-               {id, product, quantity}));
+               "('{id}',1,'2024-01-01','{product}',{quantity})",
+               "id"_a = id, "product"_a = product, "quantity"_a = quantity));
   }
   /// Quantity of a day, and how many cells of its bar are left unpainted.
   std::string Day(int back) {
@@ -41,9 +41,9 @@ TEST_F(HistoryChart, ShowsEachOfThe31DaysByNumberAndBar) {
   form.FLEX2.SetRow(4);  // P0001
   ASSERT_EQ(form.FLEX2.TextMatrix(4, 0), "P0001");
   form.SetFocus(form.FLEX1);
-  EXPECT_FALSE(form.KeyDown(Key::F4));
+  EXPECT_FALSE(form.Press(Key::F4));
   form.SetFocus(form.FLEX2);
-  EXPECT_TRUE(form.KeyDown(Key::F4));
+  EXPECT_TRUE(form.Press(Key::F4));
   EXPECT_TRUE(form.PRGHP.Visible);
   EXPECT_EQ(Day(1), "40:10");
   EXPECT_EQ(Day(2), "10:2");  // 25 percent: two and a half rows, to even

@@ -35,9 +35,12 @@ TEST_F(OrderDesk, TheBoxTellsSearchesFromQuantities) {
       {",abc", "P0009x1 P0005x1 P0003x-4 ", "P0009,P0002,P0007,P0001,P0004,P0003,P0005,P0008"},
       {".kg", "P0009x1 P0005x1 P0003x-4 ", "P0002,P0005,P0008"},
       {"9999", "P0009x9999 P0005x1 P0003x-4 ", "P0002,P0005,P0008"},
+      // A percent sign is a letter like others: no such name, and the lines stay as they are.
+      {",50%소스", "P0009x9999 P0005x1 P0003x-4 ", "P0002,P0005,P0008"},
   };
   for (const auto& step : steps) {
-    if (std::string(step.entry) == ",간장") host.ExpectBox("선택된 품목이 없습니다.           ");
+    if (step.entry == std::string(",간장") || step.entry == std::string(",50%소스"))
+      host.ExpectBox("선택된 품목이 없습니다.           ");
     Enter(step.entry);
     EXPECT_EQ(Lines(), step.lines) << step.entry;
     EXPECT_EQ(ColumnText(form.FLEX2, 0), step.picks) << step.entry;
@@ -74,6 +77,9 @@ TEST_F(OrderDesk, AnItemWithoutAPriceIsRefusedInALineThatGoesAway) {
   EXPECT_NE(form.LaAmt[1].Caption, dear);
   EXPECT_EQ(form.Label6.Caption, "본부정책오류: 힘찬세제의 단가가 정의되지 않았습니다.");
   EXPECT_TRUE(form.Timer1.Enabled);
+  const unsigned restarts = form.Timer1.Restarts();
+  Enter("88010008");
+  EXPECT_GT(form.Timer1.Restarts(), restarts) << "a second refusal has its own five seconds";
   form.Timer1_Timer();
   EXPECT_EQ(form.Label6.Caption, "");
   EXPECT_FALSE(form.Timer1.Enabled);

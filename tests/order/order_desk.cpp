@@ -2,17 +2,14 @@
 
 #include "basics/dates.h"
 #include "basics/records.h"
+#include "basics/text.h"
 #include "forms/host.h"
 #include "forms/open_forms.h"
-#include "order/order_forms.h"
-#include "slips/depot_choice.h"
+#include "order/order_form.h"
+#include "slips/item_list.h"
 
 namespace store {
 namespace {
-
-constexpr const char* kItemList =
-    " SELECT PR_CODE,PR_NAME,PR_STD,PR_UNT,PR_TAX2,PR_PTNO,' ',' ',PR_BCODE,' ',KD_ID FROM PR "
-    "WHERE PR_END = '0' ORDER BY PR_NAME";
 
 class StandInBoard : public MainWindow {
  public:
@@ -25,11 +22,11 @@ OrderDesk::OrderDesk() {
   RegisterOrderForms();
   RegisterForm("frm_Start", [] { return std::make_unique<StandInBoard>(); });
   Board = dynamic_cast<MainWindow*>(TheForm("frm_Start"));
-  Board->Combo1.AddItem(DepotEntry("매장", "100101"));
-  Board->Combo1.AddItem(DepotEntry("창고", "100102"));
+  Board->Combo1.AddItem(ListEntry("매장", "100101"));
+  Board->Combo1.AddItem(ListEntry("창고", "100102"));
   AppOptions.BulkOrderPrice = "3";
   ParseDateText(Value("SELECT DATE_FORMAT(NOW(),'%Y-%m-%d')"), host.Clock);
-  OpenRecordset(SlotC, kItemList);
+  OpenItemList();
 }
 
 OrderForm& OrderDesk::Open(const std::string& slipId) {

@@ -110,6 +110,17 @@ TEST_F(OrderSave, AMissingItemOrDepotIsToldInTwoBoxes) {
   Order().LaBtn_Click(0);
 }
 
+TEST_F(OrderSave, MoreLinesThanTheSlipHoldsStopTheSave) {
+  FillOrder();
+  for (const std::int16_t limit : {std::int16_t{1}, std::int16_t{0}}) {
+    BaseSettings.MaxSlipLines = limit;
+    host.ExpectBox("최대전표건수를 확인하세요 셋팅최대처리건수(" + std::to_string(limit) + "건)");
+    host.ExpectBox("전표순번자료가 없습니다.                    ");
+    Order().LaBtn_Click(0);
+    EXPECT_EQ(Value("SELECT COUNT(*) FROM PEM22"), "0");
+  }
+}
+
 TEST_F(OrderSave, AFailedSaveTellsTheServersWordsAndKeepsTheOrder) {
   FillOrder();
   Sql("UPDATE PR SET PR_NAME='o''neil' WHERE PR_CODE='P0005'");

@@ -1,5 +1,5 @@
 #include "basics/records.h"
-#include "lookup/HELP_CT.h"
+#include "lookup/party_lookups.h"
 #include "tests/order/order_desk.h"
 
 namespace store {
@@ -51,6 +51,28 @@ TEST_F(OrderDesk, AnyChangeOfTheSupplierThrowsTheLinesAway) {
   form.Text1.SetText("한빛상");
   EXPECT_EQ(Lines(), "");
   EXPECT_EQ(form.LaAmt[0].Caption, "0");
+}
+
+TEST_F(OrderDesk, AnotherSupplierOfTheSameNameThrowsTheLinesAway) {
+  Sql("UPDATE CT SET CT_NAME='한빛상사' WHERE CT_CODE='C0003'");
+  OrderForm& form = Open();
+  Supplier("#C0001");
+  Enter("88010005");
+  const auto choose = [&](const std::string& code) {
+    host.OnModal("HELP_CT", [&](Form& shown) {
+      auto& lookup = dynamic_cast<HELP_CT&>(shown);
+      lookup.Command1_Click();
+      lookup.FLEX1.SetRow(lookup.FLEX1.TextMatrix(1, 0) == code ? 1 : 2);
+      lookup.FLEX1_DblClick();
+    });
+    form.Text1_KeyPress(Key::Enter);
+    EXPECT_EQ(form.Text1.Tag, code);
+  };
+  choose("C0001");
+  EXPECT_EQ(Lines(), "P0005x1 ") << "the same one again is no change";
+  choose("C0003");
+  EXPECT_EQ(form.Text1.Text(), "한빛상사");
+  EXPECT_EQ(Lines(), "") << "their prices are the other one's";
 }
 
 TEST_F(OrderDesk, WithTheOptionOnOnlyTheStoresSettingsCount) {

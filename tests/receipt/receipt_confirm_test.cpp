@@ -16,13 +16,14 @@ TEST_F(ReceiptDesk, TheChosenDepotTakesEveryLineAndTheOrderIsClosed) {
   host.ExpectBox(kDone);
   form.Command1_Click(1);
   EXPECT_EQ(OpenForm("frm_PE_UNIT"), nullptr);
-  EXPECT_EQ(Rows(Splice("SELECT O.PE_CK,PE_TOT,PS_NO,PR_CODE,PS_SQTY,PS_HCTCODE,PS_HCTNAME FROM "
-                        "(SELECT PE_CK,PE_LINK FROM PEM22 WHERE PE_ID='{0}') O JOIN PEM23 R ON "
-                        "R.PE_ID=O.PE_LINK JOIN PSM23 L ON L.PE_ID=R.PE_ID ORDER BY PS_NO",
-                        {kApproved})),
-            (std::vector<std::vector<std::string>>{
-                {"4", "22090.0000", "1", "P0003", "30.0000", "100102", "창고"},
-                {"4", "22090.0000", "2", "P0001", "17.0000", "100102", "창고"}}));
+  EXPECT_EQ(
+      Rows(Splice("SELECT O.PE_CK,PE_TOT,PS_NO,PR_CODE,PS_SQTY,PS_HCTCODE,PS_HCTNAME FROM "
+                  "(SELECT PE_CK,PE_LINK FROM PEM22 WHERE PE_ID='{approved}') O JOIN PEM23 R ON "
+                  "R.PE_ID=O.PE_LINK JOIN PSM23 L ON L.PE_ID=R.PE_ID ORDER BY PS_NO",
+                  "approved"_a = kApproved)),
+      (std::vector<std::vector<std::string>>{
+          {"4", "22090.0000", "1", "P0003", "30.0000", "100102", "창고"},
+          {"4", "22090.0000", "2", "P0001", "17.0000", "100102", "창고"}}));
   EXPECT_EQ(Value("SELECT SUM(INQTY) FROM IV WHERE HCT_CODE='100102'"), "47.0000");
 }
 
@@ -110,7 +111,9 @@ TEST_F(ReceiptDesk, AFailedReceiptLeavesOrderStockAndFormAsTheyWere) {
   Sql("RENAME TABLE CMM_AWAY TO CMM");
   EXPECT_EQ(Value("SELECT COUNT(*) FROM PEM23"), "3");
   EXPECT_EQ(Value("SELECT SUM(INQTY) FROM IV"), "11.0000");
-  EXPECT_EQ(Value(Splice("SELECT PE_CK FROM PEM22 WHERE PE_ID='{0}'", {kApproved})), "2");
+  EXPECT_EQ(
+      Value(Splice("SELECT PE_CK FROM PEM22 WHERE PE_ID='{approved}'", "approved"_a = kApproved)),
+      "2");
   host.ExpectBox("입고확정", box::Yes);
   host.ExpectBox(kDone);
   Receipt().Command1_Click(1);

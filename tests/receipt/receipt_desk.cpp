@@ -1,7 +1,7 @@
 #include "tests/receipt/receipt_desk.h"
 
 #include "basics/dates.h"
-#include "slips/depot_choice.h"
+#include "basics/text.h"
 
 namespace store {
 namespace {
@@ -17,8 +17,8 @@ ReceiptDesk::ReceiptDesk() {
   RegisterReceiptForms();
   RegisterForm("frm_Start", [] { return std::make_unique<StandInBoard>(); });
   Board = dynamic_cast<MainWindow*>(TheForm("frm_Start"));
-  Board->Combo1.AddItem(DepotEntry("매장", "100101"));
-  Board->Combo1.AddItem(DepotEntry("창고", "100102"));
+  Board->Combo1.AddItem(ListEntry("매장", "100101"));
+  Board->Combo1.AddItem(ListEntry("창고", "100102"));
   ParseDateText(Value("SELECT DATE_FORMAT(NOW(),'%Y-%m-%d')"), host.Clock);
   OpenRecordset(SlotC, "SELECT PR_CODE,PR_NAME,PR_STD,PR_UNT,PR_TAX2 FROM PR WHERE PR_END = '0'");
 }

@@ -12,8 +12,8 @@
 #include "basics/text.h"
 #include "forms/host.h"
 #include "gateway/gateway.h"
-#include "start/profile_file.h"
 #include "slips/process_state.h"
+#include "start/profile_file.h"
 #include "tests/support/scripted_host.h"
 
 namespace store {

@@ -1,9 +1,9 @@
-#include "slips/process_state.h"
 #include "tests/start/small_chain.h"
 
 #include "forms/host.h"
 #include "forms/open_forms.h"
 #include "gateway/gateway.h"
+#include "slips/process_state.h"
 #include "slips/slip_form.h"
 #include "start/Main_Start.h"
 #include "start/options.h"

@@ -4,6 +4,7 @@
 #include <mysql.h>
 #include <unistd.h>
 
+#include <csignal>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -27,6 +28,7 @@ class ClientConnection {
                            CLIENT_MULTI_STATEMENTS) == nullptr) {
       ADD_FAILURE() << "the test's own connection: " << mysql_error(client_);
     }
+    mysql_set_character_set(client_, "utf8mb4");  // a server may pass over what the login asked for
   }
   ~ClientConnection() { mysql_close(client_); }
   ClientConnection(const ClientConnection&) = delete;
@@ -60,7 +62,8 @@ const char* const kSmall = "small";
 
 }  // namespace
 
-PrivateServer::PrivateServer() : port_(FreePort()) {
+PrivateServer::PrivateServer(std::string options)
+    : options_(std::move(options)), port_(FreePort()) {
   std::string folder = (std::filesystem::temp_directory_path() / "store_test_XXXXXX").string();
   if (port_ == 0 || mkdtemp(folder.data()) == nullptr)
     ADD_FAILURE() << "no port or no folder for the test's server";
@@ -75,13 +78,23 @@ PrivateServer::~PrivateServer() {
 }
 
 void PrivateServer::Script(const std::string& arguments) const {
-  const std::string command = std::string(STORE_PRIVATE_DB) + " " + arguments + " </dev/null";
+  const std::string command =
+      "PRIVATE_DB_OPTIONS='" + options_ + "' " + STORE_PRIVATE_DB + " " + arguments + " </dev/null";
   if (std::system(command.c_str()) != 0) ADD_FAILURE() << command;
 }
 
 void PrivateServer::Start() { Script("start " + folder_ + " " + std::to_string(port_)); }
 void PrivateServer::Stop() { Script("stop " + folder_); }
 void PrivateServer::Kill() { Script("kill " + folder_); }
+
+void PrivateServer::Signal(int number) const {
+  std::ifstream file(folder_ + "/server.pid");
+  pid_t pid = 0;
+  if (!(file >> pid) || kill(pid, number) != 0) ADD_FAILURE() << "no server to signal";
+}
+
+void PrivateServer::Freeze() { Signal(SIGSTOP); }
+void PrivateServer::Thaw() { Signal(SIGCONT); }
 
 std::string PrivateServer::ServerOption() const {
   return "127.0.0.1;PORT=" + std::to_string(port_);

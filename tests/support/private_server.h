@@ -10,11 +10,15 @@ namespace store {
 /// being tested.
 class PrivateServer {
  public:
+  /// `options` are further ones of the server program, parted by blanks.
+  explicit PrivateServer(std::string options = "");
   ~PrivateServer();
 
   void Start();  ///< Also again after `Stop` or `Kill`; the data stays.
   void Stop();
-  void Kill();  ///< SIGKILL, as when the machine loses its power.
+  void Kill();    ///< SIGKILL, as when the machine loses its power.
+  void Freeze();  ///< It stands still, as a machine that is out of memory, until `Thaw`.
+  void Thaw();
   int Port() const { return port_; }
   /// What a data server option names: "127.0.0.1;PORT=...".
   std::string ServerOption() const;
@@ -31,10 +35,10 @@ class PrivateServer {
                                              const std::string& select);
 
  private:
-  friend PrivateServer& TestServer();
-  PrivateServer();
+  void Signal(int number) const;
   void Script(const std::string& arguments) const;
 
+  std::string options_;
   std::string folder_;
   int port_ = 0;
 };

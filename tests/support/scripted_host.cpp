@@ -64,7 +64,10 @@ void ScriptedHost::FillWindows() {
     form.EnsureLoaded();
     if (!form.IsClosed()) form.Activate();
   };
-  Host.Hide = [this](Form& form) { FormsHidden.push_back(form.Name); };
+  Host.Hide = [this](Form& form) {
+    FormsHidden.push_back(form.Name);
+    hidden_ = &form;
+  };
   Host.Minimize = [this](Form& form) { FormsMinimized.push_back(form.Name); };
   Host.CloseWindow = [this](Form& form) { FormsClosed.push_back(form.Name); };
   Host.EndProgram = [this] { Ended = true; };
@@ -84,8 +87,9 @@ void ScriptedHost::FillWorkstation() {
     Addresses.push_back(address);
     return OpensAddresses;
   };
-  Host.StartProgram = [this](const std::string& path, const std::string& arguments) {
-    Programs.emplace_back(path, arguments);
+  Host.StartProgram = [this](const std::string& path, const std::string& arguments,
+                             WindowState state) {
+    Programs.push_back({path, arguments, state});
     return StartsPrograms;
   };
   Host.GetSetting = [this](const std::string& application, const std::string& section,
@@ -127,9 +131,11 @@ void ScriptedHost::ShowModal(Form& form) {
   } else {
     const std::function<void(Form&)> handler = handlers.front();
     handlers.pop_front();
+    hidden_ = nullptr;
     handler(form);
   }
-  form.Close();
+  // A form that has hidden itself waits to be shown again; any other is done with.
+  if (hidden_ != &form) form.Close();
 }
 
 }  // namespace store

@@ -33,7 +33,7 @@ class ScriptedHost {
   void ExpectBox(const std::string& fragment, int answer = box::Ok);
 
   /// The next time the form of that name is shown modally, `handler` does what its user does. The
-  /// form is closed afterwards if it is not yet.
+  /// form is closed afterwards if it has neither closed nor hidden itself.
   void OnModal(
       const std::string& formName, std::function<void(Form&)> handler = [](Form&) {});
 
@@ -52,7 +52,12 @@ class ScriptedHost {
   std::vector<int> Sleeps;
   std::vector<std::string> Addresses;  ///< Opened addresses and files.
   bool OpensAddresses = true;
-  std::vector<std::pair<std::string, std::string>> Programs;  ///< Started: path, arguments.
+  struct Program {
+    std::string Path;
+    std::string Arguments;
+    WindowState State;
+  };
+  std::vector<Program> Programs;  ///< Started ones, in order.
   bool StartsPrograms = true;
   bool OtherInstance = false;
 
@@ -75,6 +80,7 @@ class ScriptedHost {
   int ShowBox(const std::string& text, int style, const std::string& title);
   void ShowModal(Form& form);
 
+  const Form* hidden_ = nullptr;  // the last one that was
   std::deque<Expected> expectedBoxes_;
   std::map<std::string, std::deque<std::function<void(Form&)>>> modalHandlers_;
 };

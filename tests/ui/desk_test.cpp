@@ -57,6 +57,26 @@ TEST_F(DeskTest, AModalFormThatClosesItselfAtLoadIsNeverSeen) {
   EXPECT_EQ(TheDesk().WindowNamed("Probe"), nullptr);
 }
 
+TEST_F(DeskTest, AModalFormThatHidesGivesControlBackAndComesAgainAsItWas) {
+  ProbeForm panel;
+  const auto typeAndHide = [&](const char* text) {
+    WhenModal([&panel, text](QWidget& window) {
+      QTest::qWait(50);
+      QTest::keyClicks(&Find<QLineEdit>(window, "Text1"), text);
+      Dispatch([&panel] { Host.Hide(panel); });
+    });
+    Dispatch([&] { Host.ShowModal(panel); });
+  };
+  typeAndHide("10");
+  EXPECT_FALSE(panel.IsClosed());
+  EXPECT_EQ(panel.Text1.Text(), "10");
+  EXPECT_EQ(Activations(panel), 1);
+  typeAndHide("006");
+  EXPECT_EQ(panel.Text1.Text(), "10006");
+  EXPECT_EQ(Activations(panel), 2) << "activated at each showing";
+  EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+}
+
 TEST_F(DeskTest, QueryUnloadMayRefuseTheSystemsClose) {
   ProbeForm form;
   FormWindow& window = Open(form);
@@ -165,9 +185,12 @@ TEST_F(DeskTest, PlacedWhereTheFormSays) {
       Place.Left = 37;
       Place.Top = 21;
       Place.Positioned = true;
+      Place.OnTop = true;
     }
   } form;
-  EXPECT_EQ(Open(form).pos(), QPoint(37, 21));
+  const FormWindow& window = Open(form);
+  EXPECT_EQ(window.pos(), QPoint(37, 21));
+  EXPECT_TRUE(window.windowFlags().testFlag(Qt::WindowStaysOnTopHint));
 }
 
 }  // namespace

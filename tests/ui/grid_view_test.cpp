@@ -3,6 +3,7 @@
 #include <QHeaderView>
 #include <QtTest>
 
+#include "forms/host.h"
 #include "tests/ui/probe_form.h"
 #include "ui/desk.h"
 
@@ -16,15 +17,15 @@ class GridViewTest : public DeskTest {
     for (const char* row : {"우유\t1", "콜라\t2", "라면\t3"}) form_.FLEX1.AddItem(row);
     window_ = &Open(form_);
     view_ = &FindGrid(*window_, "FLEX1");
-    view_->Events.KeyPress = [this](const std::string& text) { typed_ += text; };
-    view_->Events.AfterEdit = [this](int row, int col) { edited_ = {row, col}; };
+    form_.FLEX1.KeyPress = [this](const std::string& text) { typed_ += text; };
+    form_.FLEX1.AfterEdit = [this](int row, int col) { edited_ = {row, col}; };
     view_->setFocus();
   }
 
   /// Row 1 is current and its second column may be edited.
   void MakeEditable() {
     Dispatch([this] {
-      form_.FLEX1.EditableColumn = 1;
+      form_.FLEX1.Column(1).Editable = true;
       form_.FLEX1.Select(1, 0);
     });
   }
@@ -82,9 +83,9 @@ TEST_F(GridViewTest, HiddenRowsAreNotSeen) {
 
 TEST_F(GridViewTest, ClickAndDoubleClick) {
   std::vector<std::string> events;
-  view_->Events.Click = [&] { events.push_back("click " + std::to_string(form_.FLEX1.Row())); };
-  view_->Events.DblClick = [&] { events.emplace_back("double"); };
-  view_->Events.Walk = [&] { events.push_back("walk " + std::to_string(form_.FLEX1.Row())); };
+  form_.FLEX1.Click = [&] { events.push_back("click " + std::to_string(form_.FLEX1.Row())); };
+  form_.FLEX1.DblClick = [&] { events.emplace_back("double"); };
+  form_.FLEX1.Walk = [&] { events.push_back("walk " + std::to_string(form_.FLEX1.Row())); };
   ClickCell(1, 1);
   EXPECT_EQ(form_.FLEX1.Col(), 1);
   Press(Qt::Key_Down);
@@ -133,7 +134,7 @@ TEST_F(GridViewTest, EscapeLeavesTheCellAndNotTheForm) {
 }
 
 TEST_F(GridViewTest, ARefusedEntryStaysInFront) {
-  view_->Events.AfterEdit = [this](int row, int col) { form_.FLEX1.SetTextMatrix(row, col, ""); };
+  form_.FLEX1.AfterEdit = [this](int row, int col) { form_.FLEX1.SetTextMatrix(row, col, ""); };
   MakeEditable();
   Type("9999999");
   Press(Qt::Key_Enter);
@@ -142,7 +143,7 @@ TEST_F(GridViewTest, ARefusedEntryStaysInFront) {
 }
 
 TEST_F(GridViewTest, TheFormMayKeepACellClosed) {
-  view_->Events.BeforeEdit = [](int row, int) { return row != 1; };
+  form_.FLEX1.BeforeEdit = [](int row, int) { return row != 1; };
   MakeEditable();
   Type("5");
   EXPECT_FALSE(CellIsOpen());
@@ -164,7 +165,7 @@ TEST_F(GridViewTest, ASaveKeyTakesTheOpenCellOverFirst) {
 
 TEST_F(GridViewTest, LeavingTheGridTakesTheOpenCellOverOnce) {
   int edits = 0;
-  view_->Events.AfterEdit = [&](int, int) { ++edits; };
+  form_.FLEX1.AfterEdit = [&](int, int) { ++edits; };
   MakeEditable();
   Type("24");
   Find<QLineEdit>(*window_, "Text1").setFocus();
@@ -174,13 +175,68 @@ TEST_F(GridViewTest, LeavingTheGridTakesTheOpenCellOverOnce) {
 
 TEST_F(GridViewTest, ACheckColumnIsTicked) {
   Dispatch([this] {
-    form_.FLEX1.SetColumns({{.Header = "품명"}, {.Header = "S", .CheckBox = true}});
+    form_.FLEX1.SetColumns(
+        {{.Header = "품명"}, {.Header = "S", .CheckBox = true, .Editable = true}});
     form_.FLEX1.AddItem("우유");
   });
   ClickCell(0, 1);
   EXPECT_EQ(Held(1), "-1");
   Press(Qt::Key_Space);
   EXPECT_EQ(Held(1), "0");
+}
+
+TEST_F(GridViewTest, TypingGoesToTheCurrentOneOfSeveralEditableColumns) {
+  Dispatch([this] {
+    form_.FLEX1.SetColumns({{.Header = "S", .CheckBox = true, .Editable = true},
+                            {.Header = "품명"},
+                            {.Header = "수량", .Editable = true},
+                            {.Header = "배수", .Editable = true}});
+    form_.FLEX1.AddItem("\t우유");
+    form_.FLEX1.Select(1, 1);
+  });
+  Type("7");
+  Press(Qt::Key_Enter);
+  Dispatch([this] { form_.FLEX1.Select(1, 3); });
+  Type("8");
+  Press(Qt::Key_Enter);
+  EXPECT_EQ(form_.FLEX1.TextMatrix(1, 2) + form_.FLEX1.TextMatrix(1, 3), "78");
+  ClickCell(0, 0);
+  EXPECT_EQ(form_.FLEX1.TextMatrix(1, 0), "-1");
+  Dispatch([this] { form_.FLEX1.Column(0).Editable = false; });
+  ClickCell(0, 0);
+  EXPECT_EQ(form_.FLEX1.TextMatrix(1, 0), "-1") << "a column that is not to be ticked";
+}
+
+TEST_F(GridViewTest, ShowsNothingNewWhileTheFormHoldsRedrawBack) {
+  QSignalSpy resets(view_->model(), &QAbstractItemModel::modelReset);
+  Dispatch([this] {
+    form_.FLEX1.Redraw = false;
+    form_.FLEX1.AddItem("사과\t4");
+    Host.DoEvents();
+  });
+  EXPECT_EQ(resets.count(), 0);
+  Dispatch([this] { form_.FLEX1.Redraw = true; });
+  EXPECT_EQ(view_->model()->rowCount(), 4);
+}
+
+TEST_F(GridViewTest, TheTopRowBothWays) {
+  Dispatch([this] {
+    for (int i = 0; i < 500; ++i) form_.FLEX1.AddItem("품목\t" + std::to_string(i));
+    form_.FLEX1.SetTopRow(40);
+  });
+  EXPECT_EQ(view_->rowAt(0), 40);
+  view_->scrollToBottom();
+  EXPECT_GT(form_.FLEX1.TopRow(), 400);
+  Dispatch([this] { form_.FLEX1.SetTopRow(form_.FLEX1.TopRow() + 4000); });
+  EXPECT_EQ(form_.FLEX1.TopRow(), 502) << "never behind the last row";
+}
+
+TEST_F(GridViewTest, TheCellUnderThePointerHasItsOwnTip) {
+  form_.FLEX1.MouseMove = [this](int row, int col) {
+    form_.FLEX1.ToolTipText = form_.FLEX1.TextMatrix(row, col);
+  };
+  QTest::mouseMove(view_->viewport(), view_->visualRect(view_->model()->index(1, 0)).center());
+  EXPECT_EQ(view_->toolTip(), "콜라");
 }
 
 TEST_F(GridViewTest, AWholeItemListFillsWithoutMeasuringRows) {

@@ -22,6 +22,8 @@ TEST_F(MessageBoxTest, KeysAnswer) {
       {box::Question + box::YesNo, Qt::Key_N, box::No},
       {box::Question + box::YesNo, Qt::Key_Enter, box::Yes},
       {box::Question + box::YesNo, Qt::Key_Escape, box::No},
+      {box::Warning + box::OkCancel, Qt::Key_Enter, box::Ok},
+      {box::Warning + box::OkCancel, Qt::Key_Escape, box::Cancel},
       {box::Critical, Qt::Key_Enter, box::Ok},
       {box::Information, Qt::Key_Escape, box::Ok},
       {box::Plain, Qt::Key_Space, box::Ok},
@@ -51,7 +53,7 @@ TEST_F(MessageBoxTest, ShowsWhatTheFormSaid) {
   EXPECT_EQ(text, "저장이 실패하였습니다.\n\n MSG: <b>");
   WhenModal(look);
   ShowMessage("없는 제목", box::Plain, "");
-  EXPECT_EQ(titles, QStringList({"오류", "Tarnwick발주시스템"}));
+  EXPECT_EQ(titles, QStringList({"오류", "TARNWICK"}));
   EXPECT_EQ(signs, QList<bool>({true, false}));
 }
 

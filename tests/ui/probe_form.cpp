@@ -11,7 +11,6 @@
 
 #include "forms/host.h"
 #include "forms/open_forms.h"
-#include "ui/bindings.h"
 #include "ui/desk.h"
 #include "ui/grid_view.h"
 #include "ui/key_button.h"
@@ -26,11 +25,49 @@ ProbeForm::ProbeForm(const std::string& name) : Form(name) {
   Option1[0] = OptionButton("하나");
   Option1[1] = OptionButton("둘");
   TabOrder = {&Text1, &Text2, &FLEX1};
+  PublishControls();
+  Text1.KeyDown = [this](Key key) {
+    if (key == Key::Enter) FocusNext();
+  };
+  Text1.OwnKeys = {Key::Enter};
+  Text2.GotFocus = [this] { Events.emplace_back("Text2 got focus"); };
+  Command1.Click = [this] {
+    Events.emplace_back("Command1");
+    if (OnCommand1) OnCommand1();
+  };
+  for (size_t i = 0; i < Option1.size(); ++i) {
+    Option1[i].Click = [this, i] {
+      for (size_t other = 0; other < Option1.size(); ++other) Option1[other].Value = other == i;
+    };
+  }
+  TabOne1.Click = [this](int tab) {
+    TabOne1.CurrTab = tab;
+    Events.push_back("tab " + std::to_string(tab));
+  };
+  Timer1.Tick = [this] {
+    Events.emplace_back("Timer1");
+    Timer1.Enabled = false;
+  };
   Text1.Change = [this] { Events.push_back("Text1=" + Text1.Text()); };
   Combo1.Click = [this] { Events.push_back("Combo1=" + std::to_string(Combo1.ListIndex())); };
   DTPicker1.Change = [this] { Events.push_back("DTPicker1=" + DTPicker1.Value()); };
   FLEX1.SetColumns({{.Header = "품명", .Alignment = Align::Left},
                     {.Header = "수량", .Alignment = Align::Right, .Format = "#,###"}});
+}
+
+void ProbeForm::PublishControls() {
+  Publish("Text1", Text1);
+  Publish("Text2", Text2);
+  Publish("Command1", Command1);
+  Publish("Label1", Label1);
+  Publish("Combo1", Combo1);
+  Publish("DTPicker1", DTPicker1);
+  Publish("Check1", Check1);
+  Publish("Option1", Option1);
+  Publish("TabOne1", TabOne1);
+  Publish("ProgressBar1", ProgressBar1);
+  Publish("Timer1", Timer1);
+  Publish("FLEX1", FLEX1);
 }
 
 ProbeForm::~ProbeForm() { TheDesk().CloseWindow(*this); }
@@ -52,44 +89,22 @@ bool ProbeForm::Happened(const std::string& event) const {
 
 ProbeWindow::ProbeWindow(ProbeForm& form) : FormWindow(form) {
   auto* places = new QVBoxLayout(this);
-  const auto place = [places](auto* widget) -> auto& {
-    places->addWidget(widget);
-    return *widget;
+  const auto place = [places](const char* name, QWidget* widget) {
+    places->addWidget(Named(name, widget));
   };
-  BindTextBox(*this, "Text1", form.Text1, place(new QLineEdit));
-  BindTextBox(*this, "Text2", form.Text2, place(new QLineEdit));
-  BindPress(*this, "Command1", form.Command1, place(new KeyButton({}, Qt::Key_F9)), [&form] {
-    form.Events.emplace_back("Command1");
-    if (form.OnCommand1) form.OnCommand1();
-  });
-  BindLabel(*this, "Label1", form.Label1, place(new QLabel));
-  BindComboBox(*this, "Combo1", form.Combo1, place(new QComboBox));
-  BindDatePicker(*this, "DTPicker1", form.DTPicker1, place(new QDateEdit));
-  BindCheckBox(*this, "Check1", form.Check1, place(new QCheckBox));
-  for (size_t i = 0; i < form.Option1.size(); ++i) {
-    BindOption(*this, QString("Option1_%1").arg(i), form.Option1[i], place(new QRadioButton),
-               [&form, i] {
-                 for (size_t other = 0; other < form.Option1.size(); ++other) {
-                   form.Option1[other].Value = other == i;
-                 }
-               });
-  }
-  BindTabs(*this, "TabOne1", form.TabOne1, place(new QWidget), [&form](int tab) {
-    form.TabOne1.CurrTab = tab;
-    form.Events.push_back("tab " + std::to_string(tab));
-  });
-  BindProgress(*this, "ProgressBar1", form.ProgressBar1, place(new QProgressBar));
-  BindTimer(*this, form.Timer1, [&form] {
-    form.Events.emplace_back("Timer1");
-    form.Timer1.Enabled = false;
-  });
-  BindGrid(*this, "FLEX1", form.FLEX1, place(new GridView(form.FLEX1)));
-  OnGotFocus(form.Text2, [&form] { form.Events.emplace_back("Text2 got focus"); });
-  OnKey(form.Text1, [&form](Key key) {
-    if (key == Key::Enter) form.FocusNext();
-    return key == Key::Enter;
-  });
-  ChainTabOrder();
+  place("Text1", new QLineEdit);
+  place("Text2", new QLineEdit);
+  place("Command1", new KeyButton({}, Qt::Key_F9));
+  place("Label1", new QLabel);
+  place("Combo1", new QComboBox);
+  place("DTPicker1", new QDateEdit);
+  place("Check1", new QCheckBox);
+  place("Option1_0", new QRadioButton);
+  place("Option1_1", new QRadioButton);
+  place("TabOne1", new QWidget);
+  place("ProgressBar1", new QProgressBar);
+  place("FLEX1", new GridView(form.FLEX1));
+  BindControls();
   resize(400, 500);
 }
 

@@ -46,6 +46,9 @@ class ProbeForm : public Form {
   void Unload() override;
   bool KeyDown(Key key) override;
   bool Happened(const std::string& event) const;
+
+ private:
+  void PublishControls();
 };
 
 class ProbeWindow : public FormWindow {

@@ -22,6 +22,20 @@ TEST_F(TimerBindingTest, ATimerRunsWhileItIsEnabledAndHasAnInterval) {
   EXPECT_EQ(fired(), 1) << "the form switched it off at its first tick";
 }
 
+TEST_F(TimerBindingTest, ARestartCountsAnew) {
+  ProbeForm form;
+  Open(form);
+  Dispatch([&] {
+    form.Timer1.Interval = 400;
+    form.Timer1.Restart();
+  });
+  auto* clock = TheDesk().WindowOf(form)->findChild<QTimer*>();
+  QTest::qWait(50);
+  const int before = clock->remainingTime();
+  Dispatch([&] { form.Timer1.Restart(); });
+  EXPECT_GT(clock->remainingTime(), before);
+}
+
 TEST_F(TimerBindingTest, ATimerOfAClosedFormFiresNoMore) {
   ProbeForm form;
   Open(form);

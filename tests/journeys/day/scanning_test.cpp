@@ -31,8 +31,8 @@ class Scanning : public StoreDay {
         "INSERT INTO PR (PR_CODE,PR_NAME,KD_ID,PR_BCODE,PR_END,PR_TAX2,PR_OP1) VALUES ";
     for (int i = 0; i < kScans; ++i) {
       const std::string number = std::to_string(1000 + i);
-      products += Splice("{0}('S{1}','스캔 {1}','100','{2}','0','0',{1})",
-                         {i > 0 ? "," : "", number, Barcode(i)});
+      products += Splice("{comma}('S{n}','스캔 {n}','100','{barcode}','0','0',{n})",
+                         "comma"_a = i > 0 ? "," : "", "n"_a = number, "barcode"_a = Barcode(i));
     }
     Sql(products);
     LoadItems();

@@ -9,7 +9,6 @@
 #include "forms/open_forms.h"
 #include "gateway/gateway.h"
 #include "order/order_form.h"
-#include "order/order_forms.h"
 #include "receipt/frm_PE_UNIT.h"
 #include "slips/process_state.h"
 #include "start/Main_Start.h"
@@ -187,14 +186,15 @@ TEST_F(Workday, AnOrderGoesOutTheGoodsComeInAndStockMoves) {
   ExpectReceipt(id, "100101", received);
   EXPECT_EQ(StockIn(kWater, "100101"), "12.0000");
   EXPECT_EQ(ParseNumber(StockIn(kTomato, "100101")), tomatoes + 4);
-  EXPECT_EQ(
-      DemoRows(Splice("SELECT CONCAT('[',PR_STD,']'),PR_BCODE,BSQTY,OTQTY FROM IV WHERE "
-                      "RCT_CODE='1001' AND HCT_CODE='100101' AND PR_CODE='{0}'",
-                      {CodeOf(kWater)})),
-      (std::vector<std::vector<std::string>>{
-          {"[" + DemoValue(Splice("SELECT PR_STD FROM PR WHERE PR_CODE='{0}'", {CodeOf(kWater)})) +
-               " ]",
-           "", "0.0000", "0.0000"}}));
+  EXPECT_EQ(DemoRows(Splice("SELECT CONCAT('[',PR_STD,']'),PR_BCODE,BSQTY,OTQTY FROM IV WHERE "
+                            "RCT_CODE='1001' AND HCT_CODE='100101' AND PR_CODE='{water}'",
+                            "water"_a = CodeOf(kWater))),
+            (std::vector<std::vector<std::string>>{
+                {"[" +
+                     DemoValue(Splice("SELECT PR_STD FROM PR WHERE PR_CODE='{water}'",
+                                      "water"_a = CodeOf(kWater))) +
+                     " ]",
+                 "", "0.0000", "0.0000"}}));
   constexpr double total = 58000 + 5800;  // 12 x 4,570 and 4 x 790, with VAT
   EXPECT_EQ(ParseNumber(BalanceIn()), balance + total);
 

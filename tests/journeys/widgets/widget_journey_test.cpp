@@ -93,15 +93,15 @@ Row Totals(const QWidget& window) {
 Table StockRows(const std::string& barcode) {
   return DemoRows(
       Splice("SELECT HCT_CODE,INQTY,PR_NAME,CONCAT('[',PR_STD,']'),PR_UNT,CONCAT('[',PR_BCODE,']'),"
-             "BSQTY,OTQTY FROM IV WHERE RCT_CODE='1001' AND PR_CODE='{0}' ORDER BY HCT_CODE",
-             {CodeOf(barcode)}));
+             "BSQTY,OTQTY FROM IV WHERE RCT_CODE='1001' AND PR_CODE='{barcode}' ORDER BY HCT_CODE",
+             "barcode"_a = CodeOf(barcode)));
 }
 /// Every column of the supplier's balances with the store, a row a month.
 Table BalanceRows() {
   return DemoRows(
       Splice("SELECT CM_MM,CM_M23,CM_MGU,CM_M13,CM_CK FROM CMM WHERE CM_FCTCODE='1001' AND "
-             "CM_TCTCODE='{0}' ORDER BY CM_MM",
-             {kJourneySupplier}));
+             "CM_TCTCODE='{journeySupplier}' ORDER BY CM_MM",
+             "journeySupplier"_a = kJourneySupplier));
 }
 
 /// `rows` after `amount` has come in: column 1 of the row that begins with `key` is raised, or
@@ -122,8 +122,8 @@ Table StockRaised(const Table& rows, const std::string& barcode, int quantity) {
   return Raised(
       rows, kDepot, quantity,
       DemoRows(Splice("SELECT PR_NAME,CONCAT('[',PR_STD,' ]'),PR_UNT,'[]','0.0000','0.0000' FROM "
-                      "PR WHERE PR_BCODE='{0}'",
-                      {barcode}))[0]);
+                      "PR WHERE PR_BCODE='{barcode}'",
+                      "barcode"_a = barcode))[0]);
 }
 Table BalanceRaised(const Table& rows, int total) {
   return Raised(rows, DemoValue("SELECT DATE_FORMAT(NOW(),'%Y%m')"), total, {"C", "0.0000", "0"});
@@ -135,10 +135,11 @@ void ExpectStamped(const std::string& slipId) {
                               std::to_string(Host.Version.Minor) +
                               std::to_string(Host.Version.Revision);
   EXPECT_EQ(
-      DemoRows(Splice("SELECT PE_ID REGEXP CONCAT('^',DATE_FORMAT(NOW(),'%Y%m%d'),'1001u0123[0-9]"
-                      "{4}$'),ABS(TIMESTAMPDIFF(MINUTE,PE_SDATE,NOW()))<5,INPUT_PROGRAM FROM PEM23 "
-                      "WHERE PE_ID='{0}'",
-                      {slipId})),
+      DemoRows(Splice(
+          "SELECT PE_ID REGEXP CONCAT('^',DATE_FORMAT(NOW(),'%Y%m%d'),'1001u0123[0-9]+$'),ABS("
+          "TIMESTAMPDIFF(MINUTE,PE_SDATE,NOW()))<5,INPUT_PROGRAM FROM PEM23 "
+          "WHERE PE_ID='{slipId}'",
+          "slipId"_a = slipId)),
       (Table{{"1", "1", version}}));
 }
 
@@ -234,8 +235,8 @@ void WidgetJourney::ExpectBoard(const std::string& search) {
             "1001   " + DemoValue("SELECT RCT_NAME FROM RCT WHERE RCT_CODE='1001'"));
   const std::string slips = Splice(
       "(SELECT *,(SELECT COUNT(*) FROM PSM22 L WHERE L.PE_ID=H.PE_ID) AS LINES_N FROM PEM22 H "
-      "WHERE PE_FCTCODE='1001' AND PE_LINK='' AND {0}) S",
-      {search});
+      "WHERE PE_FCTCODE='1001' AND PE_LINK='' AND {search}) S",
+      "search"_a = search);
   Table shown = Hands::Rows(Board(), "FLEX1", {1, 2, 3, 4, 5, 6, 7, kSlipIdColumn});
   std::sort(shown.begin(), shown.end(), [](const Row& a, const Row& b) { return a[7] < b[7]; });
   EXPECT_EQ(shown, DemoRows("SELECT REPLACE(PE_PDATE,'-','.'),PE_TCTNAME,ELT(PE_CK+1,'발주편집',"

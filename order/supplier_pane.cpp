@@ -1,11 +1,10 @@
-// Choosing the supplier, which decides prices and, with the option on, which items there are.
+#include "order/supplier_pane.h"
+
 #include "basics/records.h"
 #include "basics/text.h"
 #include "forms/host.h"
 #include "gateway/gateway.h"
-#include "lookup/HELP_CT.h"
-#include "order/order_form.h"
-#include "slips/item_list.h"
+#include "lookup/party_lookups.h"
 
 namespace store {
 namespace {
@@ -13,22 +12,23 @@ namespace {
 std::string SupplierByPhone(const std::string& digits) {
   return Splice(
       "SELECT A.CT_CODE,A.CT_NAME,A.CT_PHONE,A.CT_ADDR1 ,A.CT_ADDR2  FROM   CT A LEFT JOIN CTCOM B "
-      "ON A.CT_CODE = B.CT_CODE  WHERE  A.CT_phone LIKE '%{0}%'  AND B.CT_LEVEL2 IN ('0','1') ",
-      {digits});
+      "ON A.CT_CODE = B.CT_CODE  WHERE  A.CT_phone LIKE '%{digits}%'  AND B.CT_LEVEL2 IN "
+      "('0','1') ",
+      "digits"_a = digits);
 }
 
 std::string SupplierByCode(const std::string& code) {
   return Splice(
       "SELECT A.CT_CODE,A.CT_NAME,A.CT_PHONE,A.CT_ADDR1 ,A.CT_ADDR2  FROM   CT A LEFT JOIN CTCOM B "
-      "ON A.CT_CODE = B.CT_CODE  WHERE  A.CT_CODE = '{0}' AND B.CT_LEVEL2 IN ('0','1') ",
-      {code});
+      "ON A.CT_CODE = B.CT_CODE  WHERE  A.CT_CODE = '{code}' AND B.CT_LEVEL2 IN ('0','1') ",
+      "code"_a = code);
 }
 
 std::string SupplierByName(const std::string& name) {
   return Splice(
       "SELECT A.CT_CODE,A.CT_NAME,A.CT_PHONE,A.CT_ADDR1 ,A.CT_ADDR2  FROM   CT A LEFT JOIN CTCOM B "
-      "ON A.CT_CODE = B.CT_CODE  WHERE  A.CT_NAME LIKE '%{0}%' AND B.CT_LEVEL2 IN ('0','1') ",
-      {name});
+      "ON A.CT_CODE = B.CT_CODE  WHERE  A.CT_NAME LIKE '%{name}%' AND B.CT_LEVEL2 IN ('0','1') ",
+      "name"_a = name);
 }
 
 // With the option on, the store's order settings decide who is a supplier, whatever the partner's
@@ -37,24 +37,24 @@ std::string SetUpSupplierByPhone(const std::string& digits) {
   return Splice(
       "SELECT DISTINCT A.CT_CODE,A.CT_NAME,A.CT_PHONE,A.CT_ADDR1 ,A.CT_ADDR2  FROM   ((SAFEIV LEFT "
       "JOIN CT A ON SAFEIV.CT_CODE = A.CT_CODE) LEFT JOIN CTCOM B ON A.CT_CODE = B.CT_CODE)  WHERE "
-      " RCT_CODE = '{0}' AND A.CT_phone LIKE '%{1}%'   ",
-      {Session.StoreCode, digits});
+      " RCT_CODE = '{store}' AND A.CT_phone LIKE '%{digits}%'   ",
+      "store"_a = Session.StoreCode, "digits"_a = digits);
 }
 
 std::string SetUpSupplierByCode(const std::string& code) {
   return Splice(
       "SELECT DISTINCT A.CT_CODE,A.CT_NAME,A.CT_PHONE,A.CT_ADDR1 ,A.CT_ADDR2  FROM   ((SAFEIV LEFT "
       "JOIN CT A ON SAFEIV.CT_CODE = A.CT_CODE) LEFT JOIN CTCOM B ON A.CT_CODE = B.CT_CODE)  WHERE "
-      " RCT_CODE = '{0}' AND A.CT_CODE = '{1}'  ",
-      {Session.StoreCode, code});
+      " RCT_CODE = '{store}' AND A.CT_CODE = '{code}'  ",
+      "store"_a = Session.StoreCode, "code"_a = code);
 }
 
 std::string SetUpSupplierByName(const std::string& name) {
   return Splice(
       "SELECT DISTINCT A.CT_CODE,A.CT_NAME,A.CT_PHONE,A.CT_ADDR1 ,A.CT_ADDR2  FROM   ((SAFEIV LEFT "
       "JOIN CT A ON SAFEIV.CT_CODE = A.CT_CODE) LEFT JOIN CTCOM B ON A.CT_CODE = B.CT_CODE)  WHERE "
-      " RCT_CODE = '{0}' AND A.CT_NAME LIKE '%{1}%'  ",
-      {Session.StoreCode, name});
+      " RCT_CODE = '{store}' AND A.CT_NAME LIKE '%{name}%'  ",
+      "store"_a = Session.StoreCode, "name"_a = name);
 }
 
 std::string SupplierStatement(const std::string& text) {
@@ -68,40 +68,50 @@ std::string SupplierStatement(const std::string& text) {
 
 }  // namespace
 
-void OrderForm::Text1_Change() {
+SupplierPane::SupplierPane(SlipForm& form) : form_(form) {
+  form.Publish("Label1", Label1);
+  form.Publish("Text1", Text1);
+  form.Publish("LaCTHELP", LaCTHELP);
   // A line's price belongs to the supplier; another name means other prices.
-  FLEX1.SetRows(1);
-  RecalcTotals();
+  Text1.Change = [this] { SupplierChanged(); };
+  Text1.GotFocus = [this] { Text1_GotFocus(); };
+  Text1.KeyDown = [this](Key key) {
+    Text1_KeyDown(key);
+    Text1_KeyPress(key);
+  };
+  Text1.OwnKeys = {Key::F1, Key::Enter};
+  LaCTHELP.Click = [this] { LaCTHELP_Click(); };
 }
 
-void OrderForm::Text1_GotFocus() { Text1.SelectAll(); }
+bool SupplierPane::HasSupplier() const { return !Trim(Text1.Text()).empty() && !Text1.Tag.empty(); }
 
-void OrderForm::Text1_KeyDown(Key key) {
+void SupplierPane::Text1_GotFocus() { Text1.SelectAll(); }
+
+void SupplierPane::Text1_KeyDown(Key key) {
   if (key != Key::F1) return;
   LaCTHELP_Click();
-  SetFocus(inBox);
+  form_.SetFocus(*AfterLookup);
 }
 
-void OrderForm::Text1_KeyPress(Key key) {
+void SupplierPane::Text1_KeyPress(Key key) {
   if (key != Key::Enter) return;
   std::int16_t found = 0;
   FindSupplier(Text1, found);
   if (found != 0) {
-    FocusNext();
+    form_.FocusNext();
   } else {
-    SetFocus(Text1);
+    form_.SetFocus(Text1);
   }
 }
 
-void OrderForm::FindSupplier(TextBox& box, std::int16_t& found) {
+void SupplierPane::FindSupplier(TextBox& box, std::int16_t& found) {
   SqlText = SupplierStatement(box.Text());
   StringTable suppliers;
   std::int32_t rows = 0;
   std::int32_t highestColumn = 0;
   QueryRows(SqlText, suppliers, rows, highestColumn);
   if (rows == 1) {
-    box.SetText(suppliers.At(1, 1));
-    box.Tag = suppliers.At(1, 0);
+    TakeSupplier(box, suppliers.At(1, 0), suppliers.At(1, 1));
   } else {
     ChooseSupplier(box, "");
   }
@@ -109,25 +119,27 @@ void OrderForm::FindSupplier(TextBox& box, std::int16_t& found) {
   FollowSupplier();
 }
 
-void OrderForm::ChooseSupplier(TextBox& box, const std::string& lookupTable) {
+void SupplierPane::ChooseSupplier(TextBox& box, const std::string& lookupTable) {
   HELP_CT lookup;
   lookup.Text1.SetText(box.Text());
   lookup.SlipTable = lookupTable;
   Host.ShowModal(lookup);
-  box.SetText(lookup.ResultName);
-  box.Tag = lookup.ResultCode;
+  TakeSupplier(box, lookup.ResultCode, lookup.ResultName);
 }
 
-void OrderForm::FollowSupplier() {
-  const Hourglass waiting;
-  if (AppOptions.OrderInfoPartnersOnly == 1) OpenScopedItemList(Text1.Tag);
-  FillKindGrid(PRHELP, 1, "");
+void SupplierPane::TakeSupplier(TextBox& box, const std::string& code, const std::string& name) {
+  // Two suppliers may bear one name: the code says whose prices stand in the lines.
+  const bool sameName = box.Text() == name;
+  const bool otherCode = box.Tag != code;
+  box.SetText(name);
+  box.Tag = code;
+  if (sameName && otherCode) SupplierChanged();
 }
 
-void OrderForm::LaCTHELP_Click() {
-  ChooseSupplier(Text1, SlipTable);
+void SupplierPane::LaCTHELP_Click() {
+  ChooseSupplier(Text1, form_.SlipTable);
   FollowSupplier();
-  SetFocus(inBox);
+  form_.SetFocus(*AfterLookup);
 }
 
 }  // namespace store

@@ -1,0 +1,160 @@
+#include "order/item_box_pane.h"
+
+#include "basics/dates.h"
+#include "basics/formats.h"
+#include "basics/numbers.h"
+#include "basics/records.h"
+#include "basics/text.h"
+#include "forms/host.h"
+#include "gateway/gateway.h"
+#include "slips/item_list.h"
+#include "slips/unit_price.h"
+
+namespace store {
+namespace {
+
+constexpr int kShortestSearch = 5;    // characters; what is shorter is a quantity
+constexpr int kWarningStands = 5000;  // milliseconds
+
+}  // namespace
+
+ItemBoxPane::ItemBoxPane(SlipForm& form, const SupplierPane& supplier, PickListPane& pickList,
+                         const OrderTypeChoices& choices)
+    : LinesPane(form, order_line::Money, BoxKeys::LeadToLines),
+      form_(form),
+      supplier_(supplier),
+      pickList_(pickList),
+      choices_(choices) {
+  SetUpLines();
+  form.Publish("Label6", Label6);
+  form.Publish("Timer1", Timer1);
+  inBox.ToolTipText = "(,) + (찾는문자열) = 품목찾기       (.) + (찾는문자열) = 규격찾기 ";
+  inBox.KeyDown = [this](Key key) {
+    inBox_KeyDown(key);
+    inBox_KeyPress(key);
+  };
+  FLEX1.KeyDown = [this](Key key) { FLEX1_KeyDown(key); };
+  Timer1.Interval = kWarningStands;
+  Timer1.Tick = [this] { Timer1_Timer(); };
+}
+
+void ItemBoxPane::SetUpLines() {
+  FLEX1.SetColumns({
+      {.Header = "No.", .Width = 330, .Alignment = Align::Center},
+      {.Header = "품목코드", .Width = 810, .Alignment = Align::Left, .Hidden = true},
+      {.Header = "품명", .Width = 2055, .Alignment = Align::Left},
+      {.Header = "규격", .Width = 1620, .Alignment = Align::Left, .Hidden = true},
+      {.Header = "세액구분", .Width = 1290, .Alignment = Align::Left, .Hidden = true},
+      {.Header = "단가", .Width = 855, .Alignment = Align::Right, .Format = kMaskUpToCents},
+      {.Header = "최소발주", .Width = 810, .Alignment = Align::Right, .Hidden = true},
+      {.Header = "발주량", .Width = 840, .Alignment = Align::Right, .Format = kMaskUpToCents},
+      {.Header = "공급가액", .Width = 1095, .Alignment = Align::Right, .Format = kMaskWhole},
+      {.Header = "부가세액", .Width = 1035, .Alignment = Align::Right, .Format = kMaskWhole},
+      {.Header = "합계금액", .Width = 900, .Alignment = Align::Right},
+  });
+}
+
+void ItemBoxPane::inBox_KeyPress(Key key) {
+  if (key != Key::Enter) return;
+  if (!supplier_.HasSupplier()) {
+    Host.MsgBox("발주처를 선택하세요.          ", box::Critical, "발주처");
+    AddInProgress = 0;
+    return;
+  }
+  const std::string entry = Trim(inBox.Text());
+  if (entry.empty()) return;
+  const bool search =
+      CharLength(entry) >= kShortestSearch || entry.front() == ',' || entry.front() == '.';
+  if (search) {
+    SearchItems();
+  } else if (FLEX1.Row() > 0) {
+    ApplyQuantity(FLEX1.Row());
+  }
+}
+
+std::string ItemBoxPane::SearchCriteria(const std::string& text) const {
+  if (AddInProgress != 0) return Splice(" PR_CODE  = '{text}'", "text"_a = text);
+  if (text.front() == ',') {
+    return Splice(" PR_NAME  LIKE '%{text}%'", "text"_a = MidChars(text, 2));
+  }
+  if (text.front() == '.') {
+    return Splice(" PR_STD   LIKE '%{text}%'", "text"_a = MidChars(text, 2));
+  }
+  return choices_.BarcodeCriteria(text);
+}
+
+void ItemBoxPane::SearchItems() {
+  SetFilter(SlotC, SearchCriteria(inBox.Text()));
+  std::int16_t count = 0;
+  ToInt16(RecordCountOf(SlotC), count);
+  if (count == 1) {
+    AddItemLine();
+    return;
+  }
+  if (count > 1) {
+    pickList_.FillPickGrid();
+  } else {
+    Host.MsgBox("선택된 품목이 없습니다.           ", box::Critical, "품목없음");
+  }
+  inBox.SetText("");
+}
+
+void ItemBoxPane::AddItemLine() {
+  const std::string code = ItemText(item::Code);
+  RemoveLinesOf(code);
+  double price = 0;
+  if (form_.NoPriceMode == 0) {
+    price = ResolveUnitPrice(supplier_.Text1.Tag, code, FormatDateValue(Today(), "YYYY-MM-DD"), "",
+                             "23", "J");
+    if (AppOptions.OrderZeroPrice == 0 && price == 0) {
+      RefuseForPrice();
+      return;
+    }
+  }
+  FLEX1.AddItem("\t" + code + "\t" + ItemText(item::Barcode) + "\r " + ItemText(item::Name) + "\t" +
+                    ItemText(item::Standard) + "\t" + ItemText(item::TaxKind) + "\t" +
+                    NumberText(price) + "\t\t" + choices_.FirstQuantity,
+                1);
+  FLEX1.SetRow(1);
+  RecalcLine(1);
+  inBox.SetText("");
+}
+
+void ItemBoxPane::RefuseForPrice() {
+  // The item's former line is gone for good, and a header must never count what it does not hold.
+  RecalcTotals();
+  inBox.SetText("");
+  AddAccepted = 0;
+  Label6.Caption = "본부정책오류: " + ItemText(item::Name) + "의 단가가 정의되지 않았습니다.";
+  Timer1.Restart();
+}
+
+void ItemBoxPane::AddFromCode(const std::string& productCode) {
+  AddInProgress = -1;
+  inBox.SetText(productCode);
+  inBox_KeyPress(Key::Enter);
+  AddInProgress = 0;
+}
+
+void ItemBoxPane::ApplyQuantity(int row) {
+  FLEX1.SetTextMatrix(row, order_line::Money.Quantity, NumberText(TypedQuantity(inBox.Text())));
+  RecalcLine(row);
+  inBox.SetText("");
+}
+
+void ItemBoxPane::RemoveLinesOf(const std::string& productCode) {
+  for (int row = FLEX1.Rows() - 1; row >= 1; --row) {
+    if (FLEX1.TextMatrix(row, order_line::Code) == productCode) FLEX1.RemoveItem(row);
+  }
+}
+
+void ItemBoxPane::FLEX1_KeyDown(Key key) {
+  if (key == Key::Delete) RemoveCurrentLine();
+}
+
+void ItemBoxPane::Timer1_Timer() {
+  Timer1.Enabled = false;
+  Label6.Caption.clear();
+}
+
+}  // namespace store

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "forms/form.h"
+#include "forms/grid.h"
+#include "order/order_type.h"
+
+namespace store {
+
+/// The pick list: items of a search or a category, with a quantity column to type into.
+class PickListPane {
+ public:
+  PickListPane(Form& form, const OrderTypeChoices& choices);
+  PickListPane(const PickListPane&) = delete;
+  PickListPane& operator=(const PickListPane&) = delete;
+
+  Grid FLEX2;
+
+  bool FLEX2_BeforeEdit(int row, int col);  ///< True when the cell may be edited.
+  void FLEX2_AfterEdit(int row, int col);
+  void FLEX2_RowColChange();
+  void FLEX2_KeyDown(Key key);
+
+  /// Lists the items that the filter of `SlotC` lets pass.
+  void FillPickGrid();
+  /// Leads the keyboard into the list, to its first item unless one is current.
+  void WalkToPickList();
+
+ protected:
+  ~PickListPane() = default;
+
+  /// A quantity was typed beside an item.
+  std::function<void(const std::string& code, const std::string& quantity)> QuantityEntered;
+  /// What the item has sold is asked for.
+  std::function<void(const std::string& code, const std::string& name)> HistoryWanted;
+
+ private:
+  Form& form_;
+  const PickColumns& columns_;
+};
+
+}  // namespace store

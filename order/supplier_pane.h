@@ -1,0 +1,49 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <string>
+
+#include "slips/slip_form.h"
+
+namespace store {
+
+/// Choosing the supplier of an order, which decides prices and, with the option on, which items
+/// there are. `Text1` shows the name and keeps the code in its Tag.
+class SupplierPane {
+ public:
+  explicit SupplierPane(SlipForm& form);
+  SupplierPane(const SupplierPane&) = delete;
+  SupplierPane& operator=(const SupplierPane&) = delete;
+
+  Label Label1{"발주처"};
+  TextBox Text1;
+  Label LaCTHELP;  ///< Opens the supplier lookup.
+
+  void Text1_GotFocus();
+  void Text1_KeyDown(Key key);
+  void Text1_KeyPress(Key key);
+  void LaCTHELP_Click();
+
+  /// Whether both name and code are there.
+  bool HasSupplier() const;
+
+ protected:
+  ~SupplierPane() = default;
+
+  /// Another supplier, or another text in the box: prices and lines of the former one are void.
+  std::function<void()> SupplierChanged;
+  /// A choice was made, or tried: what depends on the supplier is read anew.
+  std::function<void()> FollowSupplier;
+  /// Where the keyboard goes after the lookup.
+  Control* AfterLookup = nullptr;
+
+ private:
+  void FindSupplier(TextBox& box, std::int16_t& found);
+  void ChooseSupplier(TextBox& box, const std::string& lookupTable);
+  void TakeSupplier(TextBox& box, const std::string& code, const std::string& name);
+
+  SlipForm& form_;
+};
+
+}  // namespace store
