@@ -16,7 +16,14 @@ class Sheet : public Form {
   bool QueryUnload() override { return MayClose; }
   void Unload() override { ++Unloads; }
 
+  bool KeyDown(Key key) override {
+    Seen.push_back(key);
+    return key == UsesUp;
+  }
+
   TextBox First, Second, Third;
+  std::vector<Key> Seen;
+  Key UsesUp = Key::None;
   bool MayClose = true;
   int Loads = 0;
   int Unloads = 0;
@@ -51,6 +58,22 @@ TEST_F(FormTest, TabSkipsWhatCannotTakeTheFocusAndGoesRound) {
   sheet.FocusNext();
   EXPECT_EQ(sheet.ActiveControl, &sheet.First);
   EXPECT_NE(sheet.FocusRevision(), before);
+}
+
+TEST_F(FormTest, AKeyGoesToTheFormAndThenToItsControlUnlessTheFormHasUsedItUp) {
+  Sheet& sheet = Open();
+  std::vector<Key> seen;
+  sheet.SetFocus(sheet.First);
+  sheet.First.KeyDown = [&](Key key) { seen.push_back(key); };
+  sheet.First.OwnKeys = {Key::F1};
+  sheet.UsesUp = Key::Escape;
+  EXPECT_TRUE(sheet.Press(Key::Escape));
+  EXPECT_TRUE(sheet.Press(Key::F1)) << "form and control have both seen it";
+  EXPECT_FALSE(sheet.Press(Key::F9));
+  EXPECT_EQ(seen, (std::vector<Key>{Key::F1, Key::F9}));
+  EXPECT_EQ(sheet.Seen, (std::vector<Key>{Key::Escape, Key::F1, Key::F9}));
+  sheet.First.Enabled = false;
+  EXPECT_FALSE(sheet.Press(Key::F1)) << "a disabled control has no keys";
 }
 
 TEST_F(FormTest, StaysOpenWhenItObjects) {

@@ -72,12 +72,6 @@ TEST_F(Login, OnlyACancelledWindowEndsTheProgram) {
   EXPECT_TRUE(ProgramEnding());
 }
 
-TEST_F(Login, OffersTheOptions) {
-  host.OnModal("frmOptions");
-  EXPECT_TRUE(form.KeyDown(Key::F10));
-  EXPECT_FALSE(form.KeyDown(Key::F9));
-}
-
 TEST_F(Login, OfAnInstanceThatCameUpMeanwhileEndsTheLaterOne) {
   host.OtherInstance = true;
   host.ExpectBox("현재 프로그램이 실행중입니다.      ");
@@ -85,16 +79,6 @@ TEST_F(Login, OfAnInstanceThatCameUpMeanwhileEndsTheLaterOne) {
   Host.ShowModal(late);
   EXPECT_TRUE(host.Ended);
   EXPECT_TRUE(late.IsClosed());
-}
-
-TEST_F(Login, OnADeadServerLooksLikeAnUnknownUserUntilItIsBack) {
-  TestServer().Kill();
-  host.ExpectBox("사용자정보 오류입니다.");
-  Press("e01", "pw1");
-  TestServer().Start();
-  Press("e01", "pw1");
-  EXPECT_TRUE(form.IsClosed());
-  EXPECT_EQ(Session.UserCode, "e01");
 }
 
 TEST_F(Login, OnAServiceThatIsNotThereLooksLikeAnUnknownUser) {

@@ -72,6 +72,26 @@ TEST_F(OptionsForm, WritesAllOnceTheCompanyIsFoundAndLeavesTheRunAtTheDirectory)
   }
 }
 
+TEST_F(OptionsForm, EachCheckBoxStandsForItsOwnKey) {
+  const std::pair<CheckBox frmOptions::*, const char*> boxes[] = {
+      {&frmOptions::Check1, "단가[0]발주"},
+      {&frmOptions::Check2, "발주정보거래처"},
+      {&frmOptions::Check3, "입고량0제외"},
+      {&frmOptions::Check4, "타입A중분류표기"}};
+  for (const auto& [ticked, tickedKey] : boxes) {
+    frmOptions form;
+    Host.Show(form);
+    for (const auto& [box, key] : boxes) (form.*box).Value = box == ticked ? 1 : 0;
+    form.cmdApply_Click();
+    frmOptions again;
+    Host.Show(again);
+    for (const auto& [box, key] : boxes) {
+      EXPECT_EQ(Stored(key), box == ticked ? "1" : "0") << tickedKey << ", " << key;
+      EXPECT_EQ((again.*box).Value, box == ticked ? 1 : 0) << tickedKey << ", " << key;
+    }
+  }
+}
+
 TEST_F(OptionsForm, WithoutAnOrderFormLeavesTheStoredOne) {
   Store("발주타입", "2");
   frmOptions form;
@@ -108,18 +128,6 @@ TEST_F(OptionsForm, WritesNothingForACompanyItCannotFind) {
     form.cmdCancel_Click();
     EXPECT_TRUE(form.IsClosed());
   }
-}
-
-TEST_F(OptionsForm, OnADeadDirectoryCanBeAppliedOnceItIsBack) {
-  frmOptions form;
-  Host.Show(form);
-  TestServer().Kill();
-  host.ExpectBox("해당하는 회사ID가 없습니다");
-  form.cmdApply_Click();
-  EXPECT_FALSE(form.IsClosed());
-  TestServer().Start();
-  form.cmdApply_Click();
-  EXPECT_TRUE(form.IsClosed());
 }
 
 TEST_F(OptionsForm, TellsOfEveryKeyThatCouldNotBeWrittenAndCloses) {

@@ -93,7 +93,22 @@ void PrivateServer::Signal(int number) const {
   if (!(file >> pid) || kill(pid, number) != 0) ADD_FAILURE() << "no server to signal";
 }
 
-void PrivateServer::Freeze() { Signal(SIGSTOP); }
+void PrivateServer::Freeze() {
+  Signal(SIGSTOP);
+  // A signal is on its way when it has been sent; each thread stops when it meets it.
+  const auto standsStill = [this] {
+    std::ifstream file(folder_ + "/server.pid");
+    std::string pid;
+    file >> pid;
+    for (const auto& task : std::filesystem::directory_iterator("/proc/" + pid + "/task")) {
+      std::ifstream status(task.path() / "status");
+      const std::string text{std::istreambuf_iterator<char>(status), {}};
+      if (text.find("\nState:\tT") == std::string::npos) return false;
+    }
+    return true;
+  };
+  while (!standsStill()) usleep(1000);
+}
 void PrivateServer::Thaw() { Signal(SIGCONT); }
 
 std::string PrivateServer::ServerOption() const {

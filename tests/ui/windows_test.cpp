@@ -1,0 +1,96 @@
+// The windows of the program's own forms, without a database and without being shown.
+#include <QGridLayout>
+#include <QLabel>
+#include <QtTest>
+
+#include "board/frm_Start.h"
+#include "lookup/HELP_BPR.h"
+#include "lookup/party_lookups.h"
+#include "order/order_form.h"
+#include "receipt/frm_PE_UNIT.h"
+#include "start/frmLogin.h"
+#include "start/frmOptions.h"
+#include "start/frmSplash.h"
+#include "tests/ui/probe_form.h"
+#include "ui/history_chart_view.h"
+#include "ui/store_windows.h"
+#include "ui/style.h"
+#include "ui/window_registry.h"
+
+namespace store {
+namespace {
+
+class WindowsTest : public DeskTest {
+ protected:
+  void SetUp() override {
+    DeskTest::SetUp();
+    RegisterStoreWindows();
+  }
+};
+
+TEST_F(WindowsTest, EveryControlThatAFormPublishesHasItsWidget) {
+  std::vector<std::unique_ptr<Form>> forms;
+  forms.push_back(std::make_unique<frmLogin>());
+  forms.push_back(std::make_unique<frmSplash>());
+  forms.push_back(std::make_unique<frmOptions>());
+  forms.push_back(std::make_unique<frm_Start>());
+  forms.push_back(std::make_unique<OrderForm>(BasicOrderType()));
+  forms.push_back(std::make_unique<frm_PE_UNIT>());
+  forms.push_back(std::make_unique<HELP_CT>());
+  forms.push_back(std::make_unique<HELP_HCT>());
+  forms.push_back(std::make_unique<HELP_BPR>());
+  for (const auto& form : forms) {
+    const std::unique_ptr<FormWindow> window(MakeWindow(*form));
+    ASSERT_NE(window, nullptr) << form->Name;
+    EXPECT_EQ(window->ControlsWithoutWidget(), std::vector<std::string>()) << form->Name;
+  }
+}
+
+TEST_F(WindowsTest, EachValueOfAPartnerStandsBesideItsCaption) {
+  frm_Start board;
+  const std::unique_ptr<FormWindow> window(MakeWindow(board));
+  // Name, number, phone, fax, owner, owner's phone, mail, contact, contact's phone, mail, address.
+  const std::array<const char*, 11> captions = {"발 주 처", "사 업 자", "전    화", "팩    스",
+                                                "대 표 자", "휴 대 폰", "메    일", "담 당 자",
+                                                "휴 대 폰", "메    일", "주    소"};
+  for (int i = 0; i < static_cast<int>(captions.size()); ++i) {
+    auto* value = window->findChild<QLabel*>(QString("LaCT_%1").arg(i));
+    ASSERT_NE(value, nullptr);
+    auto* pairs = qobject_cast<QGridLayout*>(value->parentWidget()->layout());
+    int row = 0;
+    int column = 0;
+    int span = 0;
+    pairs->getItemPosition(pairs->indexOf(value), &row, &column, &span, &span);
+    const QWidget* caption = pairs->itemAtPosition(row, column - 1)->widget();
+    EXPECT_EQ(qobject_cast<const QLabel*>(caption)->text(), captions[static_cast<size_t>(i)]) << i;
+  }
+}
+
+TEST_F(WindowsTest, BarsOfTheChartAreAsHighAsTheirRows) {
+  OrderForm form{BasicOrderType()};
+  Grid& chart = form.PRGHP;
+  chart.SetRows(history::Rows);
+  const auto leave = [&](int day, int bars) {
+    for (int row = history::Offset; row < history::Rows - bars; ++row) {
+      chart.SetBackColor(row, day, 0xFFFFFF);
+    }
+  };
+  for (int day = 1; day <= history::Days; ++day) leave(day, day == 1 ? 10 : day == 2 ? 5 : 0);
+  HistoryChartView view(chart);
+  view.resize(800, view.sizeHint().height());
+  const QImage picture = view.grab().toImage();
+  const auto height = [&](int day) {
+    int pixels = 0;
+    const int x = 6 + (picture.width() - 12) * (2 * day - 1) / (2 * history::Days);
+    for (int y = 0; y < picture.height(); ++y) {
+      pixels += picture.pixelColor(x, y) == QColor(look::Accent) ? 1 : 0;
+    }
+    return pixels;
+  };
+  EXPECT_GT(height(1), 40);
+  EXPECT_NEAR(height(1), 2 * height(2), 2);
+  EXPECT_EQ(height(3), 0);
+}
+
+}  // namespace
+}  // namespace store
