@@ -5,8 +5,6 @@
 
 namespace store {
 
-/// The statement of the item list, its 11 columns.
-const char* ItemListStatement();
 /// The supplier of the orders that are written.
 constexpr const char* kSupplier = "10006";
 
@@ -20,6 +18,7 @@ void BenchSmallRead(RatioTable& table);
 void BenchBoard(BenchServer& server, RatioTable& table);
 void BenchPickList(RatioTable& table);
 void BenchScan(BenchServer& server, RatioTable& table);
+void BenchKeyPress(RatioTable& table);
 void BenchExport(BenchServer& server, RatioTable& table);
 /// Needs the demo of 3,000 items to be loaded.
 void BenchStart(BenchServer& server, RatioTable& table);

@@ -52,10 +52,10 @@ void BenchBoard(BenchServer& server, RatioTable& table) {
   refresh();
   const std::vector<std::string> selects = BoardSelects(server.Port(), refresh);
   table.AddTimes("board refreshed and drawn, against its two SELECTs",
-                 Fight(kRounds, refresh,
-                       [&] {
-                         for (const std::string& select : selects) client.ReadAll(select);
-                       }),
+                 MeasureBoth(kRounds, refresh,
+                             [&] {
+                               for (const std::string& select : selects) client.ReadAll(select);
+                             }),
                  1.5);
   std::printf("  %d slips, %zu SELECTs\n", board.FLEX1.Rows() - 1, selects.size());
   ClearDesk();

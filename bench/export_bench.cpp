@@ -11,6 +11,7 @@
 #include "gateway/gateway.h"
 #include "lookup/export_grid.h"
 #include "lookup/lookup_grid.h"
+#include "slips/item_list.h"
 
 namespace store {
 namespace {
@@ -71,7 +72,7 @@ void BenchExport(BenchServer& server, RatioTable& table) {
   const std::string path = server.Folder() + "/peer.xlsx";
   table.AddTimes(
       "grid exported, against libxlsxwriter alone",
-      Fight(
+      MeasureBoth(
           kRounds, [&] { ExportGrid(grid); }, [&] { WriteByLibrary(cells, grid.Cols(), path); }),
       1.2);
   std::printf("  %d rows of %d columns\n", grid.Rows(), grid.Cols());

@@ -94,11 +94,11 @@ void BenchFilters(RatioTable& table) {
     std::printf("  %s, \"%s\": %d hits\n", n.kind, n.needle, RecordCountOf(SlotC));
     table.AddTimes(
         std::string("filter by ") + n.kind + ", against std::string::find",
-        Fight(
+        MeasureBoth(
             kRounds, [&] { FilterName(n.needle); }, [&] { FindLoop(names, n.asItStands); }),
         0.5);
     table.AddTimes(std::string("filter by ") + n.kind + ", against SQLite in memory",
-                   Fight(
+                   MeasureBoth(
                        5, [&] { FilterName(n.needle); }, [&] { sqlite.Find(n.needle); }),
                    0.1);
   }
@@ -106,14 +106,14 @@ void BenchFilters(RatioTable& table) {
   const std::string code = codes[codes.size() / 2];
   table.AddTimes(
       "filter by barcode, against std::string::find",
-      Fight(
+      MeasureBoth(
           kRounds,
           [&] { SetFilter(SlotC, Splice(" PR_BCODE  like '{barcode}%'", "barcode"_a = barcode)); },
           [&] { FindLoop(barcodes, barcode); }),
       0.3);
   table.AddTimes(
       "filter by product code, against std::string::find",
-      Fight(
+      MeasureBoth(
           kRounds, [&] { SetFilter(SlotC, Splice(" PR_CODE  = '{code}'", "code"_a = code)); },
           [&] { FindLoop(codes, code); }),
       0.3);
@@ -126,7 +126,7 @@ void BenchGrowth(BenchServer& server, int items) {
     server.Load(database, count, 200);
     ConnectTo(server.Port(), database);
     const auto shortest = [](int rounds, const std::function<void()>& work) {
-      return Fight(rounds, work, [] {}).Ours * 1000;
+      return MeasureBoth(rounds, work, [] {}).Ours * 1000;
     };
     const double read = shortest(5, [] { OpenRecordset(SlotC, ItemListStatement()); });
     const double name = shortest(kRounds, [] { FilterName("암반수"); });

@@ -22,6 +22,7 @@ void StartUp() {
 void BenchWindows(BenchServer& server, RatioTable& table) {
   StartUp();
   BenchScan(server, table);
+  BenchKeyPress(table);
   BenchPickList(table);
   BenchExport(server, table);
   BenchBoard(server, table);

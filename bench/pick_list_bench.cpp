@@ -59,7 +59,7 @@ void BenchPickList(RatioTable& table) {
   Duel best{1e9, 1e9};
   for (int round = 0; round < kRounds; ++round) {
     peer.Empty();
-    const Duel duel = Fight(
+    const Duel duel = MeasureBoth(
         1,
         [&] {
           hand.Scan(",");

@@ -12,7 +12,7 @@ double TimeOf(const std::function<void()>& work) {
   return std::chrono::duration<double>(std::chrono::steady_clock::now() - begin).count();
 }
 
-Duel Fight(int rounds, const std::function<void()>& ours, const std::function<void()>& peer) {
+Duel MeasureBoth(int rounds, const std::function<void()>& ours, const std::function<void()>& peer) {
   Duel best{1e9, 1e9};
   for (int round = 0; round < rounds; ++round) {
     best.Ours = std::min(best.Ours, TimeOf(ours));

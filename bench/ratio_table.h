@@ -14,7 +14,7 @@ struct Duel {
   double Ours;
   double Peer;
 };
-Duel Fight(int rounds, const std::function<void()>& ours, const std::function<void()>& peer);
+Duel MeasureBoth(int rounds, const std::function<void()>& ours, const std::function<void()>& peer);
 
 /// The lines that are measured against a goal.
 class RatioTable {

@@ -8,8 +8,12 @@
 #include "bench/client_library.h"
 #include "bench/delay_proxy.h"
 #include "bench/desk_hand.h"
+#include "forms/open_forms.h"
 #include "gateway/gateway.h"
+#include "order/order_form.h"
+#include "slips/item_list.h"
 #include "slips/unit_price.h"
+#include "ui/desk.h"
 
 namespace store {
 namespace {
@@ -39,7 +43,7 @@ double PriceLookups(int rounds, const std::vector<Item>& items) {
   const auto lookUpAll = [&] {
     for (const Item& item : items) ResolveUnitPrice(kSupplier, item.Code, today, "", "23", "J");
   };
-  return Fight(rounds, lookUpAll, [] {}).Ours;
+  return MeasureBoth(rounds, lookUpAll, [] {}).Ours;
 }
 
 class Scans {
@@ -54,7 +58,7 @@ class Scans {
   Duel Measure(int port, int rounds) {
     ConnectTo(port);
     ClientLibrary client(port);
-    const Duel duel = Fight(
+    const Duel duel = MeasureBoth(
         rounds, [this] { ScanAll(); },
         [&] {
           for (const std::string& select : selects_) client.ReadAll(select);
@@ -82,7 +86,40 @@ class Scans {
   std::vector<std::string> selects_;
 };
 
+/// The shortest of many key presses into the item box, each with its windows brought into line.
+double KeyPressTime(DeskHand& hand) {
+  constexpr int kPresses = 200;
+  double shortest = 1e9;
+  for (int i = 0; i < kPresses; ++i) {
+    shortest = std::min(shortest, TimeOf([&] { hand.Press(Qt::Key_A, "a"); }));
+    hand.Press(Qt::Key_Backspace);
+  }
+  return shortest;
+}
+
+/// With so many lines in the order.
+double KeyPressTimeAt(DeskHand& hand, OrderForm& order, int lines) {
+  Dispatch([&] {
+    order.FLEX1.SetRows(1);
+    for (int i = 0; i < lines; ++i) {
+      order.FLEX1.AddItem("\t1000001\t8801\r 우유\t\t0\t1000\t\t5\t5000\t500\t5500");
+    }
+  });
+  hand.Draw();
+  return KeyPressTime(hand);
+}
+
 }  // namespace
+
+void BenchKeyPress(RatioTable& table) {
+  DeskHand hand("frm_Order", "FLEX1");
+  auto& order = dynamic_cast<OrderForm&>(*OpenForm("frm_Order"));
+  Dispatch([&] { order.SetFocus(order.inBox); });
+  const double few = KeyPressTimeAt(hand, order, 3);
+  const double many = KeyPressTimeAt(hand, order, 300);
+  table.AddTimes("a key press in an order of 300 lines, against one of 3", {many, few}, 1.2);
+  ClearDesk();
+}
 
 void BenchScan(BenchServer& server, RatioTable& table) {
   OpenRecordset(SlotC, ItemListStatement());
@@ -94,7 +131,6 @@ void BenchScan(BenchServer& server, RatioTable& table) {
     table.AddTimes("the same with 10 ms of delay each way", scans.Measure(far.Port(), 3), 1.2);
   }
   ConnectTo(server.Port());
-  QueryText("SELECT 1", "");  // lets go of the far connection
   ClearDesk();
 }
 

@@ -34,7 +34,7 @@ void BenchSmallRead(RatioTable& table) {
   std::int32_t count = 0;
   std::int32_t highest = 0;
   table.AddTimes("200 small QueryRows, against one connection kept open",
-                 Fight(
+                 MeasureBoth(
                      9,
                      [&] {
                        for (int i = 0; i < kReads; ++i) QueryRows(kDepots, rows, count, highest);

@@ -6,11 +6,6 @@
 namespace store {
 namespace {
 
-std::string ItemListStatement() {
-  return " SELECT PR_CODE,PR_NAME,PR_STD,PR_UNT,PR_TAX2,PR_PTNO,' ',' ',PR_BCODE,' ',KD_ID FROM PR "
-         "WHERE PR_END = '0' ORDER BY PR_NAME";
-}
-
 std::string ScopedItemList(const std::string& supplier) {
   return Splice(
       "SELECT PR.PR_CODE,PR_NAME,PR_STD,PR_UNT,PR_TAX2,PR_PTNO,' ',' ',PR.PR_BCODE,' ',KD_ID FROM "
@@ -21,6 +16,11 @@ std::string ScopedItemList(const std::string& supplier) {
 }
 
 }  // namespace
+
+std::string ItemListStatement() {
+  return " SELECT PR_CODE,PR_NAME,PR_STD,PR_UNT,PR_TAX2,PR_PTNO,' ',' ',PR_BCODE,' ',KD_ID FROM PR "
+         "WHERE PR_END = '0' ORDER BY PR_NAME";
+}
 
 void OpenItemList() { OpenRecordset(SlotC, ItemListStatement()); }
 

@@ -16,7 +16,9 @@ inline constexpr int Barcode = 8;    ///< PR_BCODE
 inline constexpr int KindId = 10;    ///< KD_ID
 }  // namespace item
 
-/// Reads every item that is sold into `SlotC`, by name.
+/// The statement of the whole list: every item that is sold, by name.
+std::string ItemListStatement();
+/// Reads it into `SlotC`.
 void OpenItemList();
 
 /// Reads into `SlotC` the items that the store's order settings (SAFEIV) name for a supplier. The
