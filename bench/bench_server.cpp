@@ -1,7 +1,5 @@
 #include "bench/bench_server.h"
 
-#include <unistd.h>
-
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
@@ -11,23 +9,26 @@
 
 #include "basics/records.h"
 #include "gateway/gateway.h"
-#include "private_db/free_port.h"
 
 namespace store {
 namespace {
 
-std::string folderInUse;
+PrivateDbServer* serverInUse = nullptr;
+bool ending = false;
 
 /// Ends the server and takes its folder away, once.
 void CleanUp() {
   static std::once_flag done;
   std::call_once(done, [] {
-    const std::string command =
-        std::string(STORE_PRIVATE_DB) + " kill " + folderInUse + " </dev/null";
-    if (std::system(command.c_str()) != 0) std::fprintf(stderr, "store_bench: the server stays\n");
-    std::error_code ignored;
-    std::filesystem::remove_all(folderInUse, ignored);
+    ending = true;
+    serverInUse->TakeAway();
   });
+}
+
+/// A run without its server has nothing to measure; what fails while it ends is only told.
+void Fail(const std::string& what) {
+  std::fprintf(stderr, "store_bench: %s\n", what.c_str());
+  if (!ending) std::exit(2);
 }
 
 /// The server is a process of its own and would outlive a run that somebody breaks off.
@@ -46,32 +47,18 @@ void CleanUpWhenBrokenOff() {
 
 }  // namespace
 
-BenchServer::BenchServer() : port_(FreePort()) {
-  folder_ = (std::filesystem::temp_directory_path() / "store_bench_XXXXXX").string();
-  if (port_ == 0 || mkdtemp(folder_.data()) == nullptr) {
-    std::perror("store_bench");
-    std::exit(2);
-  }
-  folderInUse = folder_;
+BenchServer::BenchServer() : PrivateDbServer("store_bench", ProgramFolder() + "/demo_data", Fail) {
+  serverInUse = this;
   std::atexit(CleanUp);
   CleanUpWhenBrokenOff();
-  setenv("DEMO_DATA", (ProgramFolder() + "/demo_data").c_str(), 1);
-  Script("start " + folder_ + " " + std::to_string(port_));
+  Start();
 }
 
 BenchServer::~BenchServer() { CleanUp(); }
 
-void BenchServer::Script(const std::string& arguments) const {
-  const std::string command = std::string(STORE_PRIVATE_DB) + " " + arguments + " </dev/null";
-  if (std::system(command.c_str()) != 0) {
-    std::fprintf(stderr, "store_bench: %s failed\n", command.c_str());
-    std::exit(2);
-  }
-}
-
 void BenchServer::Load(const std::string& database, int items, int slips) {
-  Script("load " + folder_ + " " + std::to_string(port_) + " " + database + " --items " +
-         std::to_string(items) + " --slips " + std::to_string(slips));
+  PrivateDbServer::Load(database,
+                        "--items " + std::to_string(items) + " --slips " + std::to_string(slips));
 }
 
 void ConnectTo(int port, const std::string& database) {

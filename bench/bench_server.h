@@ -2,27 +2,18 @@
 
 #include <string>
 
+#include "private_db/private_db_server.h"
+
 namespace store {
 
-/// A MariaDB of the run's own, gone at its end however the run ends. There is one in a run.
-class BenchServer {
+/// The private server of a run, gone at its end however the run ends. There is one in a run.
+class BenchServer : public PrivateDbServer {
  public:
   BenchServer();
   ~BenchServer();
-  BenchServer(const BenchServer&) = delete;
-  BenchServer& operator=(const BenchServer&) = delete;
 
   /// Makes a database anew and fills it with so many products and orders of the demo franchise.
   void Load(const std::string& database, int items, int slips);
-  int Port() const { return port_; }
-  const std::string& Folder() const { return folder_; }
-  /// What a data server option names.
-  static std::string ServerOption(int port) { return "127.0.0.1;PORT=" + std::to_string(port); }
-
- private:
-  void Script(const std::string& arguments) const;
-  std::string folder_;
-  int port_ = 0;
 };
 
 /// The database that all but the growth is measured on.

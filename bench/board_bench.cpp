@@ -7,6 +7,7 @@
 #include "bench/client_library.h"
 #include "bench/desk_hand.h"
 #include "board/frm_Start.h"
+#include "forms/host.h"
 #include "forms/open_forms.h"
 
 namespace store {

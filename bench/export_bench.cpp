@@ -10,7 +10,7 @@
 #include "forms/host.h"
 #include "gateway/gateway.h"
 #include "lookup/export_grid.h"
-#include "lookup/lookup_grid.h"
+#include "lookup/lookup_form.h"
 #include "slips/item_list.h"
 
 namespace store {

@@ -8,6 +8,7 @@
 #include "bench/client_library.h"
 #include "bench/delay_proxy.h"
 #include "bench/desk_hand.h"
+#include "forms/host.h"
 #include "forms/open_forms.h"
 #include "gateway/gateway.h"
 #include "order/order_form.h"

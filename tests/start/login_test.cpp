@@ -2,12 +2,12 @@
 #include "forms/host.h"
 #include "gateway/gateway.h"
 #include "start/frmLogin.h"
-#include "tests/start/small_chain.h"
+#include "tests/start/way_in_test.h"
 
 namespace store {
 namespace {
 
-class Login : public SmallChain {
+class Login : public WayInTest {
  protected:
   Login() { Host.Show(form); }
 
@@ -27,33 +27,33 @@ TEST_F(Login, FillsTheSessionAndCloses) {
   EXPECT_TRUE(form.Place.Rounded);
   EXPECT_EQ(form.ActiveControl, &form.txtUserName);
   EXPECT_EQ(form.txtUserName.WantedSelection(), TextBox::Selection::All);
-  Type("e01", "pw1");
+  Type("u01", "1111");
   form.txtUserName_KeyPress(Key::Enter);
   EXPECT_EQ(form.ActiveControl, &form.txtPassword);
   form.txtPassword_KeyPress(Key::Enter);
   EXPECT_TRUE(form.IsClosed());
-  EXPECT_EQ(Session.UserCode, "e01");
-  EXPECT_EQ(Session.UserPassword, "pw1");
+  EXPECT_EQ(Session.UserCode, "u01");
+  EXPECT_EQ(Session.UserPassword, "1111");
   EXPECT_EQ(Session.UserName, "김하나");
   EXPECT_EQ(Session.UserStoreCode, "1001");
-  EXPECT_EQ(Session.UserLevel, "2");
+  EXPECT_EQ(Session.UserLevel, "1");
   EXPECT_FALSE(SlotA);
   EXPECT_FALSE(host.Ended);
 }
 
 TEST_F(Login, ChecksTwoAttemptsAndEndsAtTheThird) {
   // A quote breaks the statement, which looks the same as a wrong password.
-  for (const char* password : {"wrong", "pw1'"}) {
+  for (const char* password : {"wrong", "1111'"}) {
     form.SetFocus(form.cmdOK);
     host.ExpectBox("사용자정보 오류입니다.                    \r\r시스템관리자에게 문의바랍니다. ");
-    Press("e01", password);
+    Press("u01", password);
     EXPECT_FALSE(form.IsClosed());
     EXPECT_EQ(form.ActiveControl, &form.txtUserName);
     EXPECT_EQ(host.Boxes.back().Title, "에러");
   }
   EXPECT_FALSE(host.Ended);
   host.ExpectBox("권한이 없습니다.");
-  Press("e01", "pw1");
+  Press("u01", "1111");
   EXPECT_TRUE(host.Ended);
   EXPECT_EQ(host.Boxes.back().Title, "QUINTA");
   EXPECT_EQ(host.Boxes.back().Style, box::Critical);
@@ -84,7 +84,7 @@ TEST_F(Login, OfAnInstanceThatCameUpMeanwhileEndsTheLaterOne) {
 TEST_F(Login, OnAServiceThatIsNotThereLooksLikeAnUnknownUser) {
   AppOptions.BusinessServer = "nowhere.example";
   host.ExpectBox("사용자정보 오류입니다.");
-  Press("e01", "pw1");
+  Press("u01", "1111");
   EXPECT_EQ(LastErrorText, "");
 }
 

@@ -5,15 +5,14 @@
 #include "gateway/gateway.h"
 #include "start/frmLogin.h"
 #include "start/frmSplash.h"
-#include "start/options.h"
-#include "tests/start/small_chain.h"
+#include "tests/start/way_in_test.h"
 
 namespace store {
 namespace {
 
 using Names = std::vector<std::string>;
 
-class MainStart : public SmallChain {
+class MainStart : public WayInTest {
  protected:
   void ExpectSplash() {
     host.OnModal("frmSplash", [](Form& form) {
@@ -28,38 +27,36 @@ class MainStart : public SmallChain {
 };
 
 TEST_F(MainStart, GoesThroughLoginAndSplashToTheMainWindow) {
-  Sql("INSERT INTO BAS (BAS_CODE,BAS_OP2,BAS_OP3,BAS_OP4) VALUES"
-      " ('Z402','','2','3'),('Z103','10','','0')");
+  Sql("UPDATE BAS SET BAS_OP3='2' WHERE BAS_CODE='Z402'");
   host.OnModal("frmLogin", [](Form& form) {
     auto& login = dynamic_cast<frmLogin&>(form);
-    login.txtUserName.SetText("e01");
-    login.txtPassword.SetText("pw1");
+    login.txtUserName.SetText("u01");
+    login.txtPassword.SetText("1111");
     login.cmdOK_Click();
   });
   ExpectSplash();
   EXPECT_TRUE(Main_Start(""));
   EXPECT_EQ(host.FormsShown, (Names{"frmLogin", "frmSplash", "frm_Start"}));
-  EXPECT_EQ(Session.StoreName, "강남점");
+  EXPECT_EQ(Session.StoreName, "성수역점");
   EXPECT_EQ(FormatPrice, "###,###.#0");
   EXPECT_EQ(BaseSettings.VatPercent, "10");
   EXPECT_EQ(BaseSettings.VatRounding, "0");
   ASSERT_TRUE(SlotC);
-  EXPECT_EQ(SlotC->RecordCount(), 2);  // not the item that has ended
-  EXPECT_EQ(FieldText(SlotC, 0), "P2");
+  EXPECT_EQ(SlotC->RecordCount(), 9);  // not the item that has ended
+  EXPECT_EQ(FieldText(SlotC, 0), "P0009");
   EXPECT_EQ(SlotC->FieldName(8), "PR_BCODE");
 }
 
 TEST_F(MainStart, FetchesNoItemListForRestrictedPartners) {
-  WriteOption(kOptionSection, "발주정보거래처", "1");
+  Store("발주정보거래처", "1");
   ExpectSplash();
-  EXPECT_TRUE(Main_Start("e01,pw1"));
+  EXPECT_TRUE(Main_Start("u01,1111"));
   EXPECT_FALSE(SlotC);
 }
 
 TEST_F(MainStart, TakesUserAndPasswordFromTheCommandLine) {
   const std::pair<const char*, const char*> cases[] = {
-      {"e01,pw1", "e01"}, {"e01,pw1,more,and more", "e01"}, {"e02", "e02"}, {"e02,", "e02"}};
-  Sql("UPDATE ST SET RCT_CODE='1001'");
+      {"u01,1111", "u01"}, {"u01,1111,more,and more", "u01"}, {"u03", "u03"}, {"u03,", "u03"}};
   for (const auto& [commandLine, user] : cases) {
     StartAgain();
     ExpectSplash();
@@ -67,7 +64,7 @@ TEST_F(MainStart, TakesUserAndPasswordFromTheCommandLine) {
     EXPECT_EQ(Session.UserCode, user);
     EXPECT_EQ(host.FormsShown, (Names{"frmSplash", "frm_Start"}));
   }
-  for (const char* commandLine : {"e01", "e01,", "e01,wrong", "e01 ,pw1x", ","}) {
+  for (const char* commandLine : {"u01", "u01,", "u01,wrong", "u01 ,1111x", ","}) {
     StartAgain();
     host.ExpectBox("사용자정보 오류입니다.");
     EXPECT_FALSE(Main_Start(commandLine)) << commandLine;
@@ -75,23 +72,19 @@ TEST_F(MainStart, TakesUserAndPasswordFromTheCommandLine) {
   }
 }
 
-TEST_F(MainStart, TellsOfADeadServerOnTheCommandLineAndGoesOnWhenItIsBack) {
-  TestServer().Kill();
+TEST_F(MainStart, TellsOnTheCommandLineThatNoServerAnswers) {
+  Store("데이터서버", "127.0.0.1;PORT=1");
   host.ExpectBox("서버에접근할 수 없습니다.           ");
-  EXPECT_FALSE(Main_Start("e01,pw1"));
+  EXPECT_FALSE(Main_Start("u01,1111"));
   EXPECT_EQ(host.Boxes.back().Title, "접근오류");
+  EXPECT_EQ(host.Boxes.back().Style, box::Critical);
   EXPECT_TRUE(host.Ended);
   EXPECT_EQ(host.FormsShown, Names{});
-
-  TestServer().Start();
-  StartAgain();
-  ExpectSplash();
-  EXPECT_TRUE(Main_Start("e01,pw1"));
 }
 
 TEST_F(MainStart, OfASecondInstanceEndsSilently) {
   host.OtherInstance = true;
-  EXPECT_FALSE(Main_Start("e01,pw1"));
+  EXPECT_FALSE(Main_Start("u01,1111"));
   EXPECT_TRUE(host.Ended);
   EXPECT_EQ(Session.UserCode, "");
 }

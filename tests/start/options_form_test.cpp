@@ -1,34 +1,24 @@
 #include "gateway/gateway.h"
 #include "start/frmLogin.h"
 #include "start/frmOptions.h"
-#include "start/options.h"
-#include "tests/start/small_chain.h"
+#include "tests/start/way_in_test.h"
 
 namespace store {
 namespace {
 
-class OptionsForm : public SmallChain {
- protected:
-  static std::string Stored(const std::string& key) { return ReadOption(kOptionSection, key); }
-  static void Store(const std::string& key, const std::string& value) {
-    WriteOption(kOptionSection, key, value);
-  }
-};
+using OptionsForm = WayInTest;
 
 TEST_F(OptionsForm, ShowsWhatIsStoredNotWhatIsLoaded) {
   Store("업무서버", "service.example");
   Store("일괄발주단가", "4");
-  Store("발주정보거래처", "1");
   Store("발주타입", "3");
   frmOptions form;
   Host.Show(form);
   EXPECT_EQ(form.Text1[0].Text(), TestServer().ServerOption());
   EXPECT_EQ(form.Text1[1].Text(), "service.example");
   EXPECT_EQ(form.Text1[2].Text(), "TWMGR.DEMON");
-  EXPECT_EQ(form.Text1[4].Text(), "chain1");
+  EXPECT_EQ(form.Text1[4].Text(), "small");
   EXPECT_EQ(form.Combo1.Text(), "4. ASP단가정책 적용");
-  EXPECT_EQ(form.Check1.Value, 0);
-  EXPECT_EQ(form.Check2.Value, 1);
   EXPECT_TRUE(form.SSOption1[3].Value);
   EXPECT_FALSE(form.SSOption1[0].Value);
   form.SetFocus(form.Text1[2]);
@@ -49,16 +39,12 @@ TEST_F(OptionsForm, WritesAllOnceTheCompanyIsFoundAndLeavesTheRunAtTheDirectory)
   Host.Show(form);
   form.Text1[0].SetText("new.example");
   form.Combo1.SetListIndex(5);
-  form.Check1.Value = form.Check3.Value = form.Check4.Value = 1;
   form.SSOption1_Click(1);
   form.cmdApply_Click();
   EXPECT_TRUE(form.IsClosed());
   const std::pair<const char*, const char*> written[] = {
-      {"데이터서버", "new.example"}, {"업무서버", ""},
-      {"업무개체", "TWMGR.DEMON"},   {"회사아이디", "chain1"},
-      {"일괄발주단가", "5"},         {"단가[0]발주", "1"},
-      {"발주정보거래처", "0"},       {"입고량0제외", "1"},
-      {"타입A중분류표기", "1"},      {"발주타입", "1"}};
+      {"데이터서버", "new.example"}, {"업무서버", ""},      {"업무개체", "TWMGR.DEMON"},
+      {"회사아이디", "small"},       {"일괄발주단가", "5"}, {"발주타입", "1"}};
   for (const auto& [key, value] : written) EXPECT_EQ(Stored(key), value) << key;
   EXPECT_EQ(AppOptions.DataServer, TestServer().ServerOption());
   EXPECT_NE(ConnectString.find("DATABASE=master;UID=kt;"), std::string::npos);
@@ -67,28 +53,36 @@ TEST_F(OptionsForm, WritesAllOnceTheCompanyIsFoundAndLeavesTheRunAtTheDirectory)
   // A row of the directory must not pass for a user, whether anybody answers or not.
   for (const char* service : {"nowhere.example", ""}) {
     AppOptions.BusinessServer = service;
-    ReadUser("e01", "pw1");
+    ReadUser("u01", "1111");
     EXPECT_TRUE(AtEof(SlotA)) << service;
   }
 }
 
-TEST_F(OptionsForm, EachCheckBoxStandsForItsOwnKey) {
-  const std::pair<CheckBox frmOptions::*, const char*> boxes[] = {
-      {&frmOptions::Check1, "단가[0]발주"},
-      {&frmOptions::Check2, "발주정보거래처"},
-      {&frmOptions::Check3, "입고량0제외"},
-      {&frmOptions::Check4, "타입A중분류표기"}};
-  for (const auto& [ticked, tickedKey] : boxes) {
+TEST_F(OptionsForm, EachCheckBoxStandsForItsOwnKeyAndSetting) {
+  const struct {
+    const char* key;
+    CheckBox frmOptions::*check;
+    std::int16_t AppOptionsRecord::*setting;
+  } options[] = {
+      {"단가[0]발주", &frmOptions::Check1, &AppOptionsRecord::OrderZeroPrice},
+      {"발주정보거래처", &frmOptions::Check2, &AppOptionsRecord::OrderInfoPartnersOnly},
+      {"입고량0제외", &frmOptions::Check3, &AppOptionsRecord::SkipZeroReceipt},
+      {"타입A중분류표기", &frmOptions::Check4, &AppOptionsRecord::ShowMidCategory},
+  };
+  for (const auto& one : options) {
+    for (const auto& option : options) Store(option.key, &option == &one ? "1" : "0");
+    StartAgain();
     frmOptions form;
     Host.Show(form);
-    for (const auto& [box, key] : boxes) (form.*box).Value = box == ticked ? 1 : 0;
-    form.cmdApply_Click();
-    frmOptions again;
-    Host.Show(again);
-    for (const auto& [box, key] : boxes) {
-      EXPECT_EQ(Stored(key), box == ticked ? "1" : "0") << tickedKey << ", " << key;
-      EXPECT_EQ((again.*box).Value, box == ticked ? 1 : 0) << tickedKey << ", " << key;
+    for (const auto& option : options) {
+      SCOPED_TRACE(option.key);
+      EXPECT_EQ((form.*option.check).Value, &option == &one);
+      EXPECT_EQ(AppOptions.*option.setting, &option == &one);
+      (form.*option.check).Value = &option != &one;
     }
+    form.cmdApply_Click();
+    for (const auto& option : options)
+      EXPECT_EQ(Stored(option.key), &option == &one ? "0" : "1") << option.key;
   }
 }
 
@@ -107,11 +101,11 @@ TEST_F(OptionsForm, WritesNothingForACompanyItCannotFind) {
     const char* object;
     const char* service;
   };
-  const Case cases[] = {{"chain2", "TWMGR.DEMON", ""},
+  const Case cases[] = {{"smaller", "TWMGR.DEMON", ""},
                         {"", "TWMGR.DEMON", ""},
-                        {"chain1'", "TWMGR.DEMON", ""},
-                        {"chain1", "TWMGR.OTHER", ""},
-                        {"chain1", "TWMGR.DEMON", "nowhere.example"}};
+                        {"small'", "TWMGR.DEMON", ""},
+                        {"small", "TWMGR.OTHER", ""},
+                        {"small", "TWMGR.DEMON", "nowhere.example"}};
   for (const Case& c : cases) {
     frmOptions form;
     Host.Show(form);

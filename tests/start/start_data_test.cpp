@@ -3,14 +3,15 @@
 #include "basics/records.h"
 #include "gateway/gateway.h"
 #include "slips/slip_checks.h"
-#include "tests/start/small_chain.h"
+#include "tests/start/way_in_test.h"
 
 namespace store {
 namespace {
 
-class StartData : public SmallChain {};
+using StartData = WayInTest;
 
 TEST_F(StartData, WithoutBaseCodesStaysAtZero) {
+  Sql("DELETE FROM BAS");
   LoadBaseCodes();
   LoadZ1Settings();
   EXPECT_EQ(BaseSettings.QtyRounding, 0);
@@ -20,7 +21,7 @@ TEST_F(StartData, WithoutBaseCodesStaysAtZero) {
 }
 
 TEST_F(StartData, OneForeignRowBringsTheDefaults) {
-  Sql("INSERT INTO BAS (BAS_CODE,BAS_OP1) VALUES ('TM01','7')");
+  Sql("DELETE FROM BAS; INSERT INTO BAS (BAS_CODE,BAS_OP1) VALUES ('TM01','7')");
   LoadBaseCodes();
   EXPECT_EQ(BaseSettings.QtyRounding, 3);
   EXPECT_EQ(BaseSettings.PriceRounding, 3);
@@ -31,7 +32,7 @@ TEST_F(StartData, OneForeignRowBringsTheDefaults) {
 }
 
 TEST_F(StartData, ReadsEveryKeyOfTheBaseCodes) {
-  Sql("INSERT INTO BAS (BAS_CODE,BAS_OP1,BAS_OP2,BAS_OP3,BAS_OP4) VALUES"
+  Sql("DELETE FROM BAS; INSERT INTO BAS (BAS_CODE,BAS_OP1,BAS_OP2,BAS_OP3,BAS_OP4) VALUES"
       " ('Z401','','','1','1'),('Z402','','','2자리','0'),('Z403','','','3',NULL),"
       " ('Z404','','','4','99999'),('ZA05','50','','',''),('ZY01','','5','',''),"
       " ('ZY02','자동','8','',''),('Z103','','10','','0'),('Z101','','77','','7')");
@@ -55,7 +56,7 @@ TEST_F(StartData, ReadsEveryKeyOfTheBaseCodes) {
 }
 
 TEST_F(StartData, TakesTheLastOfTwoRowsOfOneKey) {
-  Sql("INSERT INTO BAS (BAS_CODE,BAS_OP1) VALUES ('ZA05','300'),('ZA05','200')");
+  Sql("DELETE FROM BAS; INSERT INTO BAS (BAS_CODE,BAS_OP1) VALUES ('ZA05','300'),('ZA05','200')");
   LoadBaseCodes();
   EXPECT_EQ(BaseSettings.MaxSlipLines, 200);
 }
@@ -64,14 +65,14 @@ TEST_F(StartData, LoadsTheStoreOfTheUser) {
   Session.UserStoreCode = "1001";
   LoadStore();
   EXPECT_EQ(Session.StoreCode, "1001");
-  EXPECT_EQ(Session.StoreName, "강남점");
-  EXPECT_EQ(Session.StoreNo, "123-45-67890");
-  EXPECT_EQ(Session.StorePhone, "02-555-0101");
+  EXPECT_EQ(Session.StoreName, "성수역점");
+  EXPECT_EQ(Session.StoreNo, "206-12-34567");
+  EXPECT_EQ(Session.StorePhone, "02-700-1001");
   EXPECT_EQ(Session.StoreBlank, " ");
-  EXPECT_EQ(Session.StoreAddress1, "서울");
-  EXPECT_EQ(Session.StoreAddress2, "역삼동");
+  EXPECT_EQ(Session.StoreAddress1, "서울 성동구");
+  EXPECT_EQ(Session.StoreAddress2, "성수동 2가");
   EXPECT_EQ(Session.StoreKind, "1");
-  EXPECT_EQ(Session.DepotCode, "000002");
+  EXPECT_EQ(Session.DepotCode, "100101");
   EXPECT_EQ(Session.DepotName, "매장");
 }
 
@@ -80,11 +81,11 @@ TEST_F(StartData, GoesOnWithoutDetailsWithoutADepotAndWithoutAStore) {
   Session.UserStoreCode = "1001";
   LoadStore();
   EXPECT_EQ(Session.StorePhone, "");
-  EXPECT_EQ(Session.StoreAddress1, "서울");
+  EXPECT_EQ(Session.StoreAddress1, "서울 성동구");
   EXPECT_EQ(Session.DepotCode, "");
 
   StartAgain();
-  Session.UserStoreCode = "1002";
+  Session.UserStoreCode = "9999";
   host.ExpectBox("기본사용자를 등록하세요.              ");
   LoadStore();
   EXPECT_EQ(Session.StoreCode, "");

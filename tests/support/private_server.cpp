@@ -2,17 +2,12 @@
 
 #include <gtest/gtest.h>
 #include <mysql.h>
-#include <unistd.h>
 
-#include <csignal>
-#include <cstdlib>
-#include <filesystem>
 #include <fstream>
 #include <sstream>
 
 #include "basics/records.h"
 #include "gateway/gateway.h"
-#include "private_db/free_port.h"
 #include "slips/process_state.h"
 
 namespace store {
@@ -62,74 +57,18 @@ const char* const kSmall = "small";
 
 }  // namespace
 
-PrivateServer::PrivateServer(std::string options)
-    : options_(std::move(options)), port_(FreePort()) {
-  std::string folder = (std::filesystem::temp_directory_path() / "store_test_XXXXXX").string();
-  if (port_ == 0 || mkdtemp(folder.data()) == nullptr)
-    ADD_FAILURE() << "no port or no folder for the test's server";
-  folder_ = folder;
-  setenv("DEMO_DATA", STORE_DEMO_DATA, 1);
-}
-
-PrivateServer::~PrivateServer() {
-  Kill();
-  std::error_code ignored;
-  std::filesystem::remove_all(folder_, ignored);
-}
-
-void PrivateServer::Script(const std::string& arguments) const {
-  const std::string command =
-      "PRIVATE_DB_OPTIONS='" + options_ + "' " + STORE_PRIVATE_DB + " " + arguments + " </dev/null";
-  if (std::system(command.c_str()) != 0) ADD_FAILURE() << command;
-}
-
-void PrivateServer::Start() { Script("start " + folder_ + " " + std::to_string(port_)); }
-void PrivateServer::Stop() { Script("stop " + folder_); }
-void PrivateServer::Kill() { Script("kill " + folder_); }
-
-void PrivateServer::Signal(int number) const {
-  std::ifstream file(folder_ + "/server.pid");
-  pid_t pid = 0;
-  if (!(file >> pid) || kill(pid, number) != 0) ADD_FAILURE() << "no server to signal";
-}
-
-void PrivateServer::Freeze() {
-  Signal(SIGSTOP);
-  // A signal is on its way when it has been sent; each thread stops when it meets it.
-  const auto standsStill = [this] {
-    std::ifstream file(folder_ + "/server.pid");
-    std::string pid;
-    file >> pid;
-    for (const auto& task : std::filesystem::directory_iterator("/proc/" + pid + "/task")) {
-      std::ifstream status(task.path() / "status");
-      const std::string text{std::istreambuf_iterator<char>(status), {}};
-      if (text.find("\nState:\tT") == std::string::npos) return false;
-    }
-    return true;
-  };
-  while (!standsStill()) usleep(1000);
-}
-void PrivateServer::Thaw() { Signal(SIGCONT); }
-
-std::string PrivateServer::ServerOption() const {
-  return "127.0.0.1;PORT=" + std::to_string(port_);
-}
-
-void PrivateServer::MakeSchema(const std::string& database) {
-  Script("schema " + folder_ + " " + std::to_string(port_) + " " + database);
-}
-
-void PrivateServer::LoadDemo(const std::string& options) {
-  Script("load " + folder_ + " " + std::to_string(port_) + " demo " + options);
-}
+PrivateServer::PrivateServer(const std::string& options)
+    : PrivateDbServer(
+          "store_test", STORE_DEMO_DATA, [](const std::string& what) { ADD_FAILURE() << what; },
+          options) {}
 
 void PrivateServer::Sql(const std::string& database, const std::string& statements) {
-  ClientConnection(port_, database).Run(statements);
+  ClientConnection(Port(), database).Run(statements);
 }
 
 std::vector<std::vector<std::string>> PrivateServer::Rows(const std::string& database,
                                                           const std::string& select) {
-  return ClientConnection(port_, database).Run(select);
+  return ClientConnection(Port(), database).Run(select);
 }
 
 PrivateServer& TestServer() {

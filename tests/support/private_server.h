@@ -3,44 +3,25 @@
 #include <string>
 #include <vector>
 
+#include "private_db/private_db_server.h"
+
 namespace store {
 
-/// A MariaDB of the test's own: its own folder, a free loopback port, gone at the end of the
-/// program. Statements of the test go over the C client library, not over the gateway that is
-/// being tested.
-class PrivateServer {
+/// The private server of a test program. Statements of the test go over the C client library, not
+/// over the gateway that is being tested. Whatever fails here is a test failure.
+class PrivateServer : public PrivateDbServer {
  public:
   /// `options` are further ones of the server program, parted by blanks.
-  explicit PrivateServer(std::string options = "");
-  ~PrivateServer();
+  explicit PrivateServer(const std::string& options = "");
 
-  void Start();  ///< Also again after `Stop` or `Kill`; the data stays.
-  void Stop();
-  void Kill();    ///< SIGKILL, as when the machine loses its power.
-  void Freeze();  ///< It stands still, as a machine that is out of memory, until `Thaw`.
-  void Thaw();
-  int Port() const { return port_; }
-  /// What a data server option names: "127.0.0.1;PORT=...".
-  std::string ServerOption() const;
-
-  /// An empty database of that name with every table.
-  void MakeSchema(const std::string& database);
   /// The demo franchise in database "demo", with the directory in "master".
-  void LoadDemo(const std::string& options = "");
+  void LoadDemo(const std::string& options = "") { Load("demo", options); }
 
-  /// Runs statements separated by semicolons in a database. A failing one is a test failure.
+  /// Runs statements separated by semicolons in a database.
   void Sql(const std::string& database, const std::string& statements);
   /// The rows of a SELECT, NULL as "(null)".
   std::vector<std::vector<std::string>> Rows(const std::string& database,
                                              const std::string& select);
-
- private:
-  void Signal(int number) const;
-  void Script(const std::string& arguments) const;
-
-  std::string options_;
-  std::string folder_;
-  int port_ = 0;
 };
 
 /// The one server of a test program, started on first use.
