@@ -22,7 +22,8 @@ std::string ConditionStatement(const std::string& value) {
       "value"_a = value);
 }
 
-/// The first row goes into the labels, NULL as an empty one; without a row they keep their texts.
+/// Puts the first row of a read into the labels, NULL as an empty text. Without a row the labels
+/// keep what they show.
 void ShowFirstRow(const std::string& statement, std::span<Label> labels) {
   SqlText = statement;
   OpenRecordset(SlotA, SqlText);

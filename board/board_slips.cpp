@@ -12,7 +12,7 @@
 namespace store {
 namespace {
 
-/// Both touch nothing when head office has meanwhile moved the slip to another state.
+/// This and the next statement change nothing when head office has meanwhile moved the slip on.
 std::string DeleteSlipStatement(const std::string& slipId) {
   return Splice(" DELETE FROM PEM22 WHERE  PE_ID = '{slip}' AND PE_CK  = '0' ", "slip"_a = slipId);
 }
@@ -29,8 +29,9 @@ std::string FindSlipStatement(const std::string& slipId) {
 
 SlipForm* SlipFormNamed(const std::string& name) { return dynamic_cast<SlipForm*>(TheForm(name)); }
 
-/// The order form of the workstation's order type, ready for another slip. Nothing when there is no
-/// such form, or when it holds an order that is not stored yet: it then comes forward as it is.
+/// The order form of the workstation's order type, made anew for another slip. Nothing when the
+/// order type has no form, and nothing when that form is open with an order that is not stored yet:
+/// it is then brought to the front with what it holds.
 SlipForm* FreeOrderForm() {
   const std::string name = ChosenOrderType().FormName;
   if (auto* open = dynamic_cast<SlipForm*>(OpenForm(name))) {
@@ -139,8 +140,8 @@ void frm_Start::FindSlip() {
         box::Critical, "전표확인");
     return;
   }
-  // Any slip that exists may be received this way, whatever its state; the receipt form has the
-  // last word.
+  // Whatever its state, a slip that was found goes to the receipt form, which refuses by itself
+  // what may not be received.
   SelectedSlipState = kWordShipped;
   OpenSlip(SelectedSlipId, SelectedSlipState);
 }

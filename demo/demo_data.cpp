@@ -50,17 +50,17 @@ std::string DatabaseName(std::string_view text) {
 
 Command ParseArguments(int argc, char** argv) {
   Command command;
-  command.options.today = store::demo::SystemToday();
+  command.options.Today = store::demo::SystemToday();
   for (int i = 1; i < argc; i += 2) {
     const std::string_view option = argv[i];
     if (i + 1 == argc) throw std::invalid_argument("no value for " + std::string(option));
     const std::string_view value = argv[i + 1];
     if (option == "--items") {
-      command.options.items = Number(value, 1, store::demo::kMostItems);
+      command.options.Items = Number(value, 1, store::demo::kMostItems);
     } else if (option == "--slips") {
-      command.options.slips = Number(value, 0, store::demo::kMostSlips);
+      command.options.Slips = Number(value, 0, store::demo::kMostSlips);
     } else if (option == "--today") {
-      command.options.today = Date(value);
+      command.options.Today = Date(value);
     } else if (option == "--database") {
       command.database = DatabaseName(value);
     } else {

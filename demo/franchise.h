@@ -6,16 +6,16 @@
 #include <vector>
 
 #include "demo/calendar.h"
-#include "demo/line_money.h"
+#include "demo/demo_line_money.h"
 
 /// The records of the demo franchise. Records refer to each other by position in the vectors of
 /// Franchise; codes and names are only spelled out when they are written.
 namespace store::demo {
 
 struct Options {
-  std::size_t items = 3000;
-  std::size_t slips = 200;
-  Day today;
+  std::size_t Items = 3000;
+  std::size_t Slips = 200;
+  Day Today;
 };
 
 /// More than this and the numbers inside keys and codes run out of digits.
@@ -27,119 +27,119 @@ inline constexpr std::size_t kHeadOffice = 0;
 inline constexpr std::size_t kMainStore = 1;
 
 struct Staff {
-  std::string code, password, name, phone;
-  int level = 9;
+  std::string Code, Password, Name, Phone;
+  int Level = 9;
 };
 
 struct Depot {
-  std::string code, name;
+  std::string Code, Name;
 };
 
 struct Store {
-  std::string code, name, owner, business_no, phone, address, address2;
-  char kind = '1';
-  std::string price_level;
+  std::string Code, Name, Owner, BusinessNo, Phone, Address, Address2;
+  char Kind = '1';
+  std::string PriceLevel;
   /// The first is the default depot.
-  std::vector<Depot> depots;
-  std::vector<Staff> staff;
+  std::vector<Depot> Depots;
+  std::vector<Staff> Users;
 };
 
 /// A partner without a category deals in everything.
 inline constexpr int kAnyCategory = -1;
 
 struct Partner {
-  std::string code, name;
+  std::string Code, Name;
   /// Top category it supplies, counted from 0.
-  int category = kAnyCategory;
-  char kind = '0';
-  char order_level = '0';
-  char price_policy = '0';
-  std::string price_level, group;
-  std::string business_no, phone, fax, mail, zip, address, address2;
-  std::string owner, owner_phone, contact, contact_phone, contact_mail;
+  int Category = kAnyCategory;
+  char Kind = '0';
+  char OrderLevel = '0';
+  char PricePolicy = '0';
+  std::string PriceLevel, Group;
+  std::string BusinessNo, Phone, Fax, Mail, Zip, Address, Address2;
+  std::string Owner, OwnerPhone, Contact, ContactPhone, ContactMail;
 
   /// Offered by the order lookups.
   [[nodiscard]] bool Orderable() const {
-    return kind == '0' && (order_level == '0' || order_level == '1');
+    return Kind == '0' && (OrderLevel == '0' || OrderLevel == '1');
   }
 };
 
 struct Kind {
-  std::string id, name;
-  int level = 0;
+  std::string Id, Name;
+  int Level = 0;
 };
 
 struct Product {
-  std::string code, name, kind_id, part_no, barcode, standard, unit, entry_date;
-  std::size_t partner = 0;
-  std::int64_t minimum = 0;
-  char tax = '0';
-  bool ended = false;
-  Won buy = 0;
-  Won sell = 0;
-  Won consumer = 0;
+  std::string Code, Name, KindId, PartNo, Barcode, Standard, Unit, EntryDate;
+  std::size_t Partner = 0;
+  std::int64_t Minimum = 0;
+  char Tax = '0';
+  bool Ended = false;
+  Won Buy = 0;
+  Won Sell = 0;
+  Won Consumer = 0;
 };
 
 inline constexpr std::size_t kPriceLevels = 20;
 
 struct LevelPrice {
-  std::size_t store = kHeadOffice;
-  std::size_t product = 0;
-  char side = 'C';
-  std::array<Won, kPriceLevels> prices{};
+  std::size_t Store = kHeadOffice;
+  std::size_t Product = 0;
+  char Side = 'C';
+  std::array<Won, kPriceLevels> Prices{};
 };
 
 struct ContractTerm {
-  std::string level;
-  Won price = 0;
-  std::string from, to;
+  std::string Level;
+  Won Price = 0;
+  std::string From, To;
 };
 
 struct PartnerContract {
-  std::size_t partner = 0;
-  std::size_t store = kHeadOffice;
-  std::size_t product = 0;
-  ContractTerm term;
+  std::size_t Partner = 0;
+  std::size_t Store = kHeadOffice;
+  std::size_t Product = 0;
+  ContractTerm Term;
 };
 
 struct StoreContract {
-  std::size_t store = 0;
-  std::size_t product = 0;
-  ContractTerm term;
+  std::size_t Store = 0;
+  std::size_t Product = 0;
+  ContractTerm Term;
 };
 
 struct OrderSetting {
-  std::size_t store = 0;
-  std::size_t product = 0;
+  std::size_t Store = 0;
+  std::size_t Product = 0;
   /// False: a safety stock without a partner to order from.
-  bool with_partner = true;
-  std::int64_t safety = 0;
-  std::int64_t unit = 0;
-  Won price = 0;
+  bool WithPartner = true;
+  std::int64_t Safety = 0;
+  std::int64_t Unit = 0;
+  Won Price = 0;
 };
 
 struct SlipLine {
-  std::size_t product = 0;
-  std::size_t depot = 0;
-  std::int64_t quantity = 0;
+  std::size_t Product = 0;
+  std::size_t Depot = 0;
+  std::int64_t Quantity = 0;
   /// On an order what was shipped, on a receipt what had been ordered.
-  std::int64_t other_quantity = 0;
-  Won price = 0;
-  LineMoney money;
+  std::int64_t OtherQuantity = 0;
+  Won Price = 0;
+  DemoLineMoney Money;
 };
 
 struct Slip {
-  std::string id;
-  char state = '1';
-  Day day;
-  std::string stored_at;
-  std::size_t store = 0;
-  std::size_t partner = 0;
-  std::string user;
-  std::string link;
+  std::string Id;
+  char State = '1';
+  Day Date;
+  std::string StoredAt;
+  std::size_t Store = 0;
+  std::size_t Partner = 0;
+  std::string User;
+  std::string Link;
   /// On orders: the eight condition texts, or none.
-  std::vector<std::string> conditions;
-  std::vector<SlipLine> lines;
+  std::vector<std::string> Conditions;
+  std::vector<SlipLine> Lines;
 
   [[nodiscard]] Won Amount() const;
   [[nodiscard]] Won Tax() const;
@@ -147,48 +147,48 @@ struct Slip {
 };
 
 struct Stock {
-  std::size_t store = 0;
-  std::size_t depot = 0;
-  std::size_t product = 0;
-  std::int64_t opening = 0;
-  std::int64_t in = 0;
-  std::int64_t out = 0;
+  std::size_t Store = 0;
+  std::size_t Depot = 0;
+  std::size_t Product = 0;
+  std::int64_t Opening = 0;
+  std::int64_t In = 0;
+  std::int64_t Out = 0;
   /// False: the row came to be by a posting, which copies less into it than head office does.
-  bool counted = true;
+  bool Counted = true;
 };
 
 struct Balance {
-  std::size_t store = 0;
-  std::size_t partner = 0;
-  std::string month;
-  Won sold = 0;
-  Won bought = 0;
+  std::size_t Store = 0;
+  std::size_t Partner = 0;
+  std::string Month;
+  Won Sold = 0;
+  Won Bought = 0;
 };
 
 struct Notice {
-  std::string subject, body, moment;
-  /// By store, in the order of Franchise::stores.
-  std::vector<bool> for_store;
+  std::string Subject, Body, Moment;
+  /// By store, in the order of Franchise::Stores.
+  std::vector<bool> ForStore;
 };
 
 struct BaseCode {
-  std::string code, name1, name2, op1, op2, op3, op4;
+  std::string Code, Name1, Name2, Op1, Op2, Op3, Op4;
 };
 
 struct Franchise {
-  std::vector<Store> stores;
-  std::vector<Partner> partners;
-  std::vector<Kind> kinds;
-  std::vector<Product> products;
-  std::vector<LevelPrice> level_prices;
-  std::vector<PartnerContract> contracts;
-  std::vector<StoreContract> store_contracts;
-  std::vector<OrderSetting> settings;
-  std::vector<Slip> orders, purchases, sales;
-  std::vector<Stock> stock;
-  std::vector<Balance> balances;
-  std::vector<Notice> notices;
-  std::vector<BaseCode> base_codes;
+  std::vector<Store> Stores;
+  std::vector<Partner> Partners;
+  std::vector<Kind> Kinds;
+  std::vector<Product> Products;
+  std::vector<LevelPrice> LevelPrices;
+  std::vector<PartnerContract> Contracts;
+  std::vector<StoreContract> StoreContracts;
+  std::vector<OrderSetting> Settings;
+  std::vector<Slip> Orders, Purchases, Sales;
+  std::vector<Stock> StockRows;
+  std::vector<Balance> Balances;
+  std::vector<Notice> Notices;
+  std::vector<BaseCode> BaseCodes;
 };
 
 /// The whole franchise. The same options give the same franchise, on any machine.

@@ -25,13 +25,13 @@ void AddOrderSettings(Franchise& franchise);
 /// Which products each store carries, by store. A store does not list a whole catalogue.
 std::vector<std::vector<std::size_t>> Assortments(const Franchise& franchise);
 
-class SlipKeys;
+class DemoSlipKeys;
 
 /// Orders in every state, and the receipts of those that were received.
-void AddOrders(Franchise& franchise, SlipKeys& keys, const Options& options);
+void AddOrders(Franchise& franchise, DemoSlipKeys& keys, const Options& options);
 
 /// Ninety days of sales and of purchases that no order asked for.
-void AddTrade(Franchise& franchise, SlipKeys& keys,
+void AddTrade(Franchise& franchise, DemoSlipKeys& keys,
               const std::vector<std::vector<std::size_t>>& assortments, Day today);
 
 /// Stock and balances that agree with the posted slips.

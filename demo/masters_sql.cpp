@@ -14,17 +14,17 @@ void WriteStores(std::ostream& out, const Franchise& franchise) {
   TableWriter depots(out, "HCT", "RCT_CODE,HCT_CODE,HCT_NAME,HCT_BAS");
   TableWriter staff(out, "ST", "ST_CODE,ST_PWD,ST_NAME,ST_CP,RCT_CODE,ST_ASPLVL");
   TableWriter persons(out, "CTM", "ST_CODE,ST_NAME,ST_CP");
-  for (const Store& store : franchise.stores) {
-    stores.Row(store.code, store.name, store.owner, store.business_no, store.address,
-               store.address2, store.kind, store.price_level);
-    details.Row(store.code, store.phone);
-    for (const Depot& depot : store.depots) {
-      depots.Row(store.code, depot.code, depot.name, &depot == &store.depots.front() ? '1' : '0');
+  for (const Store& store : franchise.Stores) {
+    stores.Row(store.Code, store.Name, store.Owner, store.BusinessNo, store.Address, store.Address2,
+               store.Kind, store.PriceLevel);
+    details.Row(store.Code, store.Phone);
+    for (const Depot& depot : store.Depots) {
+      depots.Row(store.Code, depot.Code, depot.Name, &depot == &store.Depots.front() ? '1' : '0');
     }
-    for (const Staff& user : store.staff) {
-      staff.Row(user.code, user.password, user.name, user.phone, store.code,
-                std::to_string(user.level));
-      persons.Row(user.code, user.name, user.phone);
+    for (const Staff& user : store.Users) {
+      staff.Row(user.Code, user.Password, user.Name, user.Phone, store.Code,
+                std::to_string(user.Level));
+      persons.Row(user.Code, user.Name, user.Phone);
     }
   }
 }
@@ -35,37 +35,37 @@ void WritePartners(std::ostream& out, const Franchise& franchise) {
                        "CT_DANCK,CT_DANLV,CT_GUBUN");
   TableWriter details(out, "CTCOM",
                       "CT_CODE,CT_CEO,CT_CEOPHONE,CT_TMAN,CT_TPHONE,CT_TMAIL,CT_LEVEL2,GP_CODE");
-  for (const Partner& partner : franchise.partners) {
-    partners.Row(partner.code, partner.name, partner.business_no, partner.phone, partner.fax,
-                 partner.mail, partner.zip, partner.address, partner.address2, partner.price_policy,
-                 partner.price_level, partner.kind);
-    details.Row(partner.code, partner.owner, partner.owner_phone, partner.contact,
-                partner.contact_phone, partner.contact_mail, partner.order_level, partner.group);
+  for (const Partner& partner : franchise.Partners) {
+    partners.Row(partner.Code, partner.Name, partner.BusinessNo, partner.Phone, partner.Fax,
+                 partner.Mail, partner.Zip, partner.Address, partner.Address2, partner.PricePolicy,
+                 partner.PriceLevel, partner.Kind);
+    details.Row(partner.Code, partner.Owner, partner.OwnerPhone, partner.Contact,
+                partner.ContactPhone, partner.ContactMail, partner.OrderLevel, partner.Group);
   }
 }
 
 std::int64_t MarginPercent(const Product& product) {
-  if (product.sell == 0) return 0;
-  return (product.sell - product.buy) * 100 / product.sell;
+  if (product.Sell == 0) return 0;
+  return (product.Sell - product.Buy) * 100 / product.Sell;
 }
 
 void WriteProducts(std::ostream& out, const Franchise& franchise) {
   {
     TableWriter kinds(out, "KIND", "KD_ID,KD_NAME,KD_LVL");
-    for (const Kind& kind : franchise.kinds) {
-      kinds.Row(kind.id, kind.name, std::to_string(kind.level));
+    for (const Kind& kind : franchise.Kinds) {
+      kinds.Row(kind.Id, kind.Name, std::to_string(kind.Level));
     }
   }
   TableWriter products(
       out, "PR",
       "PR_CODE,PR_NAME,KD_ID,PR_GU,PR_PTNO,PR_DATE,PR_BCODE,PR_STD,PR_UNT,PR_MIN,PR_END,PR_TAX,"
       "PR_TAX2,PR_VM,PR_BCTCODE,PR_OP0,PR_OP1,PR_OP2,PR_MARGIN");
-  for (const Product& product : franchise.products) {
-    products.Row(product.code, product.name, product.kind_id, '0', product.part_no,
-                 product.entry_date, product.barcode, product.standard, product.unit,
-                 product.minimum, product.ended ? '1' : '0', product.tax, product.tax, '0',
-                 franchise.partners[product.partner].code, product.buy, product.sell,
-                 product.consumer, MarginPercent(product));
+  for (const Product& product : franchise.Products) {
+    products.Row(product.Code, product.Name, product.KindId, '0', product.PartNo, product.EntryDate,
+                 product.Barcode, product.Standard, product.Unit, product.Minimum,
+                 product.Ended ? '1' : '0', product.Tax, product.Tax, '0',
+                 franchise.Partners[product.Partner].Code, product.Buy, product.Sell,
+                 product.Consumer, MarginPercent(product));
   }
 }
 
@@ -75,41 +75,41 @@ void WriteLevelPrices(std::ostream& out, const Franchise& franchise) {
     columns += ",DP" + std::to_string(level);
   }
   TableWriter writer(out, "UP", columns);
-  for (const LevelPrice& row : franchise.level_prices) {
+  for (const LevelPrice& row : franchise.LevelPrices) {
     writer.BeginRow();
-    writer.Add(franchise.stores[row.store].code);
-    writer.Add(franchise.products[row.product].code);
-    writer.Add(row.side);
-    for (const Won price : row.prices) writer.Add(price);
+    writer.Add(franchise.Stores[row.Store].Code);
+    writer.Add(franchise.Products[row.Product].Code);
+    writer.Add(row.Side);
+    for (const Won price : row.Prices) writer.Add(price);
     writer.EndRow();
   }
 }
 
 void WriteContracts(std::ostream& out, const Franchise& franchise) {
   TableWriter partners(out, "CTP", "CT_CODE,RCT_CODE,PR_CODE,CTP_GU,CTP_UP,CTP_FDATE,CTP_TDATE");
-  for (const PartnerContract& row : franchise.contracts) {
-    partners.Row(franchise.partners[row.partner].code, franchise.stores[row.store].code,
-                 franchise.products[row.product].code, row.term.level, row.term.price,
-                 row.term.from, row.term.to);
+  for (const PartnerContract& row : franchise.Contracts) {
+    partners.Row(franchise.Partners[row.Partner].Code, franchise.Stores[row.Store].Code,
+                 franchise.Products[row.Product].Code, row.Term.Level, row.Term.Price,
+                 row.Term.From, row.Term.To);
   }
   TableWriter stores(out, "RCTP", "RCT_CODE,PR_CODE,CTP_GU,CTP_UP,CTP_FDATE,CTP_TDATE");
-  for (const StoreContract& row : franchise.store_contracts) {
-    stores.Row(franchise.stores[row.store].code, franchise.products[row.product].code,
-               row.term.level, row.term.price, row.term.from, row.term.to);
+  for (const StoreContract& row : franchise.StoreContracts) {
+    stores.Row(franchise.Stores[row.Store].Code, franchise.Products[row.Product].Code,
+               row.Term.Level, row.Term.Price, row.Term.From, row.Term.To);
   }
 }
 
 void WriteSettings(std::ostream& out, const Franchise& franchise) {
   TableWriter settings(out, "SAFEIV", "RCT_CODE,PR_CODE,CT_CODE,SAFE_QTY,ORD_QTY,ORD_UP");
-  for (const OrderSetting& row : franchise.settings) {
-    const Product& product = franchise.products[row.product];
-    settings.Row(franchise.stores[row.store].code, product.code,
-                 row.with_partner ? franchise.partners[product.partner].code : std::string(),
-                 row.safety, row.unit, row.price);
+  for (const OrderSetting& row : franchise.Settings) {
+    const Product& product = franchise.Products[row.Product];
+    settings.Row(franchise.Stores[row.Store].Code, product.Code,
+                 row.WithPartner ? franchise.Partners[product.Partner].Code : std::string(),
+                 row.Safety, row.Unit, row.Price);
   }
   TableWriter codes(out, "BAS", "BAS_CODE,BAS_NAME1,BAS_NAME2,BAS_OP1,BAS_OP2,BAS_OP3,BAS_OP4");
-  for (const BaseCode& row : franchise.base_codes) {
-    codes.Row(row.code, row.name1, row.name2, row.op1, row.op2, row.op3, row.op4);
+  for (const BaseCode& row : franchise.BaseCodes) {
+    codes.Row(row.Code, row.Name1, row.Name2, row.Op1, row.Op2, row.Op3, row.Op4);
   }
 }
 
@@ -117,22 +117,22 @@ void WriteSettings(std::ostream& out, const Franchise& franchise) {
 std::string AddStoreColumns(std::ostream& out, const std::vector<Store>& stores) {
   std::string columns = "NID";
   for (const Store& store : stores) {
-    columns += ",CID_" + store.code;
-    out << "ALTER TABLE SETCONFIGNOTICE ADD COLUMN CID_" << store.code
+    columns += ",CID_" + store.Code;
+    out << "ALTER TABLE SETCONFIGNOTICE ADD COLUMN CID_" << store.Code
         << " CHAR(1) NOT NULL DEFAULT 'F';\n";
   }
   return columns;
 }
 
 void WriteNotices(std::ostream& out, const Franchise& franchise) {
-  TableWriter marks(out, "SETCONFIGNOTICE", AddStoreColumns(out, franchise.stores));
+  TableWriter marks(out, "SETCONFIGNOTICE", AddStoreColumns(out, franchise.Stores));
   TableWriter notices(out, "NOTICE", "NID,SUBJECT,WDAY,content");
   std::size_t number = 0;
-  for (const Notice& notice : franchise.notices) {
-    notices.Row(++number, notice.subject, notice.moment, notice.body);
+  for (const Notice& notice : franchise.Notices) {
+    notices.Row(++number, notice.Subject, notice.Moment, notice.Body);
     marks.BeginRow();
     marks.Add(number);
-    for (const bool is_for : notice.for_store) marks.Add(is_for ? 'T' : 'F');
+    for (const bool isFor : notice.ForStore) marks.Add(isFor ? 'T' : 'F');
     marks.EndRow();
   }
 }

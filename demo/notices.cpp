@@ -10,7 +10,7 @@ struct Entry {
   const char* subject;
   const char* body;
   // Days before today and minutes after midnight.
-  int days_ago;
+  int daysAgo;
   int minutes;
   // Store codes, or nothing for all stores.
   const char* stores;
@@ -51,7 +51,7 @@ constexpr std::array kEntries = {
 
 bool IsFor(const Entry& entry, const Store& store) {
   const std::string_view stores = entry.stores;
-  return stores.empty() || stores.find(store.code) != std::string_view::npos;
+  return stores.empty() || stores.find(store.Code) != std::string_view::npos;
 }
 
 }  // namespace
@@ -62,9 +62,9 @@ std::vector<Notice> MakeNotices(const std::vector<Store>& stores, Day today) {
   for (auto entry = kEntries.rbegin(); entry != kEntries.rend(); ++entry) {
     Notice notice{entry->subject,
                   entry->body,
-                  MomentText(today - std::chrono::days(entry->days_ago), entry->minutes),
+                  MomentText(today - std::chrono::days(entry->daysAgo), entry->minutes),
                   {}};
-    std::transform(stores.begin(), stores.end(), std::back_inserter(notice.for_store),
+    std::transform(stores.begin(), stores.end(), std::back_inserter(notice.ForStore),
                    [entry](const Store& store) { return IsFor(*entry, store); });
     notices.push_back(std::move(notice));
   }

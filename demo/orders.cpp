@@ -2,9 +2,9 @@
 #include <array>
 #include <string_view>
 
+#include "demo/demo_slip_keys.h"
 #include "demo/generators.h"
 #include "demo/random.h"
-#include "demo/slip_keys.h"
 
 namespace store::demo {
 namespace {
@@ -23,15 +23,15 @@ constexpr Won kMostPerLine = 300'000;
 
 class OrderMaker {
  public:
-  OrderMaker(Franchise& franchise, SlipKeys& keys, Day today)
+  OrderMaker(Franchise& franchise, DemoSlipKeys& keys, Day today)
       : franchise_(franchise), keys_(keys), today_(today), random_(kSeed) {
-    offers_.resize(franchise.partners.size());
-    for (std::size_t i = 0; i < franchise.products.size(); ++i) {
-      const Product& product = franchise.products[i];
-      if (!product.ended) offers_[product.partner].push_back(i);
+    offers_.resize(franchise.Partners.size());
+    for (std::size_t i = 0; i < franchise.Products.size(); ++i) {
+      const Product& product = franchise.Products[i];
+      if (!product.Ended) offers_[product.Partner].push_back(i);
     }
     for (std::size_t i = 0; i < offers_.size(); ++i) {
-      if (franchise.partners[i].Orderable() && !offers_[i].empty()) suppliers_.push_back(i);
+      if (franchise.Partners[i].Orderable() && !offers_[i].empty()) suppliers_.push_back(i);
     }
   }
 
@@ -40,25 +40,25 @@ class OrderMaker {
   void Add(std::size_t n) {
     const bool first = n < kFirstStates.size();
     Slip order;
-    order.state = first ? kFirstStates[n] : random_.Pick(kStates);
-    order.store = first ? kMainStore : PickStore();
-    order.partner = random_.Pick(suppliers_);
-    const Day written = DayOfWriting(order.state, first);
-    order.day = written;
+    order.State = first ? kFirstStates[n] : random_.Pick(kStates);
+    order.Store = first ? kMainStore : PickStore();
+    order.Partner = random_.Pick(suppliers_);
+    const Day written = DayOfWriting(order.State, first);
+    order.Date = written;
     // A store may ask for a later day than that of writing.
-    if (!first && written < today_ && random_.Percent(15)) order.day += std::chrono::days(1);
+    if (!first && written < today_ && random_.Percent(15)) order.Date += std::chrono::days(1);
     Stamp(order, written, "22");
-    order.link.assign(1, ' ');
-    if (order.state >= '2' && random_.Percent(40)) order.conditions = Conditions(written);
+    order.Link.assign(1, ' ');
+    if (order.State >= '2' && random_.Percent(40)) order.Conditions = Conditions(written);
     AddLines(order);
-    if (order.state == '4') Receive(order);
-    franchise_.orders.push_back(std::move(order));
+    if (order.State == '4') Receive(order);
+    franchise_.Orders.push_back(std::move(order));
   }
 
  private:
   std::size_t PickStore() {
     if (random_.Percent(60)) return kMainStore;
-    return kMainStore + 1 + random_.Index(franchise_.stores.size() - kMainStore - 1);
+    return kMainStore + 1 + random_.Index(franchise_.Stores.size() - kMainStore - 1);
   }
 
   // Open orders are of the last days, closed and dropped ones lie further back.
@@ -69,10 +69,10 @@ class OrderMaker {
   }
 
   void Stamp(Slip& slip, Day written, std::string_view kind) {
-    const Store& store = franchise_.stores[slip.store];
-    slip.user = random_.Pick(store.staff).code;
-    slip.id = keys_.Next(written, store.code, slip.user, kind);
-    slip.stored_at = MomentText(written, static_cast<int>(random_.Between(420, 1200)));
+    const Store& store = franchise_.Stores[slip.Store];
+    slip.User = random_.Pick(store.Users).Code;
+    slip.Id = keys_.Next(written, store.Code, slip.User, kind);
+    slip.StoredAt = MomentText(written, static_cast<int>(random_.Between(420, 1200)));
   }
 
   std::vector<std::string> Conditions(Day written) {
@@ -91,7 +91,7 @@ class OrderMaker {
 
   // A run through the supplier's goods at equal steps: no product twice.
   void AddLines(Slip& order) {
-    const auto& goods = offers_[order.partner];
+    const auto& goods = offers_[order.Partner];
     const std::size_t most = std::min<std::size_t>(30, goods.size());
     const std::size_t count = 1 + random_.Index(most);
     const std::size_t step = std::max<std::size_t>(1, goods.size() / count);
@@ -99,14 +99,14 @@ class OrderMaker {
     const std::size_t depot = random_.Percent(80) ? 0 : 1;
     for (std::size_t i = 0; i < count; ++i) {
       SlipLine line;
-      line.product = goods[(start + i * step) % goods.size()];
-      line.depot = depot;
-      const Product& product = franchise_.products[line.product];
-      line.price = product.buy > 0 ? product.buy : product.consumer;
-      line.quantity = QuantityAt(line.price);
-      if (order.state == '3' || order.state == '4') line.other_quantity = Shipped(line.quantity);
-      line.money = MoneyOf(line.quantity, line.price, product.tax);
-      order.lines.push_back(line);
+      line.Product = goods[(start + i * step) % goods.size()];
+      line.Depot = depot;
+      const Product& product = franchise_.Products[line.Product];
+      line.Price = product.Buy > 0 ? product.Buy : product.Consumer;
+      line.Quantity = QuantityAt(line.Price);
+      if (order.State == '3' || order.State == '4') line.OtherQuantity = Shipped(line.Quantity);
+      line.Money = MoneyOf(line.Quantity, line.Price, product.Tax);
+      order.Lines.push_back(line);
     }
   }
 
@@ -126,29 +126,29 @@ class OrderMaker {
   // name each other.
   void Receive(Slip& order) {
     Slip receipt;
-    receipt.store = order.store;
-    receipt.partner = order.partner;
-    receipt.day = std::min(order.day + std::chrono::days(random_.Between(1, 3)), today_);
-    for (const SlipLine& ordered : order.lines) {
-      if (ordered.other_quantity == 0) continue;
+    receipt.Store = order.Store;
+    receipt.Partner = order.Partner;
+    receipt.Date = std::min(order.Date + std::chrono::days(random_.Between(1, 3)), today_);
+    for (const SlipLine& ordered : order.Lines) {
+      if (ordered.OtherQuantity == 0) continue;
       SlipLine line = ordered;
-      line.quantity = ordered.other_quantity;
-      line.other_quantity = ordered.quantity;
-      line.money = MoneyOf(line.quantity, line.price, franchise_.products[line.product].tax);
-      receipt.lines.push_back(line);
+      line.Quantity = ordered.OtherQuantity;
+      line.OtherQuantity = ordered.Quantity;
+      line.Money = MoneyOf(line.Quantity, line.Price, franchise_.Products[line.Product].Tax);
+      receipt.Lines.push_back(line);
     }
-    if (receipt.lines.empty()) {
-      order.lines.front().other_quantity = order.lines.front().quantity;
-      receipt.lines.push_back(order.lines.front());
+    if (receipt.Lines.empty()) {
+      order.Lines.front().OtherQuantity = order.Lines.front().Quantity;
+      receipt.Lines.push_back(order.Lines.front());
     }
-    Stamp(receipt, receipt.day, "23");
-    receipt.link = order.id;
-    order.link = receipt.id;
-    franchise_.purchases.push_back(std::move(receipt));
+    Stamp(receipt, receipt.Date, "23");
+    receipt.Link = order.Id;
+    order.Link = receipt.Id;
+    franchise_.Purchases.push_back(std::move(receipt));
   }
 
   Franchise& franchise_;
-  SlipKeys& keys_;
+  DemoSlipKeys& keys_;
   Day today_;
   Random random_;
   // Products in use by supplier, and the suppliers that have any.
@@ -158,10 +158,10 @@ class OrderMaker {
 
 }  // namespace
 
-void AddOrders(Franchise& franchise, SlipKeys& keys, const Options& options) {
-  OrderMaker maker(franchise, keys, options.today);
+void AddOrders(Franchise& franchise, DemoSlipKeys& keys, const Options& options) {
+  OrderMaker maker(franchise, keys, options.Today);
   if (!maker.HasSuppliers()) return;
-  for (std::size_t n = 0; n < options.slips; ++n) maker.Add(n);
+  for (std::size_t n = 0; n < options.Slips; ++n) maker.Add(n);
 }
 
 }  // namespace store::demo

@@ -13,9 +13,9 @@ struct Entry {
   const char* name;
   int category;
   char kind;
-  char order_level;
-  char price_policy;
-  const char* price_level;
+  char orderLevel;
+  char pricePolicy;
+  const char* priceLevel;
 };
 
 // Names open with every initial consonant, doubled ones too, and some with Latin letters, digits or
@@ -98,18 +98,18 @@ constexpr std::array kEntries = {
 
 // The details of head office's system: a few partners have gaps in them.
 void AddDetails(Partner& partner, Random& random) {
-  partner.business_no = BusinessNumber(random);
-  partner.phone = PhoneNumber(random, random.Percent(40) ? "02" : "031");
-  partner.fax = random.Percent(85) ? PhoneNumber(random, "02") : "";
-  partner.mail = "sales" + partner.code + "@partner.example";
-  partner.zip = std::to_string(random.Between(10000, 63999));
-  partner.address = StreetAddress(random);
-  partner.address2 = random.Percent(70) ? std::to_string(random.Between(1, 9)) + "층" : "";
-  partner.owner = PersonName(random);
-  partner.owner_phone = PhoneNumber(random, "010");
-  partner.contact = PersonName(random);
-  partner.contact_phone = random.Percent(90) ? PhoneNumber(random, "010") : "";
-  partner.contact_mail = "contact" + partner.code + "@partner.example";
+  partner.BusinessNo = BusinessNumber(random);
+  partner.Phone = PhoneNumber(random, random.Percent(40) ? "02" : "031");
+  partner.Fax = random.Percent(85) ? PhoneNumber(random, "02") : "";
+  partner.Mail = "sales" + partner.Code + "@partner.example";
+  partner.Zip = std::to_string(random.Between(10000, 63999));
+  partner.Address = StreetAddress(random);
+  partner.Address2 = random.Percent(70) ? std::to_string(random.Between(1, 9)) + "층" : "";
+  partner.Owner = PersonName(random);
+  partner.OwnerPhone = PhoneNumber(random, "010");
+  partner.Contact = PersonName(random);
+  partner.ContactPhone = random.Percent(90) ? PhoneNumber(random, "010") : "";
+  partner.ContactMail = "contact" + partner.Code + "@partner.example";
 }
 
 }  // namespace
@@ -119,14 +119,14 @@ std::vector<Partner> MakePartners() {
   std::vector<Partner> partners;
   for (const Entry& entry : kEntries) {
     Partner partner;
-    partner.code = std::to_string(kFirstCode + static_cast<int>(partners.size()));
-    partner.name = entry.name;
-    partner.category = entry.category;
-    partner.kind = entry.kind;
-    partner.order_level = entry.order_level;
-    partner.price_policy = entry.price_policy;
-    partner.price_level = entry.price_level;
-    partner.group = entry.category == kAnyCategory ? "G99" : "G0" + std::to_string(entry.category);
+    partner.Code = std::to_string(kFirstCode + static_cast<int>(partners.size()));
+    partner.Name = entry.name;
+    partner.Category = entry.category;
+    partner.Kind = entry.kind;
+    partner.OrderLevel = entry.orderLevel;
+    partner.PricePolicy = entry.pricePolicy;
+    partner.PriceLevel = entry.priceLevel;
+    partner.Group = entry.category == kAnyCategory ? "G99" : "G0" + std::to_string(entry.category);
     AddDetails(partner, random);
     partners.push_back(std::move(partner));
   }

@@ -28,33 +28,33 @@ LevelPrice MakeLevels(std::size_t store, std::size_t index, const Product& produ
   LevelPrice row{store, index, side, {}};
   // Each level a percent or two above the last; a few levels are left open.
   Won percent = side == 'C' ? 100 : 108;
-  for (Won& price : row.prices) {
+  for (Won& price : row.Prices) {
     percent += random.Between(1, 2);
-    price = random.Percent(4) ? 0 : product.buy * percent / 1000 * 10;
+    price = random.Percent(4) ? 0 : product.Buy * percent / 1000 * 10;
   }
   return row;
 }
 
 void AddLevelPrices(Franchise& franchise) {
   Random random(kLevelSeed);
-  const auto& products = franchise.products;
+  const auto& products = franchise.Products;
   for (std::size_t i = 0; i < products.size(); ++i) {
     if (!IsMainGood(random, products.size(), 70, kMostPriced)) continue;
     // Mostly one row a product and side, by head office or by the one store with lists of its own.
     const auto roll = random.Between(1, 100);
     for (const char side : {'C', 'R'}) {
       if (roll <= 65) {
-        franchise.level_prices.push_back(MakeLevels(kHeadOffice, i, products[i], side, random));
+        franchise.LevelPrices.push_back(MakeLevels(kHeadOffice, i, products[i], side, random));
       }
       if (roll > 60) {
-        franchise.level_prices.push_back(MakeLevels(kMainStore, i, products[i], side, random));
+        franchise.LevelPrices.push_back(MakeLevels(kMainStore, i, products[i], side, random));
       }
     }
   }
 }
 
 // What stands in a contract row: prices in force now, for ever, no more, not yet, a level in place
-// of a price, and rows with only one date, which are in force on no date.
+// of a price, and rows without a last day, which are in force on no date.
 ContractTerm MakeTerm(Day today, Won price, Random& random) {
   const auto before = [&](int least, int most) {
     return DateText(today - std::chrono::days(random.Between(least, most)));
@@ -75,31 +75,31 @@ ContractTerm MakeTerm(Day today, Won price, Random& random) {
 }
 
 Won ContractPriceOf(const Product& product, Random& random) {
-  return std::max<Won>(product.buy * random.Between(88, 97) / 1000 * 10, 10);
+  return std::max<Won>(product.Buy * random.Between(88, 97) / 1000 * 10, 10);
 }
 
 void AddPartnerContracts(Franchise& franchise, Day today) {
   Random random(kContractSeed);
-  const auto& products = franchise.products;
+  const auto& products = franchise.Products;
   for (std::size_t i = 0; i < products.size(); ++i) {
     const Product& product = products[i];
     if (!IsMainGood(random, products.size(), 35, kMostPriced)) continue;
     // Most contracts are head office's; some stores bargain for themselves.
     const std::size_t store =
-        random.Percent(85) ? kHeadOffice : random.Index(franchise.stores.size());
-    franchise.contracts.push_back(
-        {product.partner, store, i, MakeTerm(today, ContractPriceOf(product, random), random)});
+        random.Percent(85) ? kHeadOffice : random.Index(franchise.Stores.size());
+    franchise.Contracts.push_back(
+        {product.Partner, store, i, MakeTerm(today, ContractPriceOf(product, random), random)});
   }
 }
 
 void AddStoreContracts(Franchise& franchise, Day today) {
   Random random(kStoreContractSeed);
-  const auto& products = franchise.products;
-  for (std::size_t store = kMainStore; store < franchise.stores.size(); ++store) {
+  const auto& products = franchise.Products;
+  for (std::size_t store = kMainStore; store < franchise.Stores.size(); ++store) {
     for (std::size_t i = 0; i < products.size(); ++i) {
       if (!IsMainGood(random, products.size(), 8, kMostSettings)) continue;
-      const Won price = std::max<Won>(products[i].sell * random.Between(90, 98) / 1000 * 10, 10);
-      franchise.store_contracts.push_back({store, i, MakeTerm(today, price, random)});
+      const Won price = std::max<Won>(products[i].Sell * random.Between(90, 98) / 1000 * 10, 10);
+      franchise.StoreContracts.push_back({store, i, MakeTerm(today, price, random)});
     }
   }
 }
@@ -114,19 +114,19 @@ void AddPrices(Franchise& franchise, Day today) {
 
 void AddOrderSettings(Franchise& franchise) {
   Random random(kSettingSeed);
-  const auto& products = franchise.products;
+  const auto& products = franchise.Products;
   static constexpr std::array<std::int64_t, 6> kUnits = {1, 1, 6, 10, 12, 24};
-  for (std::size_t store = kMainStore; store < franchise.stores.size(); ++store) {
+  for (std::size_t store = kMainStore; store < franchise.Stores.size(); ++store) {
     for (std::size_t i = 0; i < products.size(); ++i) {
       const Product& product = products[i];
       // A store works with two suppliers in three; every store leaves out others.
-      const bool works_with = (product.partner + store) % 3 != 2;
-      if (!works_with || !franchise.partners[product.partner].Orderable()) continue;
+      const bool worksWith = (product.Partner + store) % 3 != 2;
+      if (!worksWith || !franchise.Partners[product.Partner].Orderable()) continue;
       if (!IsMainGood(random, products.size(), 80, kMostSettings)) continue;
       OrderSetting setting{store, i, true, random.Between(0, 12) * 5, random.Pick(kUnits), 0};
-      setting.with_partner = !random.Percent(3);
-      if (!random.Percent(6)) setting.price = product.buy;
-      franchise.settings.push_back(setting);
+      setting.WithPartner = !random.Percent(3);
+      if (!random.Percent(6)) setting.Price = product.Buy;
+      franchise.Settings.push_back(setting);
     }
   }
 }

@@ -51,15 +51,15 @@ constexpr std::array kPieceStandards = {Standard{"1EA", "EA", 1}, Standard{"2입
                                         Standard{"30매*10", "팩", 4},
                                         Standard{"1BOX(24개)", "BOX", 24}};
 
-const Standard& PickStandard(Packing packing, Random& random) {
+const Standard& PickStandard(PackingKind packing, Random& random) {
   switch (packing) {
-    case Packing::kLiquid:
+    case PackingKind::Liquid:
       return random.Pick(kLiquidStandards);
-    case Packing::kDry:
+    case PackingKind::Dry:
       return random.Pick(kDryStandards);
-    case Packing::kFresh:
+    case PackingKind::Fresh:
       return random.Pick(kFreshStandards);
-    case Packing::kPieces:
+    case PackingKind::Pieces:
       break;
   }
   return random.Pick(kPieceStandards);
@@ -99,19 +99,19 @@ std::vector<Place> AddKinds(std::vector<Kind>& kinds) {
   std::string_view top;
   std::string_view middle;
   for (const Category& category : kCategories) {
-    if (category.top != top) {
+    if (category.Top != top) {
       place = {place.top + 1, 0, 0};
-      top = category.top;
+      top = category.Top;
       middle = {};
       kinds.push_back({KindId(place.top, 0, 0), std::string(top), 1});
     }
-    if (category.middle != middle) {
+    if (category.Middle != middle) {
       place = {place.top, place.middle + 1, 0};
-      middle = category.middle;
+      middle = category.Middle;
       kinds.push_back({KindId(place.top, place.middle, 0), std::string(middle), 2});
     }
     ++place.leaf;
-    kinds.push_back({KindId(place.top, place.middle, place.leaf), std::string(category.leaf), 3});
+    kinds.push_back({KindId(place.top, place.middle, place.leaf), std::string(category.Leaf), 3});
     places.push_back(place);
   }
   return places;
@@ -129,7 +129,7 @@ std::string KindOf(const Place& place, Random& random) {
 std::map<int, std::vector<std::size_t>> SuppliersByCategory(const std::vector<Partner>& partners) {
   std::map<int, std::vector<std::size_t>> suppliers;
   for (std::size_t i = 0; i < partners.size(); ++i) {
-    if (partners[i].kind == '0') suppliers[partners[i].category].push_back(i);
+    if (partners[i].Kind == '0') suppliers[partners[i].Category].push_back(i);
   }
   return suppliers;
 }
@@ -138,19 +138,19 @@ Won RoundTo(Won step, Won price) { return (price + step / 2) / step * step; }
 
 void SetPrices(Product& product, const Category& category, int pieces, Random& random) {
   // A case costs a little less than its pieces.
-  const Won piece = random.Between(category.low, category.high) * 10;
-  product.buy = RoundTo(10, pieces > 1 ? piece * pieces * 9 / 10 : piece);
-  product.sell = RoundTo(10, product.buy * random.Between(122, 145) / 100);
-  product.consumer = RoundTo(100, product.sell * random.Between(105, 118) / 100);
+  const Won piece = random.Between(category.Low, category.High) * 10;
+  product.Buy = RoundTo(10, pieces > 1 ? piece * pieces * 9 / 10 : piece);
+  product.Sell = RoundTo(10, product.Buy * random.Between(122, 145) / 100);
+  product.Consumer = RoundTo(100, product.Sell * random.Between(105, 118) / 100);
   // New goods stand in the list before anybody has set their prices.
   const auto roll = random.Between(1, 100);
-  if (roll <= 3) product.buy = 0;
-  if (roll == 2 || roll == 4) product.sell = 0;
-  if (roll == 2) product.consumer = 0;
+  if (roll <= 3) product.Buy = 0;
+  if (roll == 2 || roll == 4) product.Sell = 0;
+  if (roll == 2) product.Consumer = 0;
 }
 
 char TaxOf(const Category& category, Random& random) {
-  if (category.tax != '?') return category.tax;
+  if (category.Tax != '?') return category.Tax;
   return random.Percent(30) ? '2' : '0';
 }
 
@@ -166,9 +166,9 @@ std::string NameOf(const Category& category, const Place& place, Random& random)
   std::string name = random.Pick(kBrands);
   name += ' ';
   name += place.top < kFirstOther ? random.Pick(kFoodQualities) : random.Pick(kOtherQualities);
-  name += random.Pick(Split(category.goods));
+  name += random.Pick(Split(category.Goods));
   name +=
-      category.packing == Packing::kFresh ? random.Pick(kFreshVariants) : random.Pick(kVariants);
+      category.Packing == PackingKind::Fresh ? random.Pick(kFreshVariants) : random.Pick(kVariants);
   return name;
 }
 
@@ -176,30 +176,30 @@ std::string NameOf(const Category& category, const Place& place, Random& random)
 
 void AddProducts(Franchise& franchise, const Options& options) {
   Random random(kSeed);
-  const std::vector<Place> places = AddKinds(franchise.kinds);
-  const auto suppliers = SuppliersByCategory(franchise.partners);
-  franchise.products.reserve(options.items);
-  for (std::size_t i = 0; i < options.items; ++i) {
+  const std::vector<Place> places = AddKinds(franchise.Kinds);
+  const auto suppliers = SuppliersByCategory(franchise.Partners);
+  franchise.Products.reserve(options.Items);
+  for (std::size_t i = 0; i < options.Items; ++i) {
     const std::size_t position = random.Index(kCategories.size());
     const Category& category = kCategories[position];
     const Place& place = places[position];
-    const Standard& standard = PickStandard(category.packing, random);
+    const Standard& standard = PickStandard(category.Packing, random);
     Product product;
-    product.code = std::to_string(kFirstCode + i);
-    product.name = NameOf(category, place, random);
-    product.kind_id = KindOf(place, random);
-    product.part_no = PartNumber(place, i);
-    product.barcode = Barcode(i);
-    product.standard = standard.text;
-    product.unit = standard.unit;
-    product.entry_date = DateText(options.today - std::chrono::days(random.Between(1, 1500)));
-    const int deals_in = random.Percent(5) ? kAnyCategory : place.top - 1;
-    product.partner = random.Pick(suppliers.at(deals_in));
-    product.minimum = random.Between(0, 12) * 5;
-    product.tax = TaxOf(category, random);
-    product.ended = random.Percent(2);
+    product.Code = std::to_string(kFirstCode + i);
+    product.Name = NameOf(category, place, random);
+    product.KindId = KindOf(place, random);
+    product.PartNo = PartNumber(place, i);
+    product.Barcode = Barcode(i);
+    product.Standard = standard.text;
+    product.Unit = standard.unit;
+    product.EntryDate = DateText(options.Today - std::chrono::days(random.Between(1, 1500)));
+    const int dealsIn = random.Percent(5) ? kAnyCategory : place.top - 1;
+    product.Partner = random.Pick(suppliers.at(dealsIn));
+    product.Minimum = random.Between(0, 12) * 5;
+    product.Tax = TaxOf(category, random);
+    product.Ended = random.Percent(2);
     SetPrices(product, category, standard.pieces, random);
-    franchise.products.push_back(std::move(product));
+    franchise.Products.push_back(std::move(product));
   }
 }
 

@@ -34,15 +34,15 @@ TableWriter::~TableWriter() {
 void TableWriter::BeginRow() {
   if (count_ > 0) rows_ += ",\n";
   rows_ += '(';
-  first_value_ = true;
+  firstValue_ = true;
 }
 
 void TableWriter::Add(std::string_view text) { AddBare(Quoted(text)); }
 
 void TableWriter::AddBare(std::string_view literal) {
-  if (!first_value_) rows_ += ',';
+  if (!firstValue_) rows_ += ',';
   rows_ += literal;
-  first_value_ = false;
+  firstValue_ = false;
 }
 
 void TableWriter::EndRow() {

@@ -48,7 +48,7 @@ class TableWriter {
   std::string start_;
   std::string rows_;
   std::size_t count_ = 0;
-  bool first_value_ = true;
+  bool firstValue_ = true;
 };
 
 }  // namespace store::demo

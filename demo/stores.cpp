@@ -19,7 +19,7 @@ struct StoreEntry {
   const char* code;
   const char* name;
   char kind;
-  const char* price_level;
+  const char* priceLevel;
   std::initializer_list<Login> logins;
 };
 
@@ -56,18 +56,18 @@ std::vector<Store> MakeStores() {
   std::vector<Store> stores;
   for (const StoreEntry& entry : kEntries) {
     Store store;
-    store.code = entry.code;
-    store.name = entry.name;
-    store.owner = PersonName(random);
-    store.business_no = BusinessNumber(random);
-    store.phone = PhoneNumber(random, "070");
-    store.address = StreetAddress(random);
-    store.address2 = "1층";
-    store.kind = entry.kind;
-    store.price_level = entry.price_level;
-    store.depots = MakeDepots(store.code, 2 + stores.size() % 2);
+    store.Code = entry.code;
+    store.Name = entry.name;
+    store.Owner = PersonName(random);
+    store.BusinessNo = BusinessNumber(random);
+    store.Phone = PhoneNumber(random, "070");
+    store.Address = StreetAddress(random);
+    store.Address2 = "1층";
+    store.Kind = entry.kind;
+    store.PriceLevel = entry.priceLevel;
+    store.Depots = MakeDepots(store.Code, 2 + stores.size() % 2);
     for (const Login& login : entry.logins) {
-      store.staff.push_back({login.code, login.password, PersonName(random),
+      store.Users.push_back({login.code, login.password, PersonName(random),
                              PhoneNumber(random, "010"), login.level});
     }
     stores.push_back(std::move(store));

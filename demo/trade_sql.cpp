@@ -20,14 +20,14 @@ constexpr const char* kLineColumns =
     "PS_AMT,PS_TAX,ST_CODE,PS_TYPE,PS_MEMO,PS_HCTCODE,PS_HCTNAME";
 
 void WriteLines(TableWriter& writer, const Franchise& franchise, const Slip& slip) {
-  const std::string day = DateText(slip.day);
+  const std::string day = DateText(slip.Date);
   std::size_t number = 0;
-  for (const SlipLine& line : slip.lines) {
-    const Product& product = franchise.products[line.product];
-    const Depot& depot = franchise.stores[slip.store].depots[line.depot];
-    writer.Row(slip.id, ++number, day, product.code, product.name, product.standard, product.tax,
-               product.unit, line.quantity, line.other_quantity, 0, line.price, line.money.amount,
-               line.money.tax, slip.user, '0', "", depot.code, depot.name);
+  for (const SlipLine& line : slip.Lines) {
+    const Product& product = franchise.Products[line.Product];
+    const Depot& depot = franchise.Stores[slip.Store].Depots[line.Depot];
+    writer.Row(slip.Id, ++number, day, product.Code, product.Name, product.Standard, product.Tax,
+               product.Unit, line.Quantity, line.OtherQuantity, 0, line.Price, line.Money.Amount,
+               line.Money.Tax, slip.User, '0', "", depot.Code, depot.Name);
   }
 }
 
@@ -35,20 +35,20 @@ void WriteOrders(std::ostream& out, const Franchise& franchise) {
   static const std::vector<std::string> kNoConditions(8, " ");
   TableWriter headers(out, "PEM22", kOrderColumns);
   TableWriter lines(out, "PSM22", kLineColumns);
-  for (const Slip& order : franchise.orders) {
-    const Store& store = franchise.stores[order.store];
-    const Partner& partner = franchise.partners[order.partner];
+  for (const Slip& order : franchise.Orders) {
+    const Store& store = franchise.Stores[order.Store];
+    const Partner& partner = franchise.Partners[order.Partner];
     headers.BeginRow();
     for (const std::string& text :
-         {order.id, std::string(1, order.state), DateText(order.day), order.stored_at, store.code,
-          store.name, partner.code, partner.name}) {
+         {order.Id, std::string(1, order.State), DateText(order.Date), order.StoredAt, store.Code,
+          store.Name, partner.Code, partner.Name}) {
       headers.Add(text);
     }
     for (const Won sum : {order.Amount(), order.Tax(), order.Total()}) headers.Add(sum);
     // The order forms leave the person, the user and the project of the header blank.
     for (const char* blank : {" ", " ", " "}) headers.Add(blank);
-    headers.Add(order.link);
-    for (const std::string& text : order.conditions.empty() ? kNoConditions : order.conditions) {
+    headers.Add(order.Link);
+    for (const std::string& text : order.Conditions.empty() ? kNoConditions : order.Conditions) {
       headers.Add(text);
     }
     headers.EndRow();
@@ -59,17 +59,17 @@ void WriteOrders(std::ostream& out, const Franchise& franchise) {
 // A receipt has its order's link and the program's version; what the handheld wrote has neither,
 // but a mark in place of a person, and its total as the amount unpaid.
 void WritePosted(std::ostream& out, const Franchise& franchise, const std::vector<Slip>& slips,
-                 const char* header_table, const char* line_table) {
-  TableWriter headers(out, header_table, kPostedColumns);
-  TableWriter lines(out, line_table, kLineColumns);
+                 const char* headerTable, const char* lineTable) {
+  TableWriter headers(out, headerTable, kPostedColumns);
+  TableWriter lines(out, lineTable, kLineColumns);
   for (const Slip& slip : slips) {
-    const Store& store = franchise.stores[slip.store];
-    const Partner& partner = franchise.partners[slip.partner];
-    const bool receipt = !slip.link.empty();
-    headers.Row(slip.id, slip.state, DateText(slip.day), slip.stored_at, store.code, store.name,
-                partner.code, partner.name, slip.Amount(), slip.Tax(), slip.Total(),
+    const Store& store = franchise.Stores[slip.Store];
+    const Partner& partner = franchise.Partners[slip.Partner];
+    const bool receipt = !slip.Link.empty();
+    headers.Row(slip.Id, slip.State, DateText(slip.Date), slip.StoredAt, store.Code, store.Name,
+                partner.Code, partner.Name, slip.Amount(), slip.Tax(), slip.Total(),
                 receipt ? 0 : slip.Total(), 0, 0, "E005", receipt ? " " : "",
-                receipt ? " " : "핸디처리", "", slip.user, receipt ? " " : "", slip.link,
+                receipt ? " " : "핸디처리", "", slip.User, receipt ? " " : "", slip.Link,
                 receipt ? "101" : "");
     WriteLines(lines, franchise, slip);
   }
@@ -78,21 +78,21 @@ void WritePosted(std::ostream& out, const Franchise& franchise, const std::vecto
 void WriteStock(std::ostream& out, const Franchise& franchise) {
   TableWriter writer(out, "IV",
                      "RCT_CODE,HCT_CODE,PR_CODE,PR_NAME,PR_STD,PR_UNT,PR_BCODE,BSQTY,INQTY,OTQTY");
-  for (const Stock& stock : franchise.stock) {
-    const Store& store = franchise.stores[stock.store];
-    const Product& product = franchise.products[stock.product];
+  for (const Stock& stock : franchise.StockRows) {
+    const Store& store = franchise.Stores[stock.Store];
+    const Product& product = franchise.Products[stock.Product];
     // A posting leaves the barcode empty and a blank behind the size text.
-    writer.Row(store.code, store.depots[stock.depot].code, product.code, product.name,
-               stock.counted ? product.standard : product.standard + " ", product.unit,
-               stock.counted ? product.barcode : std::string(), stock.opening, stock.in, stock.out);
+    writer.Row(store.Code, store.Depots[stock.Depot].Code, product.Code, product.Name,
+               stock.Counted ? product.Standard : product.Standard + " ", product.Unit,
+               stock.Counted ? product.Barcode : std::string(), stock.Opening, stock.In, stock.Out);
   }
 }
 
 void WriteBalances(std::ostream& out, const Franchise& franchise) {
   TableWriter writer(out, "CMM", "CM_FCTCODE,CM_TCTCODE,CM_MGU,CM_MM,CM_M13,CM_M23,CM_CK");
-  for (const Balance& balance : franchise.balances) {
-    writer.Row(franchise.stores[balance.store].code, franchise.partners[balance.partner].code, 'C',
-               balance.month, balance.sold, balance.bought, '0');
+  for (const Balance& balance : franchise.Balances) {
+    writer.Row(franchise.Stores[balance.Store].Code, franchise.Partners[balance.Partner].Code, 'C',
+               balance.Month, balance.Sold, balance.Bought, '0');
   }
 }
 
@@ -100,8 +100,8 @@ void WriteBalances(std::ostream& out, const Franchise& franchise) {
 
 void WriteTrade(std::ostream& out, const Franchise& franchise) {
   WriteOrders(out, franchise);
-  WritePosted(out, franchise, franchise.purchases, "PEM23", "PSM23");
-  WritePosted(out, franchise, franchise.sales, "PES13", "PSS13");
+  WritePosted(out, franchise, franchise.Purchases, "PEM23", "PSM23");
+  WritePosted(out, franchise, franchise.Sales, "PES13", "PSS13");
   WriteStock(out, franchise);
   WriteBalances(out, franchise);
 }

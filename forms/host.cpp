@@ -45,16 +45,16 @@ CalendarDate Today() {
 
 namespace {
 
-int steps = 0;  // that are running, one within the other
+int depth = 0;  // of the long steps that are running, one within another
 
 }  // namespace
 
 Hourglass::Hourglass() {
-  if (steps++ == 0) Host.SetPointer(PointerHourglass);
+  if (depth++ == 0) Host.SetPointer(PointerHourglass);
 }
 
 Hourglass::~Hourglass() {
-  if (--steps == 0) Host.SetPointer(PointerNormal);
+  if (--depth == 0) Host.SetPointer(PointerNormal);
 }
 
 }  // namespace store

@@ -41,14 +41,17 @@ std::string NameRange(int tab) {
 
 std::string PartnerStatement(const LookupForm& form) {
   const std::string kind = RightChars(form.SlipTable, 2) == "23" ? " AND CT_GUBUN = '0' " : "";
-  const std::string conditions = GroupCondition(form.GroupCode) + kind;
-  if (AppOptions.OrderInfoPartnersOnly == 1) return SetUpPartners(form.Text1.Text(), conditions);
-  return AllPartners(form.Text1.Text(), conditions + " AND CTCOM.CT_LEVEL2 IN ('0','1')");
+  const std::string extra =
+      Splice("{group}{kind}", "group"_a = GroupCondition(form.GroupCode), "kind"_a = kind);
+  if (AppOptions.OrderInfoPartnersOnly == 1) return SetUpPartners(form.Text1.Text(), extra);
+  return AllPartners(form.Text1.Text(),
+                     Splice("{extra} AND CTCOM.CT_LEVEL2 IN ('0','1')", "extra"_a = extra));
 }
 
 /// Names that contain the text, within the tab's range. The partner's level is not looked at.
 std::string PartnerTabStatement(const LookupForm& form, int tab) {
-  const std::string conditions = NameRange(tab) + GroupCondition(form.GroupCode);
+  const std::string conditions = Splice("{range}{group}", "range"_a = NameRange(tab),
+                                        "group"_a = GroupCondition(form.GroupCode));
   return AppOptions.OrderInfoPartnersOnly == 1 ? SetUpPartners(form.Text1.Text(), conditions)
                                                : AllPartners(form.Text1.Text(), conditions);
 }

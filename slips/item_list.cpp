@@ -29,7 +29,7 @@ void OpenScopedItemList(const std::string& supplier) {
 }
 
 void OpenReceiptItemList(const std::string& supplier) {
-  OpenRecordset(SlotC, " " + ScopedItemList(supplier));
+  OpenRecordset(SlotC, Splice(" {list}", "list"_a = ScopedItemList(supplier)));
 }
 
 bool FindItem(const std::string& productCode) {

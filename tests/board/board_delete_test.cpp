@@ -6,61 +6,61 @@ namespace {
 
 using Texts = std::vector<std::string>;
 
-constexpr const char* kDeleted = "[발주편집]전표가 삭제되었습니다.";
-constexpr const char* kReverted = "[발주확정]전표를 [발주편집]상태로 전환되었습니다.";
-
 class BoardDeletes : public BoardTest {
  protected:
   BoardDeletes() { ShowMay(); }
 };
 
-TEST_F(BoardDeletes, ASlipInEditingWithItsLines) {
-  Click(kEditing);
-  host.ExpectBox(kDeleted);
-  board.Image1_Click(4);
-  EXPECT_EQ(SqlBatch,
-            (Texts{"", " DELETE FROM PEM22 WHERE  PE_ID = '" + kEditing + "' AND PE_CK  = '0' "}));
-  EXPECT_EQ(StateOf(kEditing), "gone");
-  EXPECT_EQ(Value("SELECT COUNT(*) FROM PSM22 WHERE PE_ID='" + kEditing + "'"), "0");
+TEST_F(BoardDeletes, OrTakesBackBySelectedStateWhateverHeadOfficeDidMeanwhile) {
+  const std::string remove =
+      " DELETE FROM PEM22 WHERE  PE_ID = '" + kEditing + "' AND PE_CK  = '0' ";
+  const std::string revert =
+      " UPDATE PEM22 SET PE_CK  = '0' WHERE  PE_ID = '" + kConfirmed + "' AND PE_CK  = '1' ";
+  const char* const kDeleted = "[발주편집]전표가 삭제되었습니다.";
+  const char* const kReverted = "[발주확정]전표를 [발주편집]상태로 전환되었습니다.";
+  const struct {
+    const std::string& slip;
+    const char* state;  ///< When it is selected.
+    const char* moved;  ///< To, before the press.
+    const std::string& statement;
+    const char* box;
+    const char* after;
+  } cases[] = {
+      // A slip that was moved on stays as it is; the box says so all the same.
+      {kEditing, "0", "2", remove, kDeleted, "2"},
+      {kConfirmed, "1", "2", revert, kReverted, "2"},
+      {kConfirmed, "1", "1", revert, kReverted, "0"},
+      {kEditing, "0", "0", remove, kDeleted, "gone"},
+  };
+  const auto move = [](const std::string& slip, const std::string& state) {
+    Sql("UPDATE PEM22 SET PE_CK='" + state + "' WHERE PE_ID='" + slip + "'");
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.slip + " moved to " + c.moved);
+    move(c.slip, c.state);
+    board.Image1_Click(3);
+    Click(c.slip);
+    move(c.slip, c.moved);
+    host.ExpectBox(c.box);
+    board.Image1_Click(4);
+    EXPECT_EQ(SqlBatch, (Texts{"", c.statement}));
+    EXPECT_EQ(StateOf(c.slip), c.after);
+    EXPECT_EQ(host.Boxes.back().Style, box::Plain);
+  }
+  // The board has been read again, the lines have gone with their slip, and no other slip has.
   EXPECT_EQ(Slips(), (Texts{kConfirmed, kApproved, kShipped}));
-  EXPECT_EQ(host.Boxes.at(0).Style, box::Plain);
+  EXPECT_EQ(ColumnText(board.FLEX1, board::State), "발주편집,본부승인,물류출고");
+  EXPECT_EQ(Value("SELECT COUNT(*) FROM PSM22 WHERE PE_ID='" + kEditing + "'"), "0");
   EXPECT_EQ(Value("SELECT COUNT(*) FROM PEM22"), "5");
-}
-
-TEST_F(BoardDeletes, AConfirmedSlipGoesBackIntoEditing) {
-  Click(kConfirmed);
-  host.ExpectBox(kReverted);
-  board.Image1_Click(4);
-  EXPECT_EQ(SqlBatch, (Texts{"", " UPDATE PEM22 SET PE_CK  = '0' WHERE  PE_ID = '" + kConfirmed +
-                                     "' AND PE_CK  = '1' "}));
-  EXPECT_EQ(StateOf(kConfirmed), "0");
-  PointAt(kConfirmed);
-  EXPECT_EQ(board.FLEX1.TextMatrix(board.FLEX1.Row(), col::State), "발주편집");
 }
 
 TEST_F(BoardDeletes, ASecondPressDoesNothingMore) {
   // The state word stays with the selection after the refresh: it asks for a state that is gone.
   Click(kConfirmed);
   for (int press = 1; press <= 2; ++press) {
-    host.ExpectBox(kReverted);
+    host.ExpectBox("전환되었습니다.");
     board.Image1_Click(4);
     EXPECT_EQ(StateOf(kConfirmed), "0");
-  }
-}
-
-TEST_F(BoardDeletes, NothingThatHeadOfficeHasMovedMeanwhile) {
-  const struct {
-    const std::string& slip;
-    const char* box;
-  } cases[] = {{kEditing, kDeleted}, {kConfirmed, kReverted}};
-  for (const auto& c : cases) {
-    Click(c.slip);
-    Sql("UPDATE PEM22 SET PE_CK='2' WHERE PE_ID='" + c.slip + "'");
-    host.ExpectBox(c.box);  // it says so all the same; the board then shows the truth
-    board.Image1_Click(4);
-    EXPECT_EQ(StateOf(c.slip), "2");
-    PointAt(c.slip);
-    EXPECT_EQ(board.FLEX1.TextMatrix(board.FLEX1.Row(), col::State), "본부승인");
   }
 }
 
@@ -84,7 +84,6 @@ TEST_F(BoardDeletes, NothingWithoutADatabaseAndSaysSo) {
   Disconnect();
   host.ExpectBox("저장이 실패하였습니다.");
   board.Image1_Click(4);
-  EXPECT_EQ(host.Boxes.at(0).Style, box::Plain);
   EXPECT_EQ(Slips().size(), 4u) << "the board is not read again";
   Reconnect();
   EXPECT_EQ(StateOf(kEditing), "0");

@@ -27,7 +27,7 @@ TEST_F(BoardOpens, NothingOnAClickBesideTheConfirmColumn) {
   Click(kConfirmed);
   EXPECT_EQ(board.SelectedSlipId, kConfirmed);
   EXPECT_EQ(board.SelectedSlipState, "발주확정");
-  Click(kShipped, col::Total);
+  Click(kShipped, board::Total);
   EXPECT_EQ(board.SelectedSlipId, kShipped);
   EXPECT_EQ(board.SelectedSlipState, "물류출고");
   EXPECT_EQ(host.FormsShown, Texts{});
@@ -45,42 +45,39 @@ TEST_F(BoardOpens, AnOrderInTheFormOfTheOrderType) {
       SCOPED_TRACE(testing::Message() << c.form << ", " << slip);
       AppOptions.OrderType = static_cast<std::int16_t>(c.type);
       host.FormsShown.clear();
-      Click(slip, col::Confirm);
+      Click(slip, board::Confirm);
       EXPECT_EQ(host.FormsShown, (Texts{c.form}));
       EXPECT_EQ(Opened(c.form).SlipId, slip);
       EXPECT_EQ(Opened(c.form).SlipTable, "PEM22");
       EXPECT_EQ(Opened(c.form).NoPriceMode, 0);
     }
   }
-}
-
-TEST_F(BoardOpens, AnOrderByADoubleClickAnywhereAndByEnter) {
+  // A double click and Enter open it from any column.
   PointAt(kEditing, 2);
   board.FLEX1_DblClick();
-  EXPECT_EQ(Opened("frm_Order").SlipId, kEditing);
+  EXPECT_EQ(Opened("frm_Order03").SlipId, kEditing);
   PointAt(kConfirmed, 2);
   board.FLEX1_KeyDown(Key::Enter);
-  EXPECT_EQ(Opened("frm_Order").SlipId, kConfirmed);
-  EXPECT_EQ(board.SelectedSlipId, kConfirmed);
+  EXPECT_EQ(Opened("frm_Order03").SlipId, kConfirmed);
 }
 
 TEST_F(BoardOpens, ASlipThatHeadOfficeHasMovedAsAReceiptAndRefreshes) {
   for (const std::string& slip : {kApproved, kShipped}) {
     ExpectReceipt(slip);
     Sql("DELETE FROM PEM22 WHERE PE_ID='" + slip + "'");  // as if it were received
-    Click(slip, col::Confirm);
+    Click(slip, board::Confirm);
     EXPECT_EQ(Slips().size(), slip == kApproved ? 3u : 2u);
   }
   EXPECT_FALSE(IsOpen("frm_Order"));
 }
 
 TEST_F(BoardOpens, NothingFromTheHeaderAndNothingForAnUnknownOrderType) {
-  board.FLEX1.Select(0, col::Confirm);
+  board.FLEX1.Select(0, board::Confirm);
   board.FLEX1_Click();
   board.FLEX1_DblClick();
   EXPECT_EQ(board.SelectedSlipId, "");
   AppOptions.OrderType = 4;
-  Click(kEditing, col::Confirm);
+  Click(kEditing, board::Confirm);
   board.Image1_Click(0);
   AppOptions.OrderType = -1;
   board.Image1_Click(1);
@@ -100,7 +97,7 @@ TEST_F(BoardOpens, ANewOrderWithOrWithoutPrices) {
 }
 
 TEST_F(BoardOpens, AFreshFormUnlessThereIsWorkInIt) {
-  Click(kEditing, col::Confirm);
+  Click(kEditing, board::Confirm);
   board.Image1_Click(1);  // nothing was entered: the form is used anew
   EXPECT_EQ(Opened("frm_Order").SlipId, "");
   EXPECT_EQ(Opened("frm_Order").NoPriceMode, 1);
@@ -108,7 +105,7 @@ TEST_F(BoardOpens, AFreshFormUnlessThereIsWorkInIt) {
   StandInForm& form = Opened("frm_Order");
   form.Work = true;
   host.FormsShown.clear();
-  Click(kConfirmed, col::Confirm);
+  Click(kConfirmed, board::Confirm);
   board.Image1_Click(0);
   EXPECT_EQ(&Opened("frm_Order"), &form);
   EXPECT_EQ(form.SlipId, "");
@@ -141,8 +138,8 @@ TEST_F(BoardOpens, NoSlipForANumberThatIsNone) {
         "없습니다.");
     board.Text2.SetText(text);
     board.Text2_KeyPress(Key::Enter);
-    EXPECT_EQ(host.Boxes.at(host.Boxes.size() - 1).Title, "전표확인");
-    EXPECT_EQ(host.Boxes.at(host.Boxes.size() - 1).Style, box::Critical);
+    EXPECT_EQ(host.Boxes.back().Title, "전표확인");
+    EXPECT_EQ(host.Boxes.back().Style, box::Critical);
     EXPECT_EQ(board.Text2.Text(), "");
     EXPECT_EQ(board.SelectedSlipId, "");
   }

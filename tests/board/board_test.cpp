@@ -31,7 +31,7 @@ void BoardTest::ShowMay() {
 std::vector<std::string> BoardTest::Slips() {
   std::vector<std::string> slips;
   for (int row = 1; row < board.FLEX1.Rows(); ++row)
-    slips.push_back(board.FLEX1.TextMatrix(row, col::SlipId));
+    slips.push_back(board.FLEX1.TextMatrix(row, board::SlipId));
   return slips;
 }
 

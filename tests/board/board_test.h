@@ -16,15 +16,6 @@ inline const std::string kApproved = "202405161001u01220003";
 inline const std::string kShipped = "202405151001u02220004";
 inline const std::string kReceived = "202405101001u01220005";
 
-/// Columns of the board.
-namespace col {
-inline constexpr int State = 3;
-inline constexpr int Total = 7;
-inline constexpr int SlipId = 8;
-inline constexpr int Confirm = 9;
-inline constexpr int PartnerCode = 10;
-}  // namespace col
-
 /// Stands where an order or receipt form would, and shows what the board has given it.
 class StandInForm : public SlipForm {
  public:

@@ -3,8 +3,8 @@
 
 #include <sstream>
 
+#include "demo/demo_line_money.h"
 #include "demo/franchise_sql.h"
-#include "demo/line_money.h"
 #include "demo/sql_writer.h"
 #include "gateway/gateway.h"
 #include "tests/support/private_server.h"
@@ -140,7 +140,7 @@ TEST_F(Demo, TextsReachTheServerAsTheyAreHoweverManyRows) {
   EXPECT_EQ(Value("SELECT CONCAT(COUNT(DISTINCT B),' ',MAX(B)) FROM T"), "1001 1001");
 }
 
-TEST(DemoLineMoney, IsRoundedPerLineByTaxKind) {
+TEST(DemoMoney, IsRoundedPerLineByTaxKind) {
   struct Case {
     std::int64_t quantity;
     Won price;
@@ -153,9 +153,9 @@ TEST(DemoLineMoney, IsRoundedPerLineByTaxKind) {
                         {1, 14, '0', 14, 1},
                         {1, 15, '0', 15, 2},
                         {7, 1234, '1', 8638, 0}}) {
-    const LineMoney money = MoneyOf(c.quantity, c.price, c.kind);
-    EXPECT_EQ(money.amount, c.amount) << c.quantity << " x " << c.price << " kind " << c.kind;
-    EXPECT_EQ(money.tax, c.tax) << c.quantity << " x " << c.price << " kind " << c.kind;
+    const DemoLineMoney money = MoneyOf(c.quantity, c.price, c.kind);
+    EXPECT_EQ(money.Amount, c.amount) << c.quantity << " x " << c.price << " kind " << c.kind;
+    EXPECT_EQ(money.Tax, c.tax) << c.quantity << " x " << c.price << " kind " << c.kind;
   }
 }
 

@@ -10,7 +10,7 @@ namespace store::demo {
 
 /// Hands out document keys: date, store, user, two digits of kind, and a number that counts up per
 /// store, kind and day whoever writes.
-class SlipKeys {
+class DemoSlipKeys {
  public:
   std::string Next(Day day, std::string_view store, std::string_view user, std::string_view kind);
 

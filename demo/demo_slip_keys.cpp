@@ -1,9 +1,9 @@
-#include "demo/slip_keys.h"
+#include "demo/demo_slip_keys.h"
 
 namespace store::demo {
 
-std::string SlipKeys::Next(Day day, std::string_view store, std::string_view user,
-                           std::string_view kind) {
+std::string DemoSlipKeys::Next(Day day, std::string_view store, std::string_view user,
+                               std::string_view kind) {
   const std::string date = KeyDate(day);
   const std::string number =
       std::to_string(++last_[date + std::string(store) + ":" + std::string(kind)]);
