@@ -1,10 +1,11 @@
 #include "start/frmOptions.h"
 
+#include <optional>
+
 #include "basics/deployment.h"
 #include "forms/form.h"
 #include "forms/host.h"
 #include "gateway/gateway.h"
-#include "start/options.h"
 
 namespace store {
 namespace {
@@ -15,20 +16,35 @@ std::string CompanyStatement(const std::string& companyId) {
       "company"_a = companyId);
 }
 
-/// Which box holds which option, in the order in which they are written.
-constexpr std::array<std::pair<size_t, const char*>, 4> kTexts = {{{0, option::DataServer},
-                                                                   {1, option::BusinessServer},
-                                                                   {2, option::BusinessObject},
-                                                                   {4, option::CompanyId}}};
-constexpr std::array<std::pair<CheckBox frmOptions::*, const char*>, 4> kChecks = {
-    {{&frmOptions::Check1, option::OrderZeroPrice},
-     {&frmOptions::Check2, option::OrderInfoPartnersOnly},
-     {&frmOptions::Check3, option::SkipZeroReceipt},
-     {&frmOptions::Check4, option::ShowMidCategory}}};
+void Show(TextBox& box, const std::string& stored) { box.SetText(stored); }
 
-void FillCheck(CheckBox& check, const std::string& key) {
-  const std::int16_t stored = ReadNumberOption(kOptionSection, key);
-  if (stored == 0 || stored == 1) check.Value = stored;
+void Show(ComboBox& policies, const std::string& stored) {
+  policies.SetListIndex(OptionNumber(stored));
+}
+
+void Show(CheckBox& check, const std::string& stored) {
+  const std::int16_t value = OptionNumber(stored);
+  if (value == 0 || value == 1) check.Value = value;
+}
+
+void Show(OrderTypeChoice& choice, const std::string& stored) {
+  for (size_t i = 0; i < choice.size(); ++i)
+    choice[i].Value = static_cast<int>(i) == OptionNumber(stored);
+}
+
+std::optional<std::string> Entered(const TextBox& box) { return box.Text(); }
+
+std::optional<std::string> Entered(const ComboBox& policies) {
+  return std::to_string(policies.ListIndex());
+}
+
+std::optional<std::string> Entered(const CheckBox& check) { return std::to_string(check.Value); }
+
+/// Nothing when no type is chosen: what is stored then stays.
+std::optional<std::string> Entered(const OrderTypeChoice& choice) {
+  for (size_t i = 0; i < choice.size(); ++i)
+    if (choice[i].Value) return std::to_string(i);
+  return std::nullopt;
 }
 
 }  // namespace
@@ -54,12 +70,11 @@ frmOptions::frmOptions() : Form("frmOptions") {
 }
 
 void frmOptions::PublishControls() {
-  for (const auto& [index, key] : kTexts) {
-    Publish("Text1_" + std::to_string(index), Text1[index]);
-    Text1[index].KeyDown = [this, at = static_cast<int>(index)](Key pressed) {
-      Text1_KeyPress(at, pressed);
-    };
-    Text1[index].OwnKeys = {Key::Enter};
+  for (const int index : {0, 1, 2, 4}) {
+    TextBox& box = Text1[static_cast<size_t>(index)];
+    Publish("Text1_" + std::to_string(index), box);
+    box.KeyDown = [this, index](Key key) { Text1_KeyPress(index, key); };
+    box.OwnKeys = {Key::Enter};
   }
   Publish("Combo1", Combo1);
   Publish("Label1", Label1);
@@ -80,10 +95,10 @@ void frmOptions::PublishControls() {
 
 void frmOptions::Load() {
   ShapeWindow(*this, placement::Centered, false);
-  for (const auto& [index, key] : kTexts) Text1[index].SetText(ReadOption(kOptionSection, key));
-  Combo1.SetListIndex(ReadNumberOption(kOptionSection, option::BulkOrderPrice));
-  for (const auto& [check, key] : kChecks) FillCheck(this->*check, key);
-  SSOption1_Click(ReadNumberOption(kOptionSection, option::OrderType));
+  for (size_t i = 0; i < kOptions.size(); ++i) {
+    const std::string stored = ReadOption(kOptionSection, kOptions[i].Key);
+    std::visit([&](auto* control) { Show(*control, stored); }, fields_[i]);
+  }
 }
 
 bool frmOptions::KeyDown(Key key) {
@@ -132,15 +147,10 @@ bool frmOptions::CompanyIsKnown() {
 }
 
 void frmOptions::WriteAll() {
-  for (const auto& [index, key] : kTexts) WriteOption(kOptionSection, key, Text1[index].Text());
-  WriteOption(kOptionSection, option::BulkOrderPrice, std::to_string(Combo1.ListIndex()));
-  for (const auto& [check, key] : kChecks) {
-    WriteOption(kOptionSection, key, std::to_string((this->*check).Value));
-  }
-  for (size_t i = 0; i < SSOption1.size(); ++i) {
-    if (!SSOption1[i].Value) continue;
-    WriteOption(kOptionSection, option::OrderType, std::to_string(i));
-    return;
+  for (size_t i = 0; i < kOptions.size(); ++i) {
+    const auto value =
+        std::visit([](const auto* control) { return Entered(*control); }, fields_[i]);
+    if (value) WriteOption(kOptionSection, kOptions[i].Key, *value);
   }
 }
 

@@ -1,10 +1,15 @@
 #pragma once
 
 #include <array>
+#include <variant>
 
 #include "forms/form.h"
+#include "start/options.h"
 
 namespace store {
+
+/// Which order form is used; the index is the stored value.
+using OrderTypeChoice = std::array<OptionButton, 4>;
 
 /// The workstation's options, opened from the login window. Nothing is written until the company id
 /// has been found in the directory database. What was saved holds from the next program start; in
@@ -21,7 +26,7 @@ class frmOptions : public Form {
   CheckBox Check2{"발주정보 거래처만  보기"};
   CheckBox Check3{"입고처리시 입고량 0은 제외"};
   CheckBox Check4{"[타입A]에서 중분류 표기"};
-  std::array<OptionButton, 4> SSOption1;  ///< Order form; the index is the stored value.
+  OrderTypeChoice SSOption1;
   Button cmdApply{"적용"};
   Button cmdCancel{"취소"};
 
@@ -37,6 +42,12 @@ class frmOptions : public Form {
   void PublishControls();
   bool CompanyIsKnown();
   void WriteAll();
+
+  /// Beside each of `kOptions`, in its order, the control that shows it.
+  using Field = std::variant<TextBox*, ComboBox*, CheckBox*, OrderTypeChoice*>;
+  const std::array<Field, kOptions.size()> fields_ = {&Text1[0], &Text1[1], &Text1[2], &Text1[4],
+                                                      &Combo1,   &Check1,   &Check2,   &Check3,
+                                                      &Check4,   &SSOption1};
 };
 
 }  // namespace store

@@ -21,23 +21,18 @@ void WriteOption(const std::string& section, const std::string& key, const std::
     Host.MsgBox("옵션정보 기록실패", box::Plain, "");
 }
 
-std::int16_t ReadNumberOption(const std::string& section, const std::string& key) {
+std::int16_t OptionNumber(const std::string& value) {
   std::int16_t number = 0;
-  ToInt16(ParseNumber(ReadOption(section, key)), number);
+  ToInt16(ParseNumber(value), number);
   return number;
 }
 
 void LoadOptions() {
-  AppOptions.DataServer = ReadOption(kOptionSection, option::DataServer);
-  AppOptions.BusinessServer = ReadOption(kOptionSection, option::BusinessServer);
-  AppOptions.CompanyId = ReadOption(kOptionSection, option::CompanyId);
-  AppOptions.BulkOrderPrice = ReadOption(kOptionSection, option::BulkOrderPrice);
-  AppOptions.OrderZeroPrice = ReadNumberOption(kOptionSection, option::OrderZeroPrice);
-  AppOptions.OrderInfoPartnersOnly =
-      ReadNumberOption(kOptionSection, option::OrderInfoPartnersOnly);
-  AppOptions.SkipZeroReceipt = ReadNumberOption(kOptionSection, option::SkipZeroReceipt);
-  AppOptions.OrderType = ReadNumberOption(kOptionSection, option::OrderType);
-  AppOptions.ShowMidCategory = ReadNumberOption(kOptionSection, option::ShowMidCategory);
+  for (const Option& option : kOptions) {
+    const std::string value = ReadOption(kOptionSection, option.Key);
+    if (option.Text != nullptr) AppOptions.*option.Text = value;
+    if (option.Number != nullptr) AppOptions.*option.Number = OptionNumber(value);
+  }
   AppOptions.DbUser = "kt";
   BuildConnectString(AppOptions.DataServer, AppOptions.DbUser, AppOptions.CompanyId);
   Host.SetPointer(PointerNormal);
