@@ -1,107 +1,157 @@
 #include "tests/layers/layers.h"
 
+#include <algorithm>
 #include <fstream>
-#include <map>
 #include <regex>
-#include <set>
 #include <sstream>
 
 namespace store {
 namespace {
 
-namespace fs = std::filesystem;
 using Names = std::set<std::string>;
+using Folders = std::map<std::string, LayerFolder>;
 
-/// Which folders each folder may include. A folder of the same row is not among them.
-const std::map<std::string, Names>& Below() {
-  static const Names data = {"basics", "forms", "gateway"};
-  static const Names documents = {"basics", "forms", "gateway", "slips", "lookup"};
-  static const std::map<std::string, Names> below = {
+/// What each folder may include from and link.
+const std::map<std::string, Names>& Layers() {
+  static const Names kGround = {"basics", "forms"};
+  static const Names kBelowLookup = {"basics", "forms", "gateway", "slips"};
+  static const Names kBelowForms = {"basics", "forms", "gateway", "slips", "lookup"};
+  static const std::map<std::string, Names> kLayers = {
       {"basics", {}},
       {"forms", {"basics"}},
-      {"gateway", {"basics", "forms"}},
-      {"slips", data},
-      {"lookup", {"basics", "forms", "gateway", "slips"}},
-      {"start", documents},
-      {"board", documents},
-      {"order", documents},
-      {"receipt", documents},
-      {"handheld", documents},
+      {"gateway", kGround},
+      {"slips", {"basics", "forms", "gateway"}},
+      {"lookup", kBelowLookup},
+      {"start", kBelowForms},
+      {"board", kBelowForms},
+      {"order", kBelowForms},
+      {"receipt", kBelowForms},
+      {"handheld", kBelowForms},
       {"ui",
        {"basics", "forms", "gateway", "slips", "lookup", "start", "board", "order", "receipt",
         "handheld"}},
+      {"demo", {}},
+      {"private_db", {}},
   };
-  return below;
+  return kLayers;
 }
 
-std::string Content(const fs::path& file) {
-  std::ifstream stream(file);
+std::string TextOf(const std::filesystem::path& path) {
   std::ostringstream text;
-  text << stream.rdbuf();
+  text << std::ifstream(path).rdbuf();
   return text.str();
 }
 
-/// All that the first group of `pattern` finds in a text.
-Names Found(const std::string& text, const std::regex& pattern) {
-  Names found;
-  for (std::sregex_iterator at(text.begin(), text.end(), pattern), end; at != end; ++at) {
-    found.insert((*at)[1]);
-  }
-  return found;
+bool IsSource(const std::filesystem::path& path) {
+  return path.extension() == ".h" || path.extension() == ".cpp";
 }
 
-struct Folder {
-  Names included;
-  Names linked;
-  bool usesQt = false;
-};
+void ReadIncludes(const std::filesystem::path& file, const std::string& shownAs,
+                  LayerFolder& folder) {
+  static const std::regex kInclude(R"(^\s*#\s*include\s*(?:"(([^"/]+)/[^"]+)\"|(<Q[^>]*>)))");
+  std::ifstream lines(file);
+  std::string line;
+  std::smatch found;
+  while (std::getline(lines, line)) {
+    if (!std::regex_search(line, found, kInclude)) continue;
+    if (found[3].matched) {
+      folder.ToolkitIncludes.push_back(shownAs + ": " + found.str(3));
+    } else if (found.str(2) != folder.Name) {
+      folder.Includes.emplace(found.str(2), shownAs + ": " + found.str(1));
+    }
+  }
+}
 
-Folder ReadFolder(const fs::path& path) {
-  static const std::regex include("#include \"([a-z_]+)/");
-  static const std::regex qt("#include <(Q[A-Za-z]*)>");
-  static const std::regex link("store_([a-z]+)");
-  Folder folder;
-  for (const auto& entry : fs::recursive_directory_iterator(path)) {
-    const std::string ending = entry.path().extension();
-    if (ending != ".h" && ending != ".cpp") continue;
-    const std::string text = Content(entry.path());
-    folder.included.merge(Found(text, include));
-    folder.usesQt = folder.usesQt || !Found(text, qt).empty();
-  }
-  // The links stand behind the word LINKS, in ui behind target_link_libraries.
-  const std::string build = Content(path / "CMakeLists.txt");
-  for (const char* word : {"LINKS", "target_link_libraries(store_ui"}) {
-    const size_t begin = build.find(word);
-    if (begin == std::string::npos) continue;
-    folder.linked.merge(Found(
-        build.substr(begin + std::string(word).size(), build.find(')', begin) - begin), link));
-  }
+/// The folders behind LINKS, or those that the window folder links, which names its own way.
+Names LinksIn(const std::string& cmake) {
+  static const std::regex kCall(
+      R"((?:store_library\([^)]*LINKS|target_link_libraries\(store_ui\b)([^)]*)\))");
+  static const std::regex kFolder(R"(\bstore_(\w+))");
+  Names links;
+  std::smatch call;
+  if (!std::regex_search(cmake, call, kCall)) return links;
+  const std::string listed = call.str(1);
+  for (std::sregex_iterator link(listed.begin(), listed.end(), kFolder), end; link != end; ++link)
+    links.insert(link->str(1));
+  return links;
+}
+
+LayerFolder ReadFolder(const std::filesystem::path& root, const std::string& name) {
+  LayerFolder folder;
+  folder.Name = name;
+  folder.Links = LinksIn(TextOf(root / name / "CMakeLists.txt"));
+  std::vector<std::filesystem::path> files;
+  for (const auto& entry : std::filesystem::recursive_directory_iterator(root / name))
+    if (IsSource(entry.path())) files.push_back(entry.path());
+  std::sort(files.begin(), files.end());
+  for (const auto& file : files)
+    ReadIncludes(file, file.lexically_relative(root).generic_string(), folder);
   return folder;
+}
+
+bool MayUse(const std::string& folder, const std::string& other) {
+  const auto place = Layers().find(folder);
+  return place != Layers().end() && place->second.contains(other);
+}
+
+void AddFaults(const LayerFolder& folder, std::vector<std::string>& faults) {
+  const std::string& name = folder.Name;
+  if (!Layers().contains(name)) faults.push_back(name + " has no place in the layers");
+  for (const auto& [other, where] : folder.Includes) {
+    if (!MayUse(name, other)) {
+      faults.push_back(where + " is against the layers");
+    } else if (!folder.Links.contains(other)) {
+      faults.push_back(where + " is of a folder that " + name + " does not link");
+    }
+  }
+  for (const std::string& link : folder.Links) {
+    if (!folder.Includes.contains(link))
+      faults.push_back(name + " links " + link + " and includes nothing of it");
+  }
+  if (name == "ui") return;
+  for (const std::string& where : folder.ToolkitIncludes)
+    faults.push_back(where + " is of the toolkit");
+}
+
+bool Leads(const Folders& folders, const std::string& from, const std::string& to) {
+  const auto folder = folders.find(from);
+  if (folder == folders.end()) return false;
+  const Names& links = folder->second.Links;
+  return links.contains(to) || std::any_of(links.begin(), links.end(), [&](const auto& link) {
+           return Leads(folders, link, to);
+         });
 }
 
 }  // namespace
 
-std::vector<std::string> BrokenLayers(const fs::path& tree) {
-  std::vector<std::string> broken;
-  for (const auto& [name, below] : Below()) {
-    if (!fs::exists(tree / name)) continue;
-    Folder folder = ReadFolder(tree / name);
-    folder.included.erase(name);
-    folder.linked.erase(name);
-    for (const std::string& included : folder.included) {
-      if (!below.contains(included)) broken.push_back(name + " includes " + included);
-      if (!folder.linked.contains(included)) {
-        broken.push_back(name + " includes " + included + " and does not link it");
-      }
-    }
-    for (const std::string& linked : folder.linked) {
-      if (Below().contains(linked) && !folder.included.contains(linked)) {
-        broken.push_back(name + " links " + linked + " and includes nothing of it");
-      }
-    }
-    if (folder.usesQt && name != "ui") broken.push_back(name + " includes Qt");
+Folders ReadLayers(const std::filesystem::path& root) {
+  static const std::regex kOwnLibrary(R"(\bstore_library\(|\badd_library\()");
+  Folders folders;
+  for (const auto& entry : std::filesystem::directory_iterator(root)) {
+    const std::string name = entry.path().filename().string();
+    if (std::regex_search(TextOf(entry.path() / "CMakeLists.txt"), kOwnLibrary))
+      folders[name] = ReadFolder(root, name);
   }
-  return broken;
+  return folders;
+}
+
+std::vector<std::string> LayerFaults(const Folders& folders) {
+  std::vector<std::string> faults;
+  for (const auto& [name, folder] : folders) AddFaults(folder, faults);
+  return faults;
+}
+
+std::string LayerGraph(const Folders& folders) {
+  std::string graph = "graph TD\n";
+  for (const auto& [name, folder] : folders) {
+    for (const std::string& link : folder.Links) {
+      const bool longerWay = std::any_of(
+          folder.Links.begin(), folder.Links.end(),
+          [&](const std::string& other) { return other != link && Leads(folders, other, link); });
+      if (!longerWay) graph += "  " + name + " --> " + link + "\n";
+    }
+  }
+  return graph;
 }
 
 }  // namespace store

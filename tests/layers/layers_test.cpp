@@ -1,38 +1,78 @@
 #include "tests/layers/layers.h"
 
 #include <gtest/gtest.h>
-#include <stdlib.h>
 
+#include <cstdlib>
 #include <fstream>
+#include <iostream>
 
 namespace store {
 namespace {
 
-TEST(Layers, EachFolderIncludesOnlyWhatLiesBelowAndLinksJustThat) {
-  EXPECT_EQ(BrokenLayers(STORE_TREE), std::vector<std::string>());
+using Texts = std::vector<std::string>;
+
+TEST(Layers, OfTheProgramPointOneWay) {
+  const auto folders = ReadLayers(STORE_ROOT);
+  for (const char* name : {"basics", "gateway", "lookup", "board", "ui"})
+    EXPECT_TRUE(folders.contains(name)) << name << " is not read at all";
+  EXPECT_EQ(LayerFaults(folders), Texts());
+  if (std::getenv("STORE_DRAW_LAYERS") != nullptr) std::cout << LayerGraph(folders);
 }
 
-TEST(Layers, WhatBreaksThemIsNamed) {
-  std::string folder = (std::filesystem::temp_directory_path() / "layers_XXXXXX").string();
-  ASSERT_NE(mkdtemp(folder.data()), nullptr);
-  const std::filesystem::path tree = folder;
-  const auto write = [&](const std::string& file, const std::string& text) {
-    std::filesystem::create_directories((tree / file).parent_path());
-    std::ofstream(tree / file) << text;
-  };
-  write("basics/CMakeLists.txt", "store_library(basics SOURCES a.cpp)");
-  write("basics/a.cpp", "#include \"basics/a.h\"\n#include <string>\n");
-  write("slips/CMakeLists.txt",
-        "store_library(slips SOURCES a.cpp LINKS store_basics store_forms)");
-  write("slips/a.cpp", "#include \"basics/a.h\"\n#include \"order/b.h\"\n");
-  write("order/CMakeLists.txt", "store_library(order SOURCES b.cpp LINKS store_slips)");
-  write("order/b.h", "#include \"slips/a.h\"\n#include \"basics/a.h\"\n#include <QString>\n");
-  EXPECT_EQ(
-      BrokenLayers(tree),
-      (std::vector<std::string>{"order includes basics and does not link it", "order includes Qt",
-                                "slips includes order", "slips includes order and does not link it",
-                                "slips links forms and includes nothing of it"}));
-  std::filesystem::remove_all(tree);
+/// A small program in a folder of its own, gone with this object.
+class MadeUpProgram : public testing::Test {
+ protected:
+  MadeUpProgram() {
+    std::string folder = (std::filesystem::temp_directory_path() / "layers_XXXXXX").string();
+    EXPECT_NE(mkdtemp(folder.data()), nullptr);
+    root = folder;
+    Library("basics", "");
+    Library("gateway", "store_basics odbc");
+    File("gateway/gateway.cpp", "#include <sql.h>\n#include \"basics/text.h\"\n");
+    Library("board", "store_gateway PkgConfig::X");
+    File("board/deep/board.h", "#include \"gateway/gateway.h\"\n#include \"board/other.h\"\n");
+    File("ui/CMakeLists.txt",
+         "add_library(store_ui STATIC a.cpp)\n"
+         "target_link_libraries(store_ui\n  PUBLIC store_board Qt6::Widgets)\n");
+    File("ui/a.cpp", "#include <QWidget>\n#include \"board/deep/board.h\"\n");
+  }
+  ~MadeUpProgram() override { std::filesystem::remove_all(root); }
+
+  void File(const std::string& path, const std::string& text) const {
+    std::filesystem::create_directories((root / path).parent_path());
+    std::ofstream(root / path) << text;
+  }
+  void Library(const std::string& name, const std::string& links) const {
+    File(name + "/CMakeLists.txt", "store_library(" + name + "\n  SOURCES a.cpp" +
+                                       (links.empty() ? "" : "\n  LINKS " + links) + ")\n");
+  }
+  Texts Faults() const { return LayerFaults(ReadLayers(root)); }
+
+  std::filesystem::path root;
+};
+
+TEST_F(MadeUpProgram, IsSoundAndDrawn) {
+  EXPECT_EQ(Faults(), Texts());
+  EXPECT_EQ(LayerGraph(ReadLayers(root)),
+            "graph TD\n  board --> gateway\n  gateway --> basics\n  ui --> board\n");
+}
+
+TEST_F(MadeUpProgram, EveryKindOfFaultIsNamed) {
+  File("basics/up.h", "#include \"gateway/gateway.h\"\n");
+  File("gateway/text.cpp", "  #  include <QString>\n");
+  Library("order", "store_board");
+  File("order/aside.cpp", "#include \"board/deep/board.h\"\n");
+  Library("receipt", "store_basics");
+  File("receipt/unlinked.cpp", "#include \"gateway/gateway.h\"\n");
+  Library("strange", "");
+  EXPECT_EQ(Faults(),
+            (Texts{"basics/up.h: gateway/gateway.h is against the layers",
+                   "gateway/text.cpp: <QString> is of the toolkit",
+                   "order/aside.cpp: board/deep/board.h is against the layers",
+                   "receipt/unlinked.cpp: gateway/gateway.h is of a folder that receipt does not "
+                   "link",
+                   "receipt links basics and includes nothing of it",
+                   "strange has no place in the layers"}));
 }
 
 }  // namespace
