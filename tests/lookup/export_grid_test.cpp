@@ -6,6 +6,7 @@
 #include <cstring>
 #include <filesystem>
 
+#include "lookup/party_lookups.h"
 #include "tests/support/scripted_host.h"
 
 namespace store {
@@ -105,6 +106,13 @@ TEST_F(ExportGridTest, TheSheetHoldsTheGridsCellsInTheirOrder) {
   EXPECT_EQ(std::filesystem::path(host.Addresses.at(0)).extension(), ".xlsx");
   EXPECT_EQ(host.Pointers,
             (std::vector<int>{PointerHourglass, PointerNormal, PointerHourglass, PointerNormal}));
+}
+
+TEST_F(ExportGridTest, IsBoundToAKeyInTheLookups) {
+  HELP_ST form;
+  form.FLEX1.KeyDown(Key::F12);
+  EXPECT_EQ(host.Addresses.size(), 1u);
+  EXPECT_FALSE(form.IsClosed());
 }
 
 TEST_F(ExportGridTest, TellsWhenNoProgramOpensIt) {
