@@ -68,7 +68,7 @@ TEST_F(BoardOpens, ASlipThatHeadOfficeHasMovedAsAReceiptAndRefreshes) {
     Click(slip, board::Confirm);
     EXPECT_EQ(Slips().size(), slip == kApproved ? 3u : 2u);
   }
-  EXPECT_FALSE(IsOpen("frm_Order"));
+  EXPECT_EQ(OpenForm("frm_Order"), nullptr);
 }
 
 TEST_F(BoardOpens, NothingFromTheHeaderAndNothingForAnUnknownOrderType) {

@@ -52,13 +52,10 @@ TEST_F(BoardTest, AsksBeforeItCloses) {
   EXPECT_FALSE(board.KeyDown(Key::F4));
 }
 
-TEST_F(BoardTest, MakesItselfSmall) {
+TEST_F(BoardTest, MakesItselfSmallAndOpensTheWebPageWhateverComesOfIt) {
   board.Label5_Click(1);
   EXPECT_EQ(host.FormsMinimized, (std::vector<std::string>{"frm_Start"}));
   EXPECT_FALSE(board.IsClosed());
-}
-
-TEST_F(BoardTest, OpensTheWebPageWhateverComesOfIt) {
   setenv("STORE_WEB_HOST", "http://web.example/", 1);
   host.OpensAddresses = false;
   board.Label4_Click();

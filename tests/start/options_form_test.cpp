@@ -9,6 +9,12 @@ namespace {
 using OptionsForm = WayInTest;
 
 TEST_F(OptionsForm, ShowsWhatIsStoredNotWhatIsLoaded) {
+  Store("발주타입", "7");
+  frmOptions fresh;
+  Host.Show(fresh);
+  EXPECT_EQ(fresh.Combo1.ListIndex(), 0);  // a policy was never saved
+  for (const OptionButton& option : fresh.SSOption1) EXPECT_FALSE(option.Value);
+
   Store("업무서버", "service.example");
   Store("일괄발주단가", "4");
   Store("발주타입", "3");
@@ -26,14 +32,6 @@ TEST_F(OptionsForm, ShowsWhatIsStoredNotWhatIsLoaded) {
   EXPECT_EQ(form.ActiveControl, &form.Text1[4]);
 }
 
-TEST_F(OptionsForm, OfANeverSavedPolicyShowsTheFirst) {
-  Store("발주타입", "7");
-  frmOptions form;
-  Host.Show(form);
-  EXPECT_EQ(form.Combo1.ListIndex(), 0);
-  for (const OptionButton& option : form.SSOption1) EXPECT_FALSE(option.Value);
-}
-
 TEST_F(OptionsForm, WritesAllOnceTheCompanyIsFoundAndLeavesTheRunAtTheDirectory) {
   frmOptions form;
   Host.Show(form);
@@ -49,6 +47,12 @@ TEST_F(OptionsForm, WritesAllOnceTheCompanyIsFoundAndLeavesTheRunAtTheDirectory)
   EXPECT_EQ(AppOptions.DataServer, TestServer().ServerOption());
   EXPECT_NE(ConnectString.find("DATABASE=master;UID=kt;"), std::string::npos);
   EXPECT_EQ(host.Pointers.back(), PointerNormal);
+
+  frmOptions none;
+  Host.Show(none);
+  none.SSOption1_Click(-1);
+  none.cmdApply_Click();
+  EXPECT_EQ(Stored("발주타입"), "1") << "without a choice the stored one stays";
 
   // A row of the directory must not pass for a user, whether anybody answers or not.
   for (const char* service : {"nowhere.example", ""}) {
@@ -84,15 +88,6 @@ TEST_F(OptionsForm, EachCheckBoxStandsForItsOwnKeyAndSetting) {
     for (const auto& option : options)
       EXPECT_EQ(Stored(option.key), &option == &one ? "0" : "1") << option.key;
   }
-}
-
-TEST_F(OptionsForm, WithoutAnOrderFormLeavesTheStoredOne) {
-  Store("발주타입", "2");
-  frmOptions form;
-  Host.Show(form);
-  form.SSOption1_Click(-1);
-  form.cmdApply_Click();
-  EXPECT_EQ(Stored("발주타입"), "2");
 }
 
 TEST_F(OptionsForm, WritesNothingForACompanyItCannotFind) {
