@@ -17,7 +17,7 @@ constexpr int kRounds = 15;
 std::vector<std::string> Column(int field) {
   SetFilter(SlotC, "");
   std::vector<std::string> texts;
-  for (; !AtEof(SlotC); SlotC->MoveNext()) texts.push_back(FieldText(SlotC, field));
+  ForEachRow(SlotC, [&] { texts.push_back(FieldText(SlotC, field)); });
   SlotC->MoveFirst();
   return texts;
 }

@@ -29,7 +29,8 @@ class PeerTable {
   void FillAndDraw() {
     table_.setRowCount(RecordCountOf(SlotC));
     int row = 0;
-    for (SlotC->MoveFirst(); !AtEof(SlotC); SlotC->MoveNext(), ++row) {
+    SlotC->MoveFirst();
+    ForEachRow(SlotC, [&] {
       Put(row, 0, ItemText(item::Code));
       Put(row, 3, ItemText(item::Barcode));
       Put(row, 4, ItemText(item::Name));
@@ -37,7 +38,8 @@ class PeerTable {
       auto* entry = new QTableWidgetItem;
       entry->setBackground(Qt::yellow);
       table_.setItem(row, kEntryColumn, entry);
-    }
+      ++row;
+    });
     watch_.WaitForPaint();
   }
 

@@ -11,39 +11,25 @@ namespace {
 using Names = std::set<std::string>;
 using Folders = std::map<std::string, LayerFolder>;
 
-/// What each folder may include from and link.
-const std::map<std::string, Names>& Layers() {
-  static const Names kGround = {"basics", "forms"};
-  static const Names kBelowLookup = {"basics", "forms", "gateway", "slips"};
-  static const Names kBelowForms = {"basics", "forms", "gateway", "slips", "lookup"};
-  static const std::map<std::string, Names> kLayers = {
-      {"basics", {}},
-      {"forms", {"basics"}},
-      {"gateway", kGround},
-      {"slips", {"basics", "forms", "gateway"}},
-      {"lookup", kBelowLookup},
-      {"start", kBelowForms},
-      {"board", kBelowForms},
-      {"order", kBelowForms},
-      {"receipt", kBelowForms},
-      {"handheld", kBelowForms},
-      {"ui",
-       {"basics", "forms", "gateway", "slips", "lookup", "start", "board", "order", "receipt",
-        "handheld"}},
-      {"demo", {}},
-      {"private_db", {}},
-  };
-  return kLayers;
+/// From the ground up. A folder may include from and link those of the rows below its own.
+const std::vector<Names> kRows = {{"basics"},  {"forms"},
+                                  {"gateway"}, {"slips"},
+                                  {"lookup"},  {"start", "board", "order", "receipt", "handheld"},
+                                  {"ui"}};
+/// These use nothing of the program's, and it uses nothing of theirs.
+const Names kApart = {"demo", "private_db"};
+
+/// The row of a folder from 0; those that stand in none are -1.
+int RowOf(const std::string& folder) {
+  const auto row = std::find_if(kRows.begin(), kRows.end(),
+                                [&](const Names& names) { return names.contains(folder); });
+  return row == kRows.end() ? -1 : static_cast<int>(row - kRows.begin());
 }
 
 std::string TextOf(const std::filesystem::path& path) {
   std::ostringstream text;
   text << std::ifstream(path).rdbuf();
   return text.str();
-}
-
-bool IsSource(const std::filesystem::path& path) {
-  return path.extension() == ".h" || path.extension() == ".cpp";
 }
 
 void ReadIncludes(const std::filesystem::path& file, const std::string& shownAs,
@@ -82,7 +68,8 @@ LayerFolder ReadFolder(const std::filesystem::path& root, const std::string& nam
   folder.Links = LinksIn(TextOf(root / name / "CMakeLists.txt"));
   std::vector<std::filesystem::path> files;
   for (const auto& entry : std::filesystem::recursive_directory_iterator(root / name))
-    if (IsSource(entry.path())) files.push_back(entry.path());
+    if (entry.path().extension() == ".h" || entry.path().extension() == ".cpp")
+      files.push_back(entry.path());
   std::sort(files.begin(), files.end());
   for (const auto& file : files)
     ReadIncludes(file, file.lexically_relative(root).generic_string(), folder);
@@ -90,13 +77,13 @@ LayerFolder ReadFolder(const std::filesystem::path& root, const std::string& nam
 }
 
 bool MayUse(const std::string& folder, const std::string& other) {
-  const auto place = Layers().find(folder);
-  return place != Layers().end() && place->second.contains(other);
+  return RowOf(other) >= 0 && RowOf(other) < RowOf(folder);
 }
 
 void AddFaults(const LayerFolder& folder, std::vector<std::string>& faults) {
   const std::string& name = folder.Name;
-  if (!Layers().contains(name)) faults.push_back(name + " has no place in the layers");
+  if (RowOf(name) < 0 && !kApart.contains(name))
+    faults.push_back(name + " has no place in the layers");
   for (const auto& [other, where] : folder.Includes) {
     if (!MayUse(name, other)) {
       faults.push_back(where + " is against the layers");

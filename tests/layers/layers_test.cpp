@@ -65,6 +65,8 @@ TEST_F(MadeUpProgram, EveryKindOfFaultIsNamed) {
   Library("receipt", "store_basics");
   File("receipt/unlinked.cpp", "#include \"gateway/gateway.h\"\n");
   Library("strange", "");
+  Library("demo", "");
+  File("ui/b.cpp", "#include \"demo/franchise.h\"\n");
   EXPECT_EQ(Faults(),
             (Texts{"basics/up.h: gateway/gateway.h is against the layers",
                    "gateway/text.cpp: <QString> is of the toolkit",
@@ -72,7 +74,8 @@ TEST_F(MadeUpProgram, EveryKindOfFaultIsNamed) {
                    "receipt/unlinked.cpp: gateway/gateway.h is of a folder that receipt does not "
                    "link",
                    "receipt links basics and includes nothing of it",
-                   "strange has no place in the layers"}));
+                   "strange has no place in the layers",
+                   "ui/b.cpp: demo/franchise.h is against the layers"}));
 }
 
 }  // namespace
