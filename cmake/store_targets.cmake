@@ -22,3 +22,17 @@ function(store_test name)
     set_tests_properties(${name} PROPERTIES RESOURCE_LOCK database)
   endif()
 endfunction()
+
+# The same for tests at real widgets, which share a main of their own.
+function(store_widget_test name)
+  cmake_parse_arguments(T "DATABASE" "" "SOURCES;LIBS" ${ARGN})
+  add_executable(${name} ${T_SOURCES} ${PROJECT_SOURCE_DIR}/tests/support/widget_test_main.cpp)
+  target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR})
+  target_link_libraries(${name} PRIVATE ${T_LIBS} store_ui Qt6::Test GTest::gtest)
+  add_test(NAME ${name} COMMAND ${name})
+  set_tests_properties(${name} PROPERTIES TIMEOUT 600 ENVIRONMENT
+                       "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8")
+  if(T_DATABASE)
+    set_tests_properties(${name} PROPERTIES RESOURCE_LOCK database)
+  endif()
+endfunction()

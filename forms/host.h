@@ -43,7 +43,8 @@ struct HostDoor {
   std::function<int(const std::string& text, int style, const std::string& title)> MsgBox;
 
   /// Loads the form, shows its window and returns when the form is closed or hidden. One that was
-  /// hidden can be shown again and stands as it was left; it is activated each time.
+  /// hidden can be shown again and stands as it was left; it is activated each time, and has to be
+  /// closed before it is destroyed.
   std::function<void(Form&)> ShowModal;
   /// Loads the form and shows its window beside the others; a window that is there comes forward.
   std::function<void(Form&)> Show;

@@ -13,8 +13,7 @@ void TellOutcomeUnknown(std::string& errorText);
 /// Runs the statements in order as one transaction: all of them, or none with the server's words in
 /// `errorText`. Where the server can, they travel as one compound block in a single round trip.
 /// When the commit fails, or the connection breaks, the outcome may not be known: the text then
-/// says so. A connection that
-/// might still be inside the transaction is closed.
+/// says so. A connection that might still be inside the transaction is closed.
 bool RunAsOneTransaction(OdbcConnection& connection, const std::vector<std::string>& statements,
                          std::string& errorText);
 

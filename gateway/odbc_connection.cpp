@@ -111,10 +111,10 @@ bool OdbcConnection::RecentlyAnswered() const {
 }
 
 bool OdbcConnection::Prepare(std::string& errorText) {
-  // Texts travel as UTF-8, whatever the server is set to (the driver refuses to send SET NAMES, so
-  // by what that stands for). The statements group by less than they
-  // select, store "0000-00-00" as a date, and quote texts with single quotes in which a backslash
-  // escapes; and nobody waits for a lock for ever.
+  // Texts travel as UTF-8, whatever the server is set to. The driver refuses to send SET NAMES, so
+  // the three variables behind it are set. The statements group by less than they select, store
+  // "0000-00-00" as a date, and quote texts with single quotes in which a backslash escapes; and
+  // nobody waits for a lock for ever.
   const std::string settings =
       "SET character_set_client=utf8mb4, character_set_connection=utf8mb4, "
       "character_set_results=utf8mb4, innodb_lock_wait_timeout=" +

@@ -37,8 +37,7 @@ void Fill(ComboBox& combo, const std::string& statement, bool all) {
   if (all) combo.AddItem(kAllEntry);
   SqlText = statement;
   OpenRecordset(SlotA, SqlText);
-  ForEachRow(SlotA,
-             [&] { combo.AddItem(ListEntry(FieldText(SlotA, 1), FieldText(SlotA, 0))); });
+  ForEachRow(SlotA, [&] { combo.AddItem(ListEntry(FieldText(SlotA, 1), FieldText(SlotA, 0))); });
   CloseRecordset(SlotA);
 }
 

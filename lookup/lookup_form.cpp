@@ -68,7 +68,7 @@ void LookupForm::Command1_Click() { Fill(kind_.FindStatement(*this)); }
 
 void LookupForm::TabOne1_Click(int tab) {
   TabOne1.CurrTab = tab;
-  Fill(kind_.TabStatement == nullptr ? std::string() : kind_.TabStatement(*this, tab));
+  Fill(kind_.TabStatement(*this, tab));
 }
 
 void LookupForm::WalkTabs(int step) {

@@ -64,7 +64,7 @@ class LookupForm : public Form {
   void Text1_KeyDown(Key key);
   void FLEX1_DblClick();
   void FLEX1_KeyDown(Key key);
-  void TabOne1_Click(int tab);
+  void TabOne1_Click(int tab);  ///< In windows with tabs.
   /// The tab to the left or right of the current one, round the ends. Nothing without tabs.
   void WalkTabs(int step);
 

@@ -43,6 +43,7 @@ std::string OrderSlipStatement(const std::string& slipId) {
 
 OrderForm::OrderForm(const OrderTypeChoices& choices)
     : SlipForm(choices.FormName),
+      // Without the casts each would be taken for a copy of the pane that this form also is.
       SupplierPane(static_cast<SlipForm&>(*this)),
       PickListPane(static_cast<Form&>(*this), choices),
       KindPane(static_cast<Form&>(*this)),

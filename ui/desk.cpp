@@ -114,8 +114,10 @@ void Desk::ShowModal(Form& form) {
   window->ComeForward();
   if (again) window->ActivateAgain();
   loop.exec();
-  if (window->IsGone()) {
-    // The form may lie on its caller's stack, so its window must be gone when the caller goes on.
+  const bool hidden = window != nullptr && !window->IsGone() && !window->IsModal();
+  if (!hidden) {
+    // Closed, or the program ends. The form may lie on its caller's stack, so its window must be
+    // gone when the caller goes on.
     std::erase(leaving_, window.data());
     std::erase(open_, window.data());
     delete window;

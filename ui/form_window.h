@@ -52,8 +52,8 @@ class FormWindow : public QWidget {
   /// The window is modal, in front of `owner`, and ends `loop` when its form closes or hides.
   void BeginModal(QEventLoop* loop, QWidget* owner);
   void EndModal();
-  bool IsModal() const { return loop_ != nullptr; }
-  bool IsGone() const { return gone_; }  ///< The form has closed.
+  bool IsModal() const { return loop_ != nullptr; }  ///< False again once it is hidden.
+  bool IsGone() const { return gone_; }              ///< The form has closed.
   void ActivateAgain();
   void Leave();
   void Sync();

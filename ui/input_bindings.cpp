@@ -16,7 +16,6 @@ namespace store {
 namespace {
 
 const QString kDateForm = QStringLiteral("yyyy-MM-dd");
-const char* const kStarInPlaceOfLetters = "lineedit-password-character: 42;";
 
 /// The form is told every committed text; what an input method is still putting together is not
 /// part of the text yet.
@@ -25,10 +24,7 @@ class TextBinding : public Binding {
   TextBinding(FormWindow& window, TextBox& box, QLineEdit& edit)
       : Binding(box, edit), box_(box), edit_(edit), selectionSeen_(box.SelectionRevision()) {
     if (box.MaxLength > 0) edit.setMaxLength(box.MaxLength);
-    if (box.Masked) {
-      edit.setEchoMode(QLineEdit::Password);
-      edit.setStyleSheet(kStarInPlaceOfLetters);
-    }
+    if (box.Masked) edit.setEchoMode(QLineEdit::Password);
     QObject::connect(&edit, &QLineEdit::textEdited, &window, [this](const QString& text) {
       const std::string typed = FromQt(text);
       seen_.Differs(typed);

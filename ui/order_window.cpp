@@ -131,15 +131,11 @@ QWidget* OrderWindow::Categories() {
 
 QWidget* OrderWindow::PickList() {
   auto* items = Named("FLEX2", new GridView(order_.FLEX2));
-  OnShortcut(QKeySequence(Qt::CTRL | Qt::Key_Down), [this] { Act([this] { WalkToPickList(); }); });
+  OnShortcut(QKeySequence(Qt::CTRL | Qt::Key_Down),
+             [this] { Act([this] { order_.WalkToPickList(); }); });
   OnShortcut(QKeySequence(Qt::CTRL | Qt::Key_Up),
              [this] { Act([this] { order_.SetFocus(order_.inBox); }); });
   return Titled("품목 선택   (Ctrl+↓ ↑,  수량 입력 후 Enter,  F4 판매이력)", items);
-}
-
-void OrderWindow::WalkToPickList() {
-  order_.SetFocus(order_.FLEX2);
-  if (order_.FLEX2.Row() == 0) order_.FLEX2.SetRow(1);
 }
 
 QWidget* OrderWindow::History() {

@@ -25,7 +25,6 @@ class OrderWindow : public FormWindow {
   QWidget* Lines();
   QWidget* Categories();
   QWidget* PickList();
-  void WalkToPickList();
   QWidget* History();
   QWidget* Foot();
   void FollowHistory();

@@ -51,26 +51,10 @@ bool OpenAddress(const std::string& address) {
   return QDesktopServices::openUrl(isPath ? QUrl::fromLocalFile(text) : QUrl(text));
 }
 
-// No desktop of this kind lets one program say how another's window opens; elsewhere the state goes
-// with the start.
-bool StartProgram(const std::string& path, const std::string& arguments,
-                  [[maybe_unused]] WindowState state) {
-  QProcess program;
-  program.setProgram(ToQt(path));
-  program.setArguments(QProcess::splitCommand(ToQt(arguments)));
-#ifdef Q_OS_WIN
-  program.setCreateProcessArgumentsModifier([state](QProcess::CreateProcessArguments* start) {
-    constexpr unsigned long kUseShowWindow = 1;
-    constexpr unsigned short kNormal = 1;
-    constexpr unsigned short kMinimized = 2;
-    constexpr unsigned short kMaximized = 3;
-    start->startupInfo->dwFlags |= kUseShowWindow;
-    start->startupInfo->wShowWindow = state == WindowState::Minimized   ? kMinimized
-                                      : state == WindowState::Maximized ? kMaximized
-                                                                        : kNormal;
-  });
-#endif
-  return program.startDetached();
+// A desktop of X11 or Wayland lets no program say how another one's window opens, so the state that
+// a form asks for has nowhere to go.
+bool StartProgram(const std::string& path, const std::string& arguments, WindowState /*state*/) {
+  return QProcess::startDetached(ToQt(path), QProcess::splitCommand(ToQt(arguments)));
 }
 
 QSettings SettingsOf(const std::string& application) {

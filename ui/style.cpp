@@ -20,6 +20,7 @@ constexpr int kRowPadding = 8;
 constexpr const char* kRules = R"(
 QLineEdit, QPlainTextEdit { border: 1px solid #aab6c2; border-radius: 3px; background: white;
   padding: 2px 5px; selection-background-color: #1b6ca8; }
+QLineEdit { lineedit-password-character: 42; }
 QLineEdit:focus, QPlainTextEdit:focus { border: 2px solid #1b6ca8; padding: 1px 4px; }
 QLineEdit:disabled, QPlainTextEdit:disabled { background: #e9edf0; color: #4c5864; }
 QTableView { border: 1px solid #aab6c2; margin: 1px; background: white; }

@@ -27,6 +27,7 @@ TEST_F(BoardRefresh, FindsByTheChosenCondition) {
       "','3','2024-05-13',now(),'1001','C0003','r1');"
       "INSERT INTO PSM22 (PE_ID,PS_NO,PS_DATE,PR_CODE) VALUES ('" +
       linked + "',1,'2024-05-13','P0001')");
+  Sql("UPDATE PEM22 SET PE_LINK='' WHERE PE_CK='4'");  // received, but nobody has linked it
   const struct {
     const char* what;
     int option;

@@ -48,6 +48,7 @@ TEST_F(HistoryChart, ShowsEachOfThe31DaysByNumberAndBar) {
   EXPECT_EQ(Day(1), "40:10");
   EXPECT_EQ(Day(2), "10:2");  // 25 percent: two and a half rows, to even
   EXPECT_EQ(Day(3), "-5:0");
+  EXPECT_EQ(form.PRGHP.TextMatrix(history::Offset, 3), "10") << "what came back has no bar";
   EXPECT_EQ(Day(4), "0:0");
   EXPECT_EQ(Day(31), "2:0");
   const CalendarDate yesterday = AddDays(Today(), -1);

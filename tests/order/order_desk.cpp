@@ -1,31 +1,15 @@
 #include "tests/order/order_desk.h"
 
-#include "basics/dates.h"
 #include "basics/records.h"
-#include "basics/text.h"
 #include "forms/host.h"
 #include "forms/open_forms.h"
 #include "order/order_form.h"
 #include "slips/item_list.h"
 
 namespace store {
-namespace {
-
-class StandInBoard : public MainWindow {
- public:
-  StandInBoard() : MainWindow("frm_Start") {}
-};
-
-}  // namespace
-
 OrderDesk::OrderDesk() {
   RegisterOrderForms();
-  RegisterForm("frm_Start", [] { return std::make_unique<StandInBoard>(); });
-  Board = dynamic_cast<MainWindow*>(TheForm("frm_Start"));
-  Board->Combo1.AddItem(ListEntry("매장", "100101"));
-  Board->Combo1.AddItem(ListEntry("창고", "100102"));
   AppOptions.BulkOrderPrice = "3";
-  ParseDateText(Value("SELECT DATE_FORMAT(NOW(),'%Y-%m-%d')"), host.Clock);
   OpenItemList();
 }
 

@@ -4,14 +4,12 @@
 
 #include "forms/open_forms.h"
 #include "order/order_form.h"
-#include "slips/slip_form.h"
-#include "tests/support/small_store_test.h"
+#include "tests/support/slip_desk.h"
 
 namespace store {
 
-/// A clerk of the small store before a new order: the item list is loaded, the board lists the
-/// depots, prices follow the contracts ("3"), and the clock stands at the database's today.
-class OrderDesk : public SmallStoreTest {
+/// A clerk before a new order: the item list is loaded, and prices follow the contracts ("3").
+class OrderDesk : public SlipDesk {
  protected:
   OrderDesk();
 
@@ -24,8 +22,6 @@ class OrderDesk : public SmallStoreTest {
   void Enter(const std::string& text);
   /// Lines as "code x quantity", top row first.
   std::string Lines();
-
-  MainWindow* Board = nullptr;
 };
 
 }  // namespace store

@@ -4,22 +4,18 @@
 
 #include "forms/open_forms.h"
 #include "receipt/frm_PE_UNIT.h"
-#include "slips/slip_form.h"
-#include "tests/support/small_store_test.h"
+#include "tests/support/slip_desk.h"
 
 namespace store {
 
-/// A clerk of the small store before the receipt of an order; the board lists the depots and the
-/// clock stands at the database's today.
-class ReceiptDesk : public SmallStoreTest {
+/// A clerk before the receipt of an order; the item list is loaded.
+class ReceiptDesk : public SlipDesk {
  protected:
   ReceiptDesk();
   frm_PE_UNIT& Open(const std::string& orderId);
   frm_PE_UNIT& Receipt() { return *dynamic_cast<frm_PE_UNIT*>(OpenForm("frm_PE_UNIT")); }
   /// Makes a row current and enters a quantity.
   void Receive(int row, const std::string& quantity);
-
-  MainWindow* Board = nullptr;
 };
 
 /// The approved order of the small store: 20 of P0001 of which 18 were shipped, 30 of P0003.

@@ -1,4 +1,5 @@
 #include "basics/records.h"
+#include "gateway/odbc_api.h"
 #include "tests/receipt/receipt_desk.h"
 
 namespace store {
@@ -42,6 +43,23 @@ TEST_F(ReceiptDesk, NoMoreThanWasOrderedButOnTypeThree) {
   Receive(2, "21");
   EXPECT_EQ(Receipt().FLEX1.TextMatrix(2, 8), "21");
   EXPECT_EQ(Receipt().LaAmt[2].Caption, "23,700");
+}
+
+std::string sentToTheServer;
+
+TEST_F(ReceiptDesk, WithTheOptionOnTheItemsOfThePartnerAreRead) {
+  AppOptions.OrderInfoPartnersOnly = 1;
+  Odbc.ExecDirect = [](SQLHSTMT statement, SQLCHAR* text, SQLINTEGER length) {
+    sentToTheServer.assign(reinterpret_cast<char*>(text), static_cast<size_t>(length));
+    return SQLExecDirect(statement, text, length);
+  };
+  Open(kApproved);
+  Odbc = OdbcApi();
+  EXPECT_EQ(sentToTheServer,
+            " SELECT PR.PR_CODE,PR_NAME,PR_STD,PR_UNT,PR_TAX2,PR_PTNO,' ',' ',PR.PR_BCODE,' ',"
+            "KD_ID FROM SAFEIV LEFT JOIN PR ON SAFEIV.PR_CODE = PR.PR_CODE  WHERE PR_END = '0' AND "
+            "RCT_CODE = '1001' AND CT_CODE = '" +
+                Receipt().Text1.Tag + "' ");
 }
 
 TEST_F(ReceiptDesk, KeysMoveRemoveAndLeave) {

@@ -77,6 +77,18 @@ TEST_F(DeskTest, AModalFormThatHidesGivesControlBackAndComesAgainAsItWas) {
   EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
 }
 
+// A form on its caller's stack is gone when the program ends under it; its window must go with it.
+TEST_F(DeskTest, AModalFormUnderWhichTheProgramEndsLeavesNoWindow) {
+  WhenModal([](QWidget&) { QApplication::exit(); });
+  {
+    ProbeForm lookup;
+    Dispatch([&] { Host.ShowModal(lookup); });
+  }
+  EXPECT_EQ(TheDesk().WindowNamed("Probe"), nullptr);
+  QTimer::singleShot(0, qApp, [] { QApplication::exit(); });
+  QApplication::exec();  // event loops run again from here on
+}
+
 TEST_F(DeskTest, QueryUnloadMayRefuseTheSystemsClose) {
   ProbeForm form;
   FormWindow& window = Open(form);

@@ -49,17 +49,6 @@ TEST_F(OrderWindowTest, TypingOnTheLinesIsTypingInTheBox) {
   EXPECT_EQ(form_.inBox.Text(), "8801") << "a scanner's first digit must not be lost or selected";
 }
 
-TEST_F(OrderWindowTest, TheBoxWalksAndDeletesInTheLines) {
-  Box().setFocus();
-  QTest::keyClick(&Box(), Qt::Key_Down);
-  EXPECT_EQ(form_.FLEX1.Row(), 2);
-  EXPECT_TRUE(FindGrid(*window_, "FLEX1").hasFocus());
-  QTest::keyClick(window_->focusWidget(), Qt::Key_Delete);
-  EXPECT_EQ(form_.FLEX1.Rows(), 2);
-  EXPECT_EQ(form_.LaAmt[1].Caption, "5500");
-  EXPECT_EQ(Find<QLabel>(*window_, "LaAmt_1").text(), "5500");
-}
-
 TEST_F(OrderWindowTest, AKeyLeadsFromTheBoxToThePickListAndBack) {
   Box().setFocus();
   Dispatch([this] { form_.FLEX2.AddItem("1000002\t\t\t8802\t콜라"); });
@@ -68,20 +57,6 @@ TEST_F(OrderWindowTest, AKeyLeadsFromTheBoxToThePickListAndBack) {
   EXPECT_EQ(form_.FLEX2.Row(), 1) << "a quantity can be typed at once";
   QTest::keyClick(window_->focusWidget(), Qt::Key_Up, Qt::ControlModifier);
   EXPECT_TRUE(Box().hasFocus());
-}
-
-TEST_F(OrderWindowTest, AShortNumberSetsTheQuantityOfTheCurrentLine) {
-  Dispatch([this] {
-    form_.Text1.Tag = "10006";
-    form_.Text1.Change = nullptr;
-    form_.Text1.SetText("참나무커피");
-  });
-  Box().setFocus();
-  QTest::keyClicks(&Box(), "12");
-  QTest::keyClick(&Box(), Qt::Key_Enter);
-  EXPECT_EQ(form_.FLEX1.TextMatrix(1, 7), "12");
-  EXPECT_EQ(Box().text(), "");
-  EXPECT_EQ(FindGrid(*window_, "FLEX1").model()->index(0, 8).data().toString(), "12,000");
 }
 
 TEST_F(OrderWindowTest, AStoredSlipCannotBeSavedByItsKey) {

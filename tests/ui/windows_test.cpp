@@ -46,6 +46,17 @@ TEST_F(WindowsTest, EveryControlThatAFormPublishesHasItsWidget) {
   }
 }
 
+TEST_F(WindowsTest, APasswordShowsAStarForEachLetter) {
+  frmLogin login;
+  const std::unique_ptr<FormWindow> window(MakeWindow(login));
+  auto* password = window->findChild<QLineEdit*>("txtPassword");
+  window->show();
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(window.get()));
+  QTest::keyClicks(password, "1111");
+  EXPECT_EQ(password->displayText(), "****");
+  EXPECT_EQ(login.txtPassword.Text(), "1111");
+}
+
 TEST_F(WindowsTest, EachValueOfAPartnerStandsBesideItsCaption) {
   frm_Start board;
   const std::unique_ptr<FormWindow> window(MakeWindow(board));

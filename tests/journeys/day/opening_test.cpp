@@ -11,7 +11,9 @@
 #include "lookup/party_lookups.h"
 #include "slips/slip_form.h"
 #include "tests/journeys/day/store_day.h"
+#include "tests/journeys/hands.h"
 #include "ui/desk.h"
+#include "ui/form_window.h"
 
 namespace store {
 namespace {
@@ -79,12 +81,11 @@ class Opening : public StoreDay {
   }
   void OrderAndLeave() {
     Dispatch([this] { Board().Image1_Click(0); });
-    FormWindow* order = Window("frm_Order");
-    ASSERT_NE(order, nullptr);
-    ASSERT_TRUE(Wait([this] { return Order().Combo1.ListIndex() == 0; }));
-    order->close();
-    ASSERT_TRUE(Wait([] { return OpenForm("frm_Order") == nullptr; }));
-    ASSERT_NE(Window("frm_Start"), nullptr);
+    FormWindow& order = Hands::Window("frm_Order");
+    ASSERT_TRUE(Hands::Wait([this] { return Order().Combo1.ListIndex() == 0; }));
+    order.close();
+    ASSERT_TRUE(Hands::Wait([] { return OpenForm("frm_Order") == nullptr; }));
+    Hands::Window("frm_Start");
   }
 };
 

@@ -1,11 +1,13 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
-#include <QtTest>
 
 #include "gateway/gateway.h"
+#include "slips/item_list.h"
 #include "tests/journeys/day/store_day.h"
+#include "tests/journeys/hands.h"
 #include "tests/support/private_server.h"
+#include "ui/form_window.h"
 
 namespace store {
 namespace {
@@ -35,31 +37,30 @@ class Scanning : public StoreDay {
                          "comma"_a = i > 0 ? "," : "", "n"_a = number, "barcode"_a = Barcode(i));
     }
     Sql(products);
-    LoadItems();
+    OpenItemList();
   }
   static std::string Barcode(int i) { return "880555550" + std::to_string(1000 + i); }
 };
 
 TEST_F(Scanning, TwoHundredInARowAreAllThereOnceEach) {
-  FormWindow& board = *Window("frm_Start");
-  QTest::keyClick(board.focusWidget(), Qt::Key_F2);
-  FormWindow* order = Window("frm_Order");
-  ASSERT_NE(order, nullptr);
-  ASSERT_TRUE(Wait([&] { return Order().Combo1.ListIndex() == 0; }));  // ready for a person
-  QTest::keyClicks(order->focusWidget(), "#C0001");
-  QTest::keyClick(order->focusWidget(), Qt::Key_Return);
+  Hands::Press(Hands::Window("frm_Start"), Qt::Key_F2);
+  FormWindow& order = Hands::Window("frm_Order");
+  ASSERT_TRUE(Hands::Wait([&] { return Order().Combo1.ListIndex() == 0; }));  // ready for a person
+  Hands::Type(order, "#C0001");
+  Hands::Press(order, Qt::Key_Return);
   ASSERT_EQ(Order().Text1.Tag, "C0001");
-  auto& scanned = *order->findChild<QLineEdit*>("inBox");
+  auto& scanned = *order.findChild<QLineEdit*>("inBox");
   ASSERT_TRUE(scanned.hasFocus());
   for (int i = 0; i < kScans; ++i) PostScan(scanned, Barcode(i));
-  ASSERT_TRUE(Wait([&] { return Order().FLEX1.Rows() > kScans && scanned.text().isEmpty(); }));
+  ASSERT_TRUE(
+      Hands::Wait([&] { return Order().FLEX1.Rows() > kScans && scanned.text().isEmpty(); }));
   ASSERT_EQ(Order().FLEX1.Rows(), kScans + 1);
   for (int row = 1; row <= kScans; ++row) {
     EXPECT_EQ(Order().FLEX1.TextMatrix(row, 1), "S" + std::to_string(1000 + kScans - row));
     EXPECT_EQ(Order().FLEX1.TextMatrix(row, 7), "1");
   }
   PostScan(scanned, Barcode(0));  // again: its line moves to the top, none is added
-  ASSERT_TRUE(Wait([&] { return Order().FLEX1.TextMatrix(1, 1) == "S1000"; }));
+  ASSERT_TRUE(Hands::Wait([&] { return Order().FLEX1.TextMatrix(1, 1) == "S1000"; }));
   EXPECT_EQ(Order().FLEX1.Rows(), kScans + 1);
 }
 

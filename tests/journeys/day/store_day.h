@@ -2,11 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include <string>
-
 #include "board/frm_Start.h"
 #include "order/order_form.h"
-#include "ui/form_window.h"
 
 namespace store {
 
@@ -16,12 +13,6 @@ class StoreDay : public testing::Test {
  protected:
   void SetUp() override;
   void TearDown() override;
-
-  /// Runs window events until `holds`. False when it does not within half a minute.
-  static bool Wait(const std::function<bool()>& holds);
-  /// The window of the form with that name, once it is on the screen; nothing if it never comes.
-  static FormWindow* Window(const std::string& formName);
-  static void LoadItems();
 
   frm_Start& Board();
   OrderForm& Order();

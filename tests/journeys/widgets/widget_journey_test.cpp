@@ -14,8 +14,8 @@
 #include "slips/process_state.h"
 #include "start/Main_Start.h"
 #include "start/options.h"
-#include "tests/journeys/journey_checks.h"
-#include "tests/journeys/widgets/hands.h"
+#include "tests/journeys/hands.h"
+#include "tests/journeys/widgets/journey_checks.h"
 #include "tests/support/private_server.h"
 #include "ui/desk.h"
 #include "ui/form_window.h"
@@ -87,46 +87,6 @@ Row Totals(const QWidget& window) {
     totals.push_back(Hands::TextOf(window, name));
   }
   return totals;
-}
-
-/// Every column of an item's stock in the store, a row a depot.
-Table StockRows(const std::string& barcode) {
-  return DemoRows(
-      Splice("SELECT HCT_CODE,INQTY,PR_NAME,CONCAT('[',PR_STD,']'),PR_UNT,CONCAT('[',PR_BCODE,']'),"
-             "BSQTY,OTQTY FROM IV WHERE RCT_CODE='1001' AND PR_CODE='{barcode}' ORDER BY HCT_CODE",
-             "barcode"_a = CodeOf(barcode)));
-}
-/// Every column of the supplier's balances with the store, a row a month.
-Table BalanceRows() {
-  return DemoRows(
-      Splice("SELECT CM_MM,CM_M23,CM_MGU,CM_M13,CM_CK FROM CMM WHERE CM_FCTCODE='1001' AND "
-             "CM_TCTCODE='{journeySupplier}' ORDER BY CM_MM",
-             "journeySupplier"_a = kJourneySupplier));
-}
-
-/// `rows` after `amount` has come in: column 1 of the row that begins with `key` is raised, or
-/// there is a new row with `rest` behind key and amount.
-Table Raised(Table rows, const std::string& key, int amount, const Row& rest) {
-  const auto found =
-      std::find_if(rows.begin(), rows.end(), [&](const Row& row) { return row[0] == key; });
-  if (found != rows.end()) {
-    (*found)[1] = std::to_string(std::stoi((*found)[1]) + amount) + ".0000";
-    return rows;
-  }
-  rows.push_back({key, std::to_string(amount) + ".0000"});
-  rows.back().insert(rows.back().end(), rest.begin(), rest.end());
-  std::sort(rows.begin(), rows.end());
-  return rows;
-}
-Table StockRaised(const Table& rows, const std::string& barcode, int quantity) {
-  return Raised(
-      rows, kDepot, quantity,
-      DemoRows(Splice("SELECT PR_NAME,CONCAT('[',PR_STD,' ]'),PR_UNT,'[]','0.0000','0.0000' FROM "
-                      "PR WHERE PR_BCODE='{barcode}'",
-                      "barcode"_a = barcode))[0]);
-}
-Table BalanceRaised(const Table& rows, int total) {
-  return Raised(rows, DemoValue("SELECT DATE_FORMAT(NOW(),'%Y%m')"), total, {"C", "0.0000", "0"});
 }
 
 class WidgetJourney : public testing::Test {
@@ -403,7 +363,7 @@ void WidgetJourney::CloseBoard() {
   EXPECT_EQ(TheDesk().WindowNamed("frm_Start"), nullptr);
 }
 
-TEST_F(WidgetJourney, AnOrderGoesOutTheGoodsComeInAndStockMoves) {
+TEST_F(WidgetJourney, AnOrderGoesOutTheGoodsComeInAndStockSumMoves) {
   ASSERT_NO_FATAL_FAILURE(Start(""));
   ExpectNotices();
   ExpectBoard(kOfToday);
@@ -418,25 +378,24 @@ TEST_F(WidgetJourney, AnOrderGoesOutTheGoodsComeInAndStockMoves) {
   EXPECT_EQ(StateOf(id), "발주확정");
   ASSERT_NO_FATAL_FAILURE(ConfirmAgain(id));
 
-  Table water = StockRows(kWater);
-  Table tomatoes = StockRows(kTomato);
-  Table balance = BalanceRows();
-  ASSERT_EQ(StockIn(kWater, kDepot), "none");
-  ASSERT_NE(StockIn(kTomato, kDepot), "none");
+  ASSERT_EQ(StockIn(kWater, kDepot), StockSum{});
+  const StockSum tomatoes = StockIn(kTomato, kDepot);
+  ASSERT_EQ(tomatoes.Rows, 1);
+  const StockSum balance = BalanceIn();
   ASSERT_NO_FATAL_FAILURE(Receive(id, 6, 4, By::Keys));
   const std::vector<JourneyLine> received = {{kTomato, 4, 790, 6}, {kWater, 12, 4570, 12}};
   ExpectReceipt(id, kDepot, received);
-  EXPECT_EQ(StockRows(kWater), water = StockRaised(water, kWater, 12));
-  EXPECT_EQ(StockRows(kTomato), tomatoes = StockRaised(tomatoes, kTomato, 4));
-  EXPECT_EQ(BalanceRows(), balance = BalanceRaised(balance, 63800));
+  EXPECT_EQ(StockIn(kWater, kDepot), (StockSum{1, 12}));
+  EXPECT_EQ(StockIn(kTomato, kDepot), (StockSum{1, tomatoes.Amount + 4}));
+  EXPECT_EQ(BalanceIn(), (StockSum{1, balance.Amount + 63800}));
 
   const std::string second = WriteOrder(By::Mouse);
   EXPECT_NE(second, id);
   ASSERT_NO_FATAL_FAILURE(Receive(second, 5, 5, By::Mouse));
   ExpectReceipt(second, kDepot, {{kTomato, 5, 790, 5}, {kWater, 12, 4570, 12}});
-  EXPECT_EQ(StockRows(kWater), StockRaised(water, kWater, 12));
-  EXPECT_EQ(StockRows(kTomato), StockRaised(tomatoes, kTomato, 5));
-  EXPECT_EQ(BalanceRows(), BalanceRaised(balance, 64669));
+  EXPECT_EQ(StockIn(kWater, kDepot), (StockSum{1, 24}));
+  EXPECT_EQ(StockIn(kTomato, kDepot), (StockSum{1, tomatoes.Amount + 9}));
+  EXPECT_EQ(BalanceIn(), (StockSum{1, balance.Amount + 63800 + 64669}));
   ExpectReceipt(id, kDepot, received);  // the first one is untouched
 
   hands.AnswerBox("프로그램을 종료하시겠습니까?", Qt::Key_N);
@@ -464,10 +423,3 @@ TEST_F(WidgetJourney, TheBoardEndsTheProgramEvenBesideAnOpenOrder) {
 
 }  // namespace
 }  // namespace store
-
-int main(int argc, char** argv) {
-  if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-  testing::InitGoogleTest(&argc, argv);
-  QApplication application(argc, argv);
-  return RUN_ALL_TESTS();
-}

@@ -1,4 +1,4 @@
-#include "tests/journeys/journey_checks.h"
+#include "tests/journeys/widgets/journey_checks.h"
 
 #include <gtest/gtest.h>
 
@@ -49,6 +49,11 @@ Table ExpectedLines(const std::vector<JourneyLine>& lines, const std::string& de
                     depotCode, "1"});
   }
   return rows;
+}
+
+StockSum SumOf(const std::string& countAndSum) {
+  const auto row = DemoRows(countAndSum).at(0);
+  return {std::stoi(row[0]), std::stoi(row[1])};
 }
 
 }  // namespace
@@ -135,18 +140,18 @@ void ShipOrder(const std::string& orderId, const std::string& barcodeShort, int 
              "barcodeShort"_a = CodeOf(barcodeShort)));
 }
 
-std::string StockIn(const std::string& barcode, const std::string& depotCode) {
-  return DemoValue(Splice(
-      "SELECT IFNULL(SUM(INQTY),'none') FROM IV WHERE RCT_CODE='1001' AND HCT_CODE='{depotCode}' "
-      "AND PR_CODE='{barcode}'",
-      "depotCode"_a = depotCode, "barcode"_a = CodeOf(barcode)));
+StockSum StockIn(const std::string& barcode, const std::string& depotCode) {
+  return SumOf(Splice(
+      "SELECT COUNT(*),IFNULL(SUM(INQTY),0) FROM IV WHERE RCT_CODE='1001' AND HCT_CODE='{depot}' "
+      "AND PR_CODE='{product}'",
+      "depot"_a = depotCode, "product"_a = CodeOf(barcode)));
 }
 
-std::string BalanceIn() {
-  return DemoValue(
-      Splice("SELECT IFNULL(SUM(CM_M23),'none') FROM CMM WHERE CM_FCTCODE='1001' AND "
-             "CM_TCTCODE='{journeySupplier}' AND CM_MGU='C' AND CM_MM=DATE_FORMAT(NOW(),'%Y%m')",
-             "journeySupplier"_a = kJourneySupplier));
+StockSum BalanceIn() {
+  return SumOf(
+      Splice("SELECT COUNT(*),IFNULL(SUM(CM_M23),0) FROM CMM WHERE CM_FCTCODE='1001' AND "
+             "CM_TCTCODE='{supplier}' AND CM_MGU='C' AND CM_MM=DATE_FORMAT(NOW(),'%Y%m')",
+             "supplier"_a = kJourneySupplier));
 }
 
 }  // namespace store

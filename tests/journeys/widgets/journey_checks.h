@@ -44,9 +44,15 @@ std::string ExpectReceipt(const std::string& orderId, const std::string& depotCo
 /// What logistics does: state "3", everything shipped but `missing` of one item.
 void ShipOrder(const std::string& orderId, const std::string& barcodeShort, int missing);
 
-/// INQTY of an item in a depot, "none" without a row.
-std::string StockIn(const std::string& barcode, const std::string& depotCode);
-/// CM_M23 with the supplier in this month, "none" without a row.
-std::string BalanceIn();
+/// How many rows hold something, and its sum over them.
+struct StockSum {
+  int Rows = 0;
+  int Amount = 0;
+  bool operator==(const StockSum&) const = default;
+};
+/// INQTY of an item in a depot of the store.
+StockSum StockIn(const std::string& barcode, const std::string& depotCode);
+/// CM_M23 with the supplier in this month.
+StockSum BalanceIn();
 
 }  // namespace store

@@ -1,4 +1,4 @@
-#include "tests/journeys/widgets/hands.h"
+#include "tests/journeys/hands.h"
 
 #include <gtest/gtest.h>
 
