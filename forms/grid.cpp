@@ -35,15 +35,32 @@ bool Grid::Inside(int row, int col) const {
   return row >= 0 && row < Rows() && col >= 0 && col < Cols();
 }
 
+void Grid::SetRowsMadeLater(int count, RowMaker make) {
+  SetRows(fixedRows_);
+  maker_ = std::move(make);
+  rows_.resize(static_cast<size_t>(fixedRows_ + count));
+  for (int row = 0; row < count; ++row) rows_[static_cast<size_t>(fixedRows_ + row)].later = row;
+}
+
+std::vector<std::string>& Grid::Cells(int row) const {
+  GridRow& wanted = rows_[static_cast<size_t>(row)];
+  if (wanted.later >= 0) {
+    wanted.cells = maker_(wanted.later);
+    wanted.cells.resize(columns_.size());
+    wanted.later = -1;
+  }
+  return wanted.cells;
+}
+
 const std::string& Grid::TextMatrix(int row, int col) const {
   static const std::string nothing;
   if (!Inside(row, col)) return nothing;
-  return rows_[static_cast<size_t>(row)].cells[static_cast<size_t>(col)];
+  return Cells(row)[static_cast<size_t>(col)];
 }
 
 void Grid::SetTextMatrix(int row, int col, std::string text) {
   if (!Inside(row, col)) return;
-  rows_[static_cast<size_t>(row)].cells[static_cast<size_t>(col)] = std::move(text);
+  Cells(row)[static_cast<size_t>(col)] = std::move(text);
   ++revision_;
 }
 
@@ -94,11 +111,14 @@ void Grid::Select(int row, int col) {
   if (RowColChange) RowColChange();
 }
 
-const CellLook& Grid::Look(int row, int col) const {
-  static const CellLook plain;
-  if (!Inside(row, col)) return plain;
+CellLook Grid::Look(int row, int col) const {
+  if (!Inside(row, col)) return {};
   const std::vector<CellLook>& looks = rows_[static_cast<size_t>(row)].looks;
-  return looks.empty() ? plain : looks[static_cast<size_t>(col)];
+  CellLook look = looks.empty() ? CellLook() : looks[static_cast<size_t>(col)];
+  if (look.BackColor < 0 && row >= fixedRows_) {
+    look.BackColor = columns_[static_cast<size_t>(col)].BackColor;
+  }
+  return look;
 }
 
 void Grid::SetLook(int row, int col, const CellLook& look) {

@@ -20,6 +20,7 @@ struct GridColumn {
   bool Hidden = false;
   bool CheckBox = false;  ///< Cells hold "-1" when ticked, "" or "0" when not.
   bool Editable = false;  ///< The window may open an editor in its cells, or tick them.
+  int BackColor = -1;     ///< 0xRRGGBB behind its data cells, -1 for the grid's own.
 };
 
 /// How one cell is shown beyond its text.
@@ -69,6 +70,12 @@ class Grid : public Control {
   /// Puts a text into a cell; passed over outside the grid.
   void SetTextMatrix(int row, int col, std::string text);
 
+  /// Gives the grid `count` data rows whose cells are made when they are first asked for: `make`
+  /// gets the number of the row among them, from 0, and gives its cells. For lists of which only a
+  /// screenful is ever looked at.
+  using RowMaker = std::function<std::vector<std::string>(int row)>;
+  void SetRowsMadeLater(int count, RowMaker make);
+
   /// Adds a row of tab-joined cells, at the end or before row `index`. Surplus cells are dropped.
   void AddItem(std::string_view tabJoined, int index = -1);
   void RemoveItem(int row);
@@ -89,7 +96,8 @@ class Grid : public Control {
   void SetRow(int row) { Select(row, col_); }
   void Select(int row, int col);
 
-  const CellLook& Look(int row, int col) const;
+  /// How a cell looks; without a back colour of its own it has its column's.
+  CellLook Look(int row, int col) const;
   void SetLook(int row, int col, const CellLook& look);
   void SetBackColor(int row, int col, int color);
 
@@ -104,11 +112,14 @@ class Grid : public Control {
     std::vector<std::string> cells;
     std::vector<CellLook> looks;  // empty as long as no cell of the row looks special
     bool hidden = false;
+    int later = -1;  // its number for `maker_` while its cells are not made
   };
   bool Inside(int row, int col) const;
+  std::vector<std::string>& Cells(int row) const;
 
   std::vector<GridColumn> columns_;
-  std::vector<GridRow> rows_;
+  mutable std::vector<GridRow> rows_;  // cells that are made later come with the first look
+  RowMaker maker_;
   int fixedRows_ = 1;
   int row_ = 0;
   int col_ = 0;

@@ -16,8 +16,9 @@ namespace store {
 /// The one road to the database. Nothing here raises an error or shows a message: a failed read
 /// looks like an empty one, and only `ExecuteBatch` says that something went wrong.
 
-/// Holds what a read brought, or nothing.
-using RecordsetSlot = std::unique_ptr<Recordset>;
+/// Holds what a read brought, or nothing. Whoever still has to look at rows after the slot may have
+/// been read anew keeps a copy of it.
+using RecordsetSlot = std::shared_ptr<Recordset>;
 
 extern std::unique_ptr<DataSpaceObject> DataSpace;  ///< Made on first use.
 extern RecordsetSlot SlotA;                ///< The common read; every `QueryRows` lands here.

@@ -2,13 +2,17 @@
 
 #include <algorithm>
 #include <iterator>
+#include <numeric>
 
 #include "gateway/byte_search.h"
 
 namespace store {
 
 Recordset::Recordset(std::vector<std::string> fieldNames)
-    : names_(std::move(fieldNames)), columns_(names_.size()) {}
+    : names_(std::move(fieldNames)),
+      columns_(names_.size()),
+      indexes_(names_.size()),
+      filteredByEquality_(names_.size()) {}
 
 void Recordset::EndRow() {
   appendAt_ = 0;
@@ -35,6 +39,18 @@ bool Recordset::IsNull(int field) const {
   return columns_[static_cast<size_t>(field)].IsNull(CurrentRow());
 }
 
+std::string_view Recordset::TextOfRow(std::uint32_t row, int field) const {
+  if (row >= static_cast<std::uint32_t>(rows_) || field < 0 || field >= FieldCount()) return {};
+  return columns_[static_cast<size_t>(field)].At(row);
+}
+
+std::vector<std::uint32_t> Recordset::PassingRows() const {
+  if (filtered_) return passing_;
+  std::vector<std::uint32_t> all(static_cast<size_t>(rows_));
+  std::iota(all.begin(), all.end(), 0U);
+  return all;
+}
+
 void Recordset::MoveNext() {
   if (!Eof()) ++position_;
 }
@@ -49,7 +65,7 @@ bool Recordset::Filter(std::string_view criteria) {
   std::vector<Condition> conditions;
   if (!Parse(criteria, conditions)) return false;
   passing_.clear();
-  columns_[static_cast<size_t>(conditions[0].field)].FindAll(conditions[0].match, passing_);
+  FindAll(conditions[0]);
   for (size_t i = 1; i < conditions.size(); ++i) {
     const Condition& condition = conditions[i];
     std::erase_if(passing_, [&](std::uint32_t row) {
@@ -59,6 +75,21 @@ bool Recordset::Filter(std::string_view criteria) {
   filtered_ = true;
   position_ = 0;
   return true;
+}
+
+void Recordset::FindAll(const Condition& condition) {
+  const auto field = static_cast<size_t>(condition.field);
+  const TextColumn& column = columns_[field];
+  const bool byEquality = condition.match.fromStart && condition.match.toEnd;
+  if (byEquality && filteredByEquality_[field] && indexes_[field] == nullptr) {
+    indexes_[field] = std::make_unique<ColumnIndex>(column);
+  }
+  if (byEquality) filteredByEquality_[field] = true;
+  if (byEquality && indexes_[field] != nullptr) {
+    indexes_[field]->FindAll(column, condition.match, passing_);
+  } else {
+    column.FindAll(condition.match, passing_);
+  }
 }
 
 bool Recordset::Find(std::string_view criteria) {
@@ -85,6 +116,7 @@ int Recordset::FieldNamed(std::string_view name) const {
 size_t Recordset::BytesHeld() const {
   size_t bytes = sizeof(*this) + passing_.capacity() * sizeof(passing_[0]);
   for (const TextColumn& column : columns_) bytes += column.BytesHeld();
+  for (const auto& index : indexes_) bytes += index == nullptr ? 0 : index->BytesHeld();
   return bytes;
 }
 

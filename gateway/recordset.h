@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "gateway/column_index.h"
 #include "gateway/text_column.h"
 
 namespace store {
@@ -34,6 +35,10 @@ class Recordset {
   std::string_view Text(int field) const;
   bool IsNull(int field) const;
 
+  /// A field of any row of the read, whether it passes the filter or not; rows from 0, in the order
+  /// of the read. Outside and NULL read as the empty text.
+  std::string_view TextOfRow(std::uint32_t row, int field) const;
+
   void MoveFirst() { position_ = 0; }
   void MoveNext();
 
@@ -41,15 +46,16 @@ class Recordset {
   /// lifts the filter. Grammar: `FIELD = 'x'`, `FIELD LIKE 'x%'`, `'%x'`, `'%x%'` or `'x'`, joined
   /// by AND; within a pattern a percent sign is a letter; blanks around words do not matter, ASCII
   /// letters compare without case, NULL meets nothing. False when the text is no such criteria: the
-  /// former filter then stands.
+  /// former filter then stands. The second filter by equality on a field gives that field an index,
+  /// so that a list can be matched against another one row by row.
   bool Filter(std::string_view criteria);
 
   /// Goes forward from the current row, that row included, to the first that meets `criteria`
   /// (grammar as for `Filter`); to the end when there is none. False when the text does not parse.
   bool Find(std::string_view criteria);
 
-  /// Numbers of the rows that pass, from 0, as the last `Filter` left them.
-  const std::vector<std::uint32_t>& PassingRows() const { return passing_; }
+  /// Numbers of the rows that pass, from 0; of all rows without a filter.
+  std::vector<std::uint32_t> PassingRows() const;
 
   size_t BytesHeld() const;     ///< What the rows occupy in memory.
   size_t BytesOfTexts() const;  ///< The sum of the lengths of all texts.
@@ -60,11 +66,14 @@ class Recordset {
     TextMatch match;
   };
   bool Parse(std::string_view criteria, std::vector<Condition>& conditions) const;
+  void FindAll(const Condition& condition);
   int FieldNamed(std::string_view name) const;
   std::uint32_t CurrentRow() const;
 
   std::vector<std::string> names_;
   std::vector<TextColumn> columns_;
+  std::vector<std::unique_ptr<ColumnIndex>> indexes_;  // by field; made when they pay
+  std::vector<bool> filteredByEquality_;               // by field; whether that was asked before
   std::vector<std::uint32_t> passing_;
   int rows_ = 0;
   int position_ = 0;

@@ -72,7 +72,7 @@ QString GridModel::Shown(const QModelIndex& index) const {
 QVariant GridModel::data(const QModelIndex& index, int role) const {
   if (!index.isValid() || index.column() >= grid_.Cols()) return {};
   const GridColumn& column = grid_.Columns()[static_cast<size_t>(index.column())];
-  const CellLook& look = grid_.Look(GridRow(index), index.column());
+  const CellLook look = grid_.Look(GridRow(index), index.column());
   const std::string& cell = grid_.TextMatrix(GridRow(index), index.column());
   switch (role) {
     case Qt::DisplayRole:

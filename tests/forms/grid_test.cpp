@@ -81,6 +81,26 @@ TEST_F(GridTest, LooksTravelWithTheirRow) {
   EXPECT_EQ(grid.Look(1, 2).BackColor, -1);
   EXPECT_EQ(grid.Look(2, 2).BackColor, 0xFFFF00);
   EXPECT_TRUE(grid.Look(2, 2).Bold);
+  grid.Column(2).BackColor = 0xE0E0E0;
+  EXPECT_EQ(grid.Look(0, 2).BackColor, -1) << "a column's colour is that of its data";
+  EXPECT_EQ(grid.Look(1, 2).BackColor, 0xE0E0E0);
+  EXPECT_EQ(grid.Look(2, 2).BackColor, 0xFFFF00);
+}
+
+TEST_F(GridTest, MakesTheCellsOfARowWhenTheyAreFirstLookedAt) {
+  std::vector<int> made;
+  grid.SetRowsMadeLater(1000, [&](int row) {
+    made.push_back(row);
+    return std::vector<std::string>{std::to_string(row)};
+  });
+  EXPECT_EQ(grid.Rows(), 1001);
+  EXPECT_EQ(grid.TextMatrix(500, 0) + grid.TextMatrix(500, 2), "499");
+  grid.RemoveItem(1);
+  grid.SetTextMatrix(1, 1, "x");
+  EXPECT_EQ(grid.TextMatrix(1, 0) + grid.TextMatrix(1, 1), "1x");
+  grid.AddItem("new", 1);
+  EXPECT_EQ(grid.TextMatrix(1, 0) + grid.TextMatrix(2, 0), "new1");
+  EXPECT_EQ(made, (std::vector<int>{499, 1}));
 }
 
 }  // namespace
