@@ -70,6 +70,11 @@ CalendarDate AddDays(const CalendarDate& date, int days) {
   return FromDays(DaysOf(date.Year, date.Month, date.Day) + chrono::days(days));
 }
 
+int DaysBetween(const CalendarDate& from, const CalendarDate& to) {
+  const auto days = DaysOf(to.Year, to.Month, to.Day) - DaysOf(from.Year, from.Month, from.Day);
+  return static_cast<int>(days.count());
+}
+
 std::string FormatDateValue(const CalendarDate& date, std::string_view mask) {
   return FormatDateValue(ClockTime{date.Year, date.Month, date.Day, 0, 0, 0}, mask);
 }

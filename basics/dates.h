@@ -31,6 +31,8 @@ CalendarDate DateSerial(int year, int month, int day);
 
 /// `days` days later, or earlier for a negative count.
 CalendarDate AddDays(const CalendarDate& date, int days);
+/// Days from the first date to the second; negative when that is the earlier one.
+int DaysBetween(const CalendarDate& from, const CalendarDate& to);
 
 /// A date or time by a mask: runs of Y, M, D, H, N (minutes) and S, in either case; M behind hours
 /// means minutes too. A run of one letter prints without a leading zero. Everything else stands for

@@ -1,5 +1,7 @@
 #include "order/item_box_pane.h"
 
+#include <cmath>
+
 #include "basics/dates.h"
 #include "basics/formats.h"
 #include "basics/numbers.h"
@@ -15,6 +17,10 @@ namespace {
 
 constexpr int kShortestSearch = 5;    // characters; what is shorter is a quantity
 constexpr int kWarningStands = 5000;  // milliseconds
+
+bool IsSearch(const std::string& entry) {
+  return CharLength(entry) >= kShortestSearch || entry.front() == ',' || entry.front() == '.';
+}
 
 }  // namespace
 
@@ -39,7 +45,7 @@ ItemBoxPane::ItemBoxPane(SlipForm& form, const SupplierPane& supplier, PickListP
 }
 
 void ItemBoxPane::SetUpLines() {
-  FLEX1.SetColumns({
+  std::vector<GridColumn> columns = {
       {.Header = "No.", .Width = 330, .Alignment = Align::Center},
       {.Header = "품목코드", .Width = 810, .Alignment = Align::Left, .Hidden = true},
       {.Header = "품명", .Width = 2055, .Alignment = Align::Left},
@@ -51,21 +57,21 @@ void ItemBoxPane::SetUpLines() {
       {.Header = "공급가액", .Width = 1095, .Alignment = Align::Right, .Format = kMaskWhole},
       {.Header = "부가세액", .Width = 1035, .Alignment = Align::Right, .Format = kMaskWhole},
       {.Header = "합계금액", .Width = 900, .Alignment = Align::Right},
-  });
+  };
+  for (const GridColumn& column : choices_.MoreLineColumns) columns.push_back(column);
+  FLEX1.SetColumns(std::move(columns));
 }
 
 void ItemBoxPane::inBox_KeyPress(Key key) {
   if (key != Key::Enter) return;
-  if (!supplier_.HasSupplier()) {
-    Host.MsgBox("발주처를 선택하세요.          ", box::Critical, "발주처");
+  if (!choices_.CombinesSuppliers && !supplier_.HasSupplier()) {
+    supplier_.TellNoSupplier();
     AddInProgress = 0;
     return;
   }
   const std::string entry = Trim(inBox.Text());
   if (entry.empty()) return;
-  const bool search =
-      CharLength(entry) >= kShortestSearch || entry.front() == ',' || entry.front() == '.';
-  if (search) {
+  if (AddInProgress != 0 || IsSearch(entry)) {
     SearchItems();
   } else if (FLEX1.Row() > 0) {
     ApplyQuantity(FLEX1.Row());
@@ -74,13 +80,17 @@ void ItemBoxPane::inBox_KeyPress(Key key) {
 
 std::string ItemBoxPane::SearchCriteria(const std::string& text) const {
   if (AddInProgress != 0) return Splice(" PR_CODE  = '{text}'", "text"_a = text);
-  if (text.front() == ',') {
-    return Splice(" PR_NAME  LIKE '%{text}%'", "text"_a = MidChars(text, 2));
-  }
+  if (text.front() == ',') return NameCriteria(MidChars(text, 2));
   if (text.front() == '.') {
     return Splice(" PR_STD   LIKE '%{text}%'", "text"_a = MidChars(text, 2));
   }
   return choices_.BarcodeCriteria(text);
+}
+
+std::string ItemBoxPane::NameCriteria(const std::string& name) const {
+  const std::string supplier = NameSearchSupplier ? NameSearchSupplier() : "";
+  if (supplier.empty()) return Splice(" PR_NAME  LIKE '%{text}%'", "text"_a = name);
+  return Splice(" CTPRCODE  LIKE '{supplier}{text}%'", "supplier"_a = supplier, "text"_a = name);
 }
 
 void ItemBoxPane::SearchItems() {
@@ -92,11 +102,22 @@ void ItemBoxPane::SearchItems() {
     return;
   }
   if (count > 1) {
-    pickList_.FillPickGrid();
-  } else {
-    Host.MsgBox("선택된 품목이 없습니다.           ", box::Critical, "품목없음");
+    ListHits();
+    return;
   }
+  Host.MsgBox("선택된 품목이 없습니다.           ", box::Critical, "품목없음");
   inBox.SetText("");
+  // Or a transfer would put this item's quantity on the line of another.
+  AddAccepted = 0;
+}
+
+void ItemBoxPane::ListHits() {
+  inBox.SetText("");
+  if (choices_.HitsOpenQuickPick) {
+    SeveralHits();
+  } else {
+    pickList_.FillPickGrid();
+  }
 }
 
 void ItemBoxPane::AddItemLine() {
@@ -111,13 +132,21 @@ void ItemBoxPane::AddItemLine() {
       return;
     }
   }
-  FLEX1.AddItem("\t" + code + "\t" + ItemText(item::Barcode) + "\r " + ItemText(item::Name) + "\t" +
-                    ItemText(item::Standard) + "\t" + ItemText(item::TaxKind) + "\t" +
-                    NumberText(price) + "\t\t" + choices_.FirstQuantity,
-                1);
+  InsertLine(price);
   FLEX1.SetRow(1);
   RecalcLine(1);
   inBox.SetText("");
+}
+
+void ItemBoxPane::InsertLine(double price) {
+  const bool inUnits = choices_.UnitField != kNoField;
+  const std::string unit = inUnits ? ItemText(choices_.UnitField) : "";
+  FLEX1.AddItem("\t" + ItemText(item::Code) + "\t" + ItemText(item::Barcode) + "\r " +
+                    ItemText(item::Name) + "\t" + ItemText(item::Standard) + "\t" +
+                    ItemText(item::TaxKind) + "\t" + NumberText(price) + "\t\t" +
+                    (inUnits ? unit : "1"),
+                1);
+  FLEX1.SetTextMatrix(1, order_line::Unit, unit);
 }
 
 void ItemBoxPane::RefuseForPrice() {
@@ -131,15 +160,48 @@ void ItemBoxPane::RefuseForPrice() {
 
 void ItemBoxPane::AddFromCode(const std::string& productCode) {
   AddInProgress = -1;
-  inBox.SetText(productCode);
-  inBox_KeyPress(Key::Enter);
+  EnterCode(productCode);
   AddInProgress = 0;
 }
 
+void ItemBoxPane::EnterCode(const std::string& productCode) {
+  inBox.SetText(productCode);
+  inBox_KeyPress(Key::Enter);
+}
+
 void ItemBoxPane::ApplyQuantity(int row) {
-  FLEX1.SetTextMatrix(row, order_line::Money.Quantity, NumberText(TypedQuantity(inBox.Text())));
+  if (choices_.OrdersInUnits && !FitsUnit(TypedQuantity(inBox.Text()), row)) {
+    inBox.SetText("");
+    return;
+  }
+  TakeQuantity(row);
+}
+
+void ItemBoxPane::TakeQuantity(int row) {
+  const double quantity = TypedQuantity(inBox.Text());
+  FLEX1.SetTextMatrix(row, order_line::Money.Quantity, NumberText(quantity));
+  if (choices_.OrdersInUnits && quantity == 0) FLEX1.RemoveItem(row);
   RecalcLine(row);
   inBox.SetText("");
+}
+
+// An item without a unit takes no quantity, and nothing is said: there is nothing to divide by.
+bool ItemBoxPane::FitsUnit(double quantity, int row) {
+  FindItem(FLEX1.TextMatrix(row, order_line::Code));
+  const std::string unitText = ItemText(choices_.UnitField);
+  const auto unit = static_cast<std::int64_t>(std::nearbyint(ParseNumber(unitText)));
+  const auto whole = static_cast<std::int64_t>(std::nearbyint(quantity));
+  if (unit == 0) return false;
+  if (whole % unit == 0) return true;
+  Host.MsgBox(
+      "해당상품은 발주단위가 [" + unitText + "] 입니다.      ", box::Critical,
+      "발주단위 오류   **** 적정발주량 [" + std::to_string((whole / unit + 1) * unit) + "]  ****");
+  return false;
+}
+
+void ItemBoxPane::TakeOut(const std::string& productCode) {
+  RemoveLinesOf(productCode);
+  RecalcTotals();
 }
 
 void ItemBoxPane::RemoveLinesOf(const std::string& productCode) {

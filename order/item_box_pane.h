@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
 
 #include "order/order_type.h"
@@ -18,6 +19,7 @@ inline constexpr LineGridColumns Money{
 inline constexpr int Code = Money.Code;
 inline constexpr int Name = Money.Name;
 inline constexpr int Last = Money.Sum;
+inline constexpr int Unit = 11;  ///< SAFEIV.ORD_QTY, hidden, where orders go in units.
 }  // namespace order_line
 
 /// The one line through which an order is written: barcodes, searches, quantities. It adds to the
@@ -30,25 +32,42 @@ class ItemBoxPane : public LinesPane {
   Label Label6;  ///< A line of warning that goes away by itself.
   Timer Timer1;
   std::int16_t AddInProgress = 0;  ///< -1 while a routine and not a person feeds `inBox`.
-  std::int16_t AddAccepted = 0;    ///< Set to 0 when an item was refused for want of a price.
+  std::int16_t AddAccepted = 0;    ///< Set to 0 when an item was refused.
 
   void inBox_KeyPress(Key key);
   void FLEX1_KeyDown(Key key);
   void Timer1_Timer();
 
-  /// Moves what stands in the box into the quantity of a row.
+  /// Moves what stands in the box into the quantity of a row. Where orders go in units a quantity
+  /// off the unit is refused with the next one that fits, and 0 takes the row out.
   void ApplyQuantity(int row);
+  /// The same without looking at the unit.
+  void TakeQuantity(int row);
   /// Adds an item by its code, as if it had been entered in the box.
   void AddFromCode(const std::string& productCode);
+  /// The same within a transfer that holds `AddInProgress` from its first item to its last.
+  void EnterCode(const std::string& productCode);
+  /// Takes every line of an item out.
+  void TakeOut(const std::string& productCode);
 
  protected:
   ~ItemBoxPane() = default;
 
+  /// The search narrows to the start of the names of one supplier's items: that supplier, or an
+  /// empty text for all of them.
+  std::function<std::string()> NameSearchSupplier;
+  /// Several items meet the search, and this chain picks among them on the panel of tiles.
+  std::function<void()> SeveralHits;
+
  private:
   void SetUpLines();
   std::string SearchCriteria(const std::string& text) const;
+  std::string NameCriteria(const std::string& name) const;
   void SearchItems();
+  void ListHits();
   void AddItemLine();
+  void InsertLine(double price);
+  bool FitsUnit(double quantity, int row);
   void RefuseForPrice();
   void RemoveLinesOf(const std::string& productCode);
 

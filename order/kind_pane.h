@@ -5,13 +5,33 @@
 
 #include "forms/form.h"
 #include "forms/grid.h"
+#include "order/pick_list_pane.h"
 
 namespace store {
+
+/// A category id has 15 characters: three for each level, filled up with zeros.
+inline constexpr int kLevelLength = 3;
+std::string ZerosBelow(int level);
+
+/// The code in an entry of a selection list or grid, which holds it in its last 20 characters;
+/// empty for an empty entry.
+std::string CodeOfEntry(const std::string& entry);
+std::string CodeOfCell(const Grid& grid, int row, int col);
+
+/// A click on a cell of a selection grid, and Enter on it, do the same.
+void ClickByKeyAndMouse(Grid& grid, std::function<void(int row, int col)> click);
+
+/// Fills a selection grid from what `SlotA` holds, code and name, row by row from the left, and
+/// closes the slot.
+void FillSelectionGrid(Grid& grid);
 
 /// The item categories beside the pick list, three to a row. A click lists a category's items.
 class KindPane {
  public:
-  explicit KindPane(Form& form);
+  /// Whether the option of the middle category adds those of level 2 to the store's own.
+  enum class Levels { MiddleByOption, TopOnly };
+
+  KindPane(Form& form, PickListPane& pickList, Levels levels);
   KindPane(const KindPane&) = delete;
   KindPane& operator=(const KindPane&) = delete;
 
@@ -27,8 +47,9 @@ class KindPane {
  protected:
   ~KindPane() = default;
 
-  /// A category was chosen: the item list is to be shown by it.
-  std::function<void(const std::string& topLevel)> KindChosen;
+ private:
+  PickListPane& pickList_;
+  Levels levels_;
 };
 
 }  // namespace store

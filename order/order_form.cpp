@@ -1,5 +1,6 @@
 #include "order/order_form.h"
 
+#include <iterator>
 #include <memory>
 
 #include "basics/dates.h"
@@ -9,8 +10,12 @@
 #include "forms/host.h"
 #include "forms/open_forms.h"
 #include "gateway/gateway.h"
+#include "order/frm_Order.h"
+#include "order/frm_Order01.h"
+#include "order/frm_Order02.h"
+#include "order/frm_Order03.h"
+#include "order/frm_OrderPLU.h"
 #include "slips/depot_choice.h"
-#include "slips/item_list.h"
 
 namespace store {
 namespace {
@@ -46,15 +51,19 @@ OrderForm::OrderForm(const OrderTypeChoices& choices)
       // Without the casts each would be taken for a copy of the pane that this form also is.
       SupplierPane(static_cast<SlipForm&>(*this)),
       PickListPane(static_cast<Form&>(*this), choices),
-      KindPane(static_cast<Form&>(*this)),
       HistoryPane(static_cast<Form&>(*this)),
+      ProgressPane(static_cast<Form&>(*this)),
       ItemBoxPane(*this, *this, *this, choices),
       choices_(choices) {
   Caption = choices.Caption;
   Text4.SetText("2002-08-08");
   PublishControls();
   ConnectPanes();
-  TabOrder = {&DTOrderDate, &Combo1, &Text1, &inBox, &FLEX1, &PRHELP, &FLEX2};
+  TabOrder = {&DTOrderDate, &Combo1, &Text1, &inBox, &FLEX1, &FLEX2};
+}
+
+void OrderForm::AddLeftSideStops(std::initializer_list<Control*> stops) {
+  TabOrder.insert(std::prev(TabOrder.end()), stops);
 }
 
 void OrderForm::PublishControls() {
@@ -64,39 +73,45 @@ void OrderForm::PublishControls() {
   Publish("LaBtn_0", LaBtn[0]);
   Publish("LaBtn_1", LaBtn[1]);
   Publish("Label5", Label5);
+  Publish("Image1", Image1);
+  Publish("Image5", Image5);
+  Publish("Command2", Command2);
+  Image1[0].ToolTipText = "발주량발주";
+  Image1[1].ToolTipText = "부족재고발주";
+  Image5.Click = [this] { Image5_Click(); };
+  Command2.Click = [this] { Command2_Click(); };
   DTOrderDate.Change = [this] { DTOrderDate_Change(); };
   for (const int index : {0, 1}) {
     LaBtn[static_cast<size_t>(index)].Click = [this, index] { LaBtn_Click(index); };
     Label5[static_cast<size_t>(index)].Click = [this, index] { Label5_Click(index); };
+    Image1[static_cast<size_t>(index)].Click = [this, index] { Image1_Click(index); };
   }
 }
 
 void OrderForm::ConnectPanes() {
   SupplierChanged = [this] { ClearLines(); };
-  FollowSupplier = [this] {
+  FollowSupplier = [this](ItemListMoment moment) {
     const Hourglass waiting;
-    if (AppOptions.OrderInfoPartnersOnly == 1) OpenScopedItemList(Text1.Tag);
-    FillKinds();
+    ReadSupplierScope(moment);
   };
   AfterLookup = &inBox;
-  KindChosen = [this](const std::string& topLevel) {
-    SetFilter(SlotC, Splice(" KD_ID LIKE '{kind}%'", "kind"_a = topLevel));
-    FillPickGrid();
-  };
+  SeveralHits = [this] { OpenQuickPickOnHits(); };
   QuantityEntered = [this](const std::string& code, const std::string& quantity) {
     AddFromCode(code);
     // Also when the item was refused for its price: the quantity then lands on the top line.
     inBox.SetText(quantity);
-    if (FLEX1.Row() >= 1) ApplyQuantity(1);
+    if (FLEX1.Row() >= 1) TakeQuantity(1);
   };
+  ItemTakenOut = [this](const std::string& code) { TakeOut(code); };
   HistoryWanted = [this](const std::string& code, const std::string& name) {
     ShowHistory(code, name);
   };
 }
 
-// A new list of categories always empties the pick list.
-void OrderForm::FillKinds() {
-  FillKindGrid(PRHELP, 1, "", Text1.Tag);
+void OrderForm::ReadSupplierScope(ItemListMoment moment) {
+  if (AppOptions.OrderInfoPartnersOnly == 1) choices_.ReadItems(moment, Text1.Tag);
+  if (FillLeftSide) FillLeftSide();
+  // Whatever is chosen beside it anew, the pick list starts empty.
   FLEX2.SetRows(1);
 }
 
@@ -107,8 +122,7 @@ void OrderForm::Activate() {
   activated_ = true;
   Host.DoEvents();
   if (!SlipId.empty()) LoadOrderSlip(SlipId);
-  if (AppOptions.OrderInfoPartnersOnly == 1) OpenScopedItemList(Text1.Tag);
-  FillKinds();
+  ReadSupplierScope(ItemListMoment::FormOpens);
   CopyDepots(Combo1);
   Combo1.SetListIndex(0);
   SetFocus(Text1);
@@ -135,9 +149,11 @@ void OrderForm::LoadOrderSlip(const std::string& slipId) {
 
 void OrderForm::LoadOrderHeader() {
   // The name comes before the code and the lines: a change of the supplier's name throws lines
-  // away.
-  Text1.SetText(FieldText(SlotA, kSupplierName));
-  Text1.Tag = FieldText(SlotA, kSupplierCode);
+  // away. An order to several suppliers has no supplier of its own.
+  const std::string supplier = FieldText(SlotA, kSupplierCode);
+  const bool combined = choices_.CombinesSuppliers && supplier == kCombinedSupplierCode;
+  Text1.SetText(combined ? "" : FieldText(SlotA, kSupplierName));
+  Text1.Tag = combined ? "" : supplier;
   DTOrderDate.SetValue(FieldText(SlotA, kDate));
   Text4.SetText(DTOrderDate.Value());
 
@@ -180,6 +196,11 @@ bool OrderForm::KeyDown(Key key) {
     case Key::Escape:
       Close();
       return true;
+    case Key::F1:
+      // In the supplier box the key is the lookup's.
+      if (ActiveControl == &Text1 && Text1.Enabled) return false;
+      OpenQuickPick();
+      return true;
     case Key::F5:
       NarrowHistory();
       return true;
@@ -207,8 +228,11 @@ void OrderForm::Unload() {
 }
 
 void RegisterOrderForms() {
-  RegisterForm(BasicOrderType().FormName,
-               [] { return std::make_unique<OrderForm>(BasicOrderType()); });
+  RegisterForm("frm_Order", [] { return std::make_unique<frm_Order>(); });
+  RegisterForm("frm_Order01", [] { return std::make_unique<frm_Order01>(); });
+  RegisterForm("frm_Order02", [] { return std::make_unique<frm_Order02>(); });
+  RegisterForm("frm_Order03", [] { return std::make_unique<frm_Order03>(); });
+  RegisterForm("frm_OrderPLU", [] { return std::make_unique<frm_OrderPLU>(); });
 }
 
 }  // namespace store

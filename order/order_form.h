@@ -2,13 +2,15 @@
 
 #include <array>
 #include <cstdint>
+#include <functional>
+#include <initializer_list>
 #include <string>
 
 #include "order/history_pane.h"
 #include "order/item_box_pane.h"
-#include "order/kind_pane.h"
 #include "order/order_type.h"
 #include "order/pick_list_pane.h"
+#include "order/progress_pane.h"
 #include "order/supplier_pane.h"
 #include "slips/slip.h"
 #include "slips/slip_form.h"
@@ -17,23 +19,26 @@ namespace store {
 
 /// The window in which an order is written: a supplier, lines of items with quantities, and the
 /// save. It is made of panes, each in a file of its own name; here stand the slip as a whole and
-/// how the panes work together. The board sets `SlipId`, `SlipTable` and `NoPriceMode` and shows it
-/// beside itself.
+/// how the panes work together. The forms of the order types (frm_Order.h, frm_Order01.h and on)
+/// add what stands left of the pick list, and their choices. The board sets `SlipId`, `SlipTable`
+/// and `NoPriceMode` and shows the form beside itself.
 class OrderForm : public SlipForm,
                   public SupplierPane,
                   public PickListPane,
-                  public KindPane,
                   public HistoryPane,
+                  public ProgressPane,
                   public ItemBoxPane {
  public:
-  explicit OrderForm(const OrderTypeChoices& choices);
-
   DatePicker DTOrderDate;
   TextBox Text4;    ///< Mirror of the date, never shown.
   ComboBox Combo1;  ///< The depot that receives the goods.
   Label LaSatae{"매입확정"};
   std::array<Label, 3> LaBtn;   ///< 0 saves for editing, 1 confirms, 2 does nothing.
   std::array<Label, 2> Label5;  ///< 0 closes, 1 makes small.
+  std::array<Label, 2>
+      Image1;       ///< Transfer marked rows: 0 by what is to be ordered, 1 by shortage.
+  Label Image5;     ///< Opens the quick-pick panel on the items found last.
+  Button Command2;  ///< Opens it as it was left.
 
   HeadArray HeadValues;
   StringTable LineValues;
@@ -47,11 +52,23 @@ class OrderForm : public SlipForm,
   void DTOrderDate_Change();
   void LaBtn_Click(int index);
   void Label5_Click(int index);
+  void Image1_Click(int index);
+  void Image5_Click();
+  void Command2_Click();
+
+ protected:
+  explicit OrderForm(const OrderTypeChoices& choices);
+
+  /// Fills what a type has beside the pick list, when the form opens and when a supplier was chosen
+  /// or tried.
+  std::function<void()> FillLeftSide;
+  /// Its controls come before the pick list when the Tab key walks.
+  void AddLeftSideStops(std::initializer_list<Control*> stops);
 
  private:
   void PublishControls();
   void ConnectPanes();
-  void FillKinds();
+  void ReadSupplierScope(ItemListMoment moment);
   void ResetOrderForm();
   void LoadOrderSlip(const std::string& slipId);
   void LoadOrderHeader();
@@ -59,11 +76,17 @@ class OrderForm : public SlipForm,
   void SetOrderEditable(std::int16_t editable);
 
   void ValidateOrder(std::int16_t& valid);
+  bool CheckSupplier();
   void BuildOrderLines(std::int16_t& count);
   bool AddOrderLine(int number, int row);
   void PrepareLineArray();
   void FillHeader();
   void SaveSucceeded();
+
+  void TransferRow(int row, int column);
+  void OpenQuickPick();
+  void OpenQuickPickOnHits();
+  void AddPicked();
 
   const OrderTypeChoices& choices_;
   bool activated_ = false;
@@ -71,7 +94,7 @@ class OrderForm : public SlipForm,
   std::string loadedDate_;
 };
 
-/// Makes the order forms known by name ("frm_Order").
+/// Makes the order forms and their panel of tiles known by name ("frm_Order").
 void RegisterOrderForms();
 
 }  // namespace store

@@ -10,11 +10,25 @@
 #include "slips/slip_keys.h"
 
 namespace store {
+namespace {
+
+constexpr double kLowestConfirmingLevel = 3;
+
+// A lower number is the higher right. An empty level reads as 0.
+bool MayConfirm() {
+  if (ParseNumber(Session.UserLevel) <= kLowestConfirmingLevel) return true;
+  Host.MsgBox("발주확정할 수 있는 권한이 없습니다.   [3 레벨 이상에서 처리가능]", box::Critical,
+              "권한");
+  return false;
+}
+
+}  // namespace
 
 void OrderForm::LaBtn_Click(int index) {
   if (index != 0 && index != 1) return;
+  if (index == 1 && choices_.ConfirmNeedsRights && !MayConfirm()) return;
   HeadValues.assign(head::OrderLast + 1, "");
-  HeadValues[head::State] = index == 0 ? "0" : choices_.ConfirmedState;
+  HeadValues[head::State] = choices_.StateOf(index);
   std::int16_t valid = 0;
   ValidateOrder(valid);
   if (valid == 0) return;
@@ -44,18 +58,14 @@ void OrderForm::SaveSucceeded() {
 
 void OrderForm::ValidateOrder(std::int16_t& valid) {
   valid = 0;
+  if (choices_.CountsKeysAnew) SlipSeqCounter = 0;
   // The key comes before the checks: its date is the day that the document date is measured by.
   HeadValues[head::Id] = ParseNumber(SlipId) != 0 ? SlipId : NextSlipId(SlipTable);
   HeadValues[head::Date] = DTOrderDate.Value();
   if (!CheckSlipDate(HeadValues)) return;
   FillHeader();
   if (!CheckSlipStore(HeadValues)) return;
-  if (Trim(PartnerNameOf(HeadValues[head::ToCode])) != Trim(Text1.Text()) ||
-      Trim(Text1.Text()).empty()) {
-    TellWrongPartner();
-    SetFocus(Text1);
-    return;
-  }
+  if (!CheckSupplier()) return;
   std::int16_t lines = 0;
   BuildOrderLines(lines);
   if (lines == 0) {
@@ -65,8 +75,21 @@ void OrderForm::ValidateOrder(std::int16_t& valid) {
   valid = -1;
 }
 
+bool OrderForm::CheckSupplier() {
+  if (choices_.CombinesSuppliers) return true;
+  const std::string name = Trim(Text1.Text());
+  if (!name.empty() && Trim(PartnerNameOf(HeadValues[head::ToCode])) == name) return true;
+  TellWrongPartner();
+  SetFocus(Text1);
+  return false;
+}
+
 void OrderForm::FillHeader() {
   FillSlipHeader(HeadValues, Text1, LaAmt);
+  if (choices_.CombinesSuppliers) {
+    if (HeadValues[head::ToCode].empty()) HeadValues[head::ToCode] = kCombinedSupplierCode;
+    if (HeadValues[head::ToName].empty()) HeadValues[head::ToName] = kCombinedSupplierName;
+  }
   // One blank, not an empty text, is how head office's side knows an order that nobody filled in.
   for (size_t i = head::OrderFirstBlank; i <= head::OrderLast; ++i) HeadValues[i] = " ";
 }
@@ -88,7 +111,7 @@ void OrderForm::BuildOrderLines(std::int16_t& count) {
 
 bool OrderForm::AddOrderLine(int number, int row) {
   const std::string& code = FLEX1.TextMatrix(row, order_line::Code);
-  if (!FindItem(code)) {
+  if (!FindItem(code) && !choices_.SavesGoneItems) {
     Host.MsgBox("[" + code + "] 품목정보가 부족하여 \r\r 순번항목을 구성할 수 없습니다.",
                 box::Critical, "품목정보오류");
     return false;

@@ -9,7 +9,7 @@
 
 namespace store {
 
-/// The pick list: items of a search or a category, with a quantity column to type into.
+/// The pick list: items of a search, a category or a proposal, with a quantity to type.
 class PickListPane {
  public:
   PickListPane(Form& form, const OrderTypeChoices& choices);
@@ -31,14 +31,18 @@ class PickListPane {
  protected:
   ~PickListPane() = default;
 
+  /// The list has been filled from the item list.
+  std::function<void()> ItemsListed;
   /// A quantity was typed beside an item.
   std::function<void(const std::string& code, const std::string& quantity)> QuantityEntered;
+  /// An item is to be ordered no more.
+  std::function<void(const std::string& code)> ItemTakenOut;
   /// What the item has sold is asked for.
   std::function<void(const std::string& code, const std::string& name)> HistoryWanted;
 
  private:
   Form& form_;
-  const PickColumns& columns_;
+  const OrderTypeChoices& choices_;
 };
 
 }  // namespace store

@@ -85,6 +85,10 @@ SupplierPane::SupplierPane(SlipForm& form) : form_(form) {
 
 bool SupplierPane::HasSupplier() const { return !Trim(Text1.Text()).empty() && !Text1.Tag.empty(); }
 
+void SupplierPane::TellNoSupplier() const {
+  Host.MsgBox("발주처를 선택하세요.          ", box::Critical, "발주처");
+}
+
 void SupplierPane::Text1_GotFocus() { Text1.SelectAll(); }
 
 void SupplierPane::Text1_KeyDown(Key key) {
@@ -116,7 +120,7 @@ void SupplierPane::FindSupplier(TextBox& box, std::int16_t& found) {
     ChooseSupplier(box, "");
   }
   found = !box.Text().empty() && !box.Tag.empty() ? -1 : 0;
-  FollowSupplier();
+  FollowSupplier(ItemListMoment::SupplierTyped);
 }
 
 void SupplierPane::ChooseSupplier(TextBox& box, const std::string& lookupTable) {
@@ -138,7 +142,7 @@ void SupplierPane::TakeSupplier(TextBox& box, const std::string& code, const std
 
 void SupplierPane::LaCTHELP_Click() {
   ChooseSupplier(Text1, form_.SlipTable);
-  FollowSupplier();
+  FollowSupplier(ItemListMoment::LookupClosed);
   form_.SetFocus(*AfterLookup);
 }
 

@@ -4,6 +4,7 @@
 #include <functional>
 #include <string>
 
+#include "order/order_type.h"
 #include "slips/slip_form.h"
 
 namespace store {
@@ -27,6 +28,8 @@ class SupplierPane {
 
   /// Whether both name and code are there.
   bool HasSupplier() const;
+  /// The box that asks for one.
+  void TellNoSupplier() const;
 
  protected:
   ~SupplierPane() = default;
@@ -34,7 +37,7 @@ class SupplierPane {
   /// Another supplier, or another text in the box: prices and lines of the former one are void.
   std::function<void()> SupplierChanged;
   /// A choice was made, or tried: what depends on the supplier is read anew.
-  std::function<void()> FollowSupplier;
+  std::function<void(ItemListMoment moment)> FollowSupplier;
   /// Where the keyboard goes after the lookup.
   Control* AfterLookup = nullptr;
 

@@ -2,17 +2,26 @@
 
 #include "basics/records.h"
 #include "gateway/gateway.h"
+#include "slips/slip.h"
 
 namespace store {
 namespace {
 
-std::string ScopedItemList(const std::string& supplier) {
+std::string ScopedItemList(const std::string& supplier, const std::string& order) {
   return Splice(
       "SELECT PR.PR_CODE,PR_NAME,PR_STD,PR_UNT,PR_TAX2,PR_PTNO,' ',' ',PR.PR_BCODE,' ',KD_ID FROM "
       "SAFEIV LEFT JOIN PR ON SAFEIV.PR_CODE = PR.PR_CODE  WHERE PR_END = '0' AND RCT_CODE = "
-      "'{store}' "
-      "AND CT_CODE = '{supplier}' ",
-      "store"_a = Session.StoreCode, "supplier"_a = supplier);
+      "'{store}' AND CT_CODE = '{supplier}'{order}",
+      "store"_a = Session.StoreCode, "supplier"_a = supplier, "order"_a = order);
+}
+
+/// What the store may order from anybody.
+std::string StoreItemList() {
+  return Splice(
+      " SELECT PR.PR_CODE,PR_NAME,PR_STD,PR_UNT,PR_TAX2,PR_PTNO,' ',' ',PR.PR_BCODE,' ',KD_ID FROM "
+      "SAFEIV LEFT JOIN PR ON SAFEIV.PR_CODE = PR.PR_CODE  WHERE PR_END = '0' AND RCT_CODE = "
+      "'{store}' ",
+      "store"_a = Session.StoreCode);
 }
 
 }  // namespace
@@ -24,12 +33,15 @@ std::string ItemListStatement() {
 
 void OpenItemList() { OpenRecordset(SlotC, ItemListStatement()); }
 
-void OpenScopedItemList(const std::string& supplier) {
-  OpenRecordset(SlotC, ScopedItemList(supplier));
+void OpenScopedItemList(const std::string& supplier, const std::string& order) {
+  OpenRecordset(SlotC, ScopedItemList(supplier, order));
 }
 
 void OpenReceiptItemList(const std::string& supplier) {
-  OpenRecordset(SlotC, Splice(" {list}", "list"_a = ScopedItemList(supplier)));
+  // Nothing is set up for the code that stands for several suppliers.
+  OpenRecordset(SlotC, supplier == kCombinedSupplierCode
+                           ? StoreItemList()
+                           : Splice(" {list}", "list"_a = ScopedItemList(supplier, " ")));
 }
 
 bool FindItem(const std::string& productCode) {

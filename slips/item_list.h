@@ -21,9 +21,11 @@ std::string ItemListStatement();
 /// Reads it into `SlotC`.
 void OpenItemList();
 
-/// Reads into `SlotC` the items that the store's order settings (SAFEIV) name for a supplier. The
-/// second one is the receipt's, whose statement begins with a blank.
-void OpenScopedItemList(const std::string& supplier);
+/// Reads into `SlotC` the items that the store's order settings (SAFEIV) name for a supplier, in
+/// the order that the clause `order` asks for.
+void OpenScopedItemList(const std::string& supplier, const std::string& order = " ");
+/// The same for a receipt, whose statement begins with a blank; of an order to several suppliers,
+/// the items of all of them.
 void OpenReceiptItemList(const std::string& supplier);
 
 /// Sets the filter of `SlotC` to one product. False when the item is not in the list.

@@ -83,4 +83,8 @@ inline constexpr const char* kWordReceived = "입고완료";
 /// The word of a state; any value without one stands as it is.
 std::string StateWord(const std::string& state);
 
+/// Supplier of an order that goes to several: no partner bears this code.
+inline constexpr const char* kCombinedSupplierCode = "1000000000000000";
+inline constexpr const char* kCombinedSupplierName = "통합 발주";
+
 }  // namespace store

@@ -4,14 +4,9 @@
 #include <string>
 
 #include "basics/records.h"
+#include "forms/options_file.h"
 
 namespace store {
-
-/// The workstation's options: file "OPT.ini" in `Host.ProgramFolder`, a private profile in code
-/// page 949 (see start/profile_file.h).
-
-/// The one section of the options file.
-inline constexpr const char* kOptionSection = "TARNWICK";
 
 /// A key of the options file and the field of `AppOptions` that its value goes to at the start.
 struct Option {
@@ -32,17 +27,8 @@ inline constexpr std::array kOptions = {
     Option{.Key = "발주정보거래처", .Number = &AppOptionsRecord::OrderInfoPartnersOnly},
     Option{.Key = "입고량0제외", .Number = &AppOptionsRecord::SkipZeroReceipt},
     Option{.Key = "타입A중분류표기", .Number = &AppOptionsRecord::ShowMidCategory},
-    Option{.Key = "발주타입", .Number = &AppOptionsRecord::OrderType},
+    Option{.Key = kOrderTypeKey, .Number = &AppOptionsRecord::OrderType},
 };
-
-/// The value of a key, at most 254 bytes of code page 949; empty when the key is absent.
-std::string ReadOption(const std::string& section, const std::string& key);
-
-/// Writes one key. A failure is told to the user in a box; the caller goes on with the next key.
-void WriteOption(const std::string& section, const std::string& key, const std::string& value);
-
-/// A number option's value: the leading numeric part, rounded half to even; 0 when there is none.
-std::int16_t OptionNumber(const std::string& value);
 
 /// Fills `AppOptions` from the file and composes `ConnectString` from it. Once a run, before
 /// anything else goes to the network.

@@ -20,6 +20,8 @@ TEST(Dates, CarryWhatIsTooLargeOrTooSmall) {
         << c.year << " " << c.month << " " << c.day;
   EXPECT_EQ(AddDays({2024, 3, 1}, -1), (CalendarDate{2024, 2, 29}));
   EXPECT_EQ(AddDays({2023, 12, 31}, 366), (CalendarDate{2024, 12, 31}));
+  EXPECT_EQ(DaysBetween({2024, 2, 1}, {2024, 3, 1}), 29);
+  EXPECT_EQ(DaysBetween({2024, 3, 1}, {2024, 2, 29}), -1);
 }
 
 TEST(Dates, PrintByMask) {

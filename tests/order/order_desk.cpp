@@ -14,7 +14,7 @@ OrderDesk::OrderDesk() {
 }
 
 OrderForm& OrderDesk::Open(const std::string& slipId) {
-  auto* form = dynamic_cast<OrderForm*>(TheForm("frm_Order"));
+  auto* form = dynamic_cast<OrderForm*>(TheForm(ChosenOrderType().FormName));
   form->SlipId = slipId;
   form->SlipTable = "PEM22";
   Host.Show(*form);

@@ -2,8 +2,10 @@
 
 #include <string>
 
+#include "basics/records.h"
 #include "forms/open_forms.h"
 #include "order/order_form.h"
+#include "slips/order_types.h"
 #include "tests/support/slip_desk.h"
 
 namespace store {
@@ -13,9 +15,15 @@ class OrderDesk : public SlipDesk {
  protected:
   OrderDesk();
 
-  /// Opens the order form; with a slip id, on that slip.
+  /// Opens the order form of the workstation's type; with a slip id, on that slip.
   OrderForm& Open(const std::string& slipId = "");
-  OrderForm& Order() { return *dynamic_cast<OrderForm*>(OpenForm("frm_Order")); }
+  /// The same for a type and its form.
+  template <class TypeForm>
+  TypeForm& Open(std::int16_t type, const std::string& slipId = "") {
+    AppOptions.OrderType = type;
+    return dynamic_cast<TypeForm&>(Open(slipId));
+  }
+  OrderForm& Order() { return *dynamic_cast<OrderForm*>(OpenForm(ChosenOrderType().FormName)); }
   /// Types a supplier and presses Enter.
   void Supplier(const std::string& text);
   /// Types into the item box and presses Enter.

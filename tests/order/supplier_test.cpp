@@ -1,5 +1,6 @@
 #include "basics/records.h"
 #include "lookup/party_lookups.h"
+#include "order/frm_Order.h"
 #include "tests/order/order_desk.h"
 
 namespace store {
@@ -92,7 +93,7 @@ TEST_F(OrderDesk, WithTheOptionOnOnlyTheStoresSettingsCount) {
 }
 
 TEST_F(OrderDesk, CategoriesStandThreeToARowAndFilterThePickList) {
-  OrderForm& form = Open();
+  auto& form = Open<frm_Order>(0);
   Supplier("#C0001");
   ASSERT_EQ(form.PRHELP.Rows(), 1);
   EXPECT_EQ(form.PRHELP.TextMatrix(0, 0), "생활" + std::string(30, ' ') + "200000000000000");

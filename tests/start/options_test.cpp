@@ -13,7 +13,7 @@
 #include "forms/host.h"
 #include "gateway/gateway.h"
 #include "slips/process_state.h"
-#include "start/profile_file.h"
+#include "basics/profile_file.h"
 #include "tests/support/scripted_host.h"
 
 namespace store {

@@ -1,4 +1,4 @@
-#include "start/profile_file.h"
+#include "basics/profile_file.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>

@@ -1,0 +1,107 @@
+#include "order/frm_Order02.h"
+
+#include "basics/formats.h"
+#include "basics/numbers.h"
+#include "basics/records.h"
+#include "forms/host.h"
+#include "gateway/gateway.h"
+#include "slips/item_list.h"
+
+namespace store {
+namespace {
+
+constexpr int kUnit = 7;
+constexpr int kEntry = 8;
+
+/// What the store may order from anybody, with its stock. An item without an order price cannot be
+/// ordered.
+std::string StoreItemList() {
+  return Splice(
+      "SELECT PR.PR_CODE,PR.PR_NAME,PR.PR_STD,PR.PR_UNT,PR_TAX2,PR_PTNO,' ',' ',PR.PR_BCODE,' ',"
+      "KD_ID,SUM(BSQTY+INQTY-OTQTY),SAFEIV.CT_CODE,CONCAT(SAFEIV.CT_CODE,PR.PR_NAME) AS CTPRCODE,"
+      "SAFEIV.ORD_QTY   FROM (SAFEIV LEFT JOIN PR ON SAFEIV.PR_CODE = PR.PR_CODE)   left join IV "
+      "ON PR.PR_CODE = IV.PR_CODE  AND IV.RCT_CODE ='{store}'   WHERE PR_END = '0' AND "
+      "SAFEIV.RCT_CODE = '{store}'  AND         (CT_CODE IS NOT NULL AND CT_CODE <> '') and ord_up "
+      "<> 0   GROUP BY PR.PR_CODE   ORDER BY PR.PR_NAME  ",
+      "store"_a = Session.StoreCode);
+}
+
+// The list is that of all suppliers, so the choice of one reads nothing.
+void ReadItems(ItemListMoment moment, const std::string& /*supplier*/) {
+  if (moment == ItemListMoment::FormOpens) OpenRecordset(SlotC, StoreItemList());
+}
+
+std::string PickRow() {
+  return PickRowOfItem() + "\t" + ItemText(item02::Stock) + "\t" + ItemText(item02::Unit) +
+         "\t\t\t" + ItemText(item::Unit);
+}
+
+// Sizes are compared and nothing else: any quantity from the unit up will do.
+bool RefuseBelowUnit(Grid& picks, int row) {
+  const double unit = ParseGrouped(picks.TextMatrix(row, kUnit));
+  if (unit == 0 || unit <= ParseGrouped(picks.TextMatrix(row, kEntry))) return false;
+  Host.MsgBox("발주단위 이하 발주할 수 없습니다.     ", box::Critical, "발주량 체크");
+  picks.SetTextMatrix(row, kEntry, "");
+  return true;
+}
+
+EntryVerdict JudgeEntry(Grid& picks, int row) {
+  if (RefuseLongEntry(picks, row, kEntry) || RefuseBelowUnit(picks, row)) {
+    return EntryVerdict::Nothing;
+  }
+  return ParseGrouped(picks.TextMatrix(row, kEntry)) == 0 ? EntryVerdict::Nothing
+                                                          : EntryVerdict::Order;
+}
+
+std::vector<GridColumn> PickColumns() {
+  return {
+      {.Header = "품목코드", .Width = 1050, .Alignment = Align::Left, .Hidden = true},
+      {.Header = "S", .Width = 225, .Alignment = Align::Center, .Hidden = true, .CheckBox = true},
+      {.Header = "상품분류", .Width = 1215, .Alignment = Align::Left, .Hidden = true},
+      {.Header = "바코드", .Width = 1140, .Alignment = Align::Center},
+      {.Header = "품명", .Width = 2070, .Alignment = Align::Left},
+      {.Header = "규격", .Width = 1110, .Alignment = Align::Left},
+      {.Header = "현재고", .Width = 810, .Alignment = Align::Right, .Format = kMaskWhole},
+      {.Header = "발주단위", .Width = 795, .Alignment = Align::Right, .Format = kMaskWhole},
+      {.Header = "발주량",
+       .Width = 720,
+       .Alignment = Align::Right,
+       .Format = kMaskWhole,
+       .Editable = true,
+       .BackColor = kEntryYellow},
+      {.Width = 900, .Hidden = true},
+      {.Header = "단위", .Width = 900, .Alignment = Align::Left},
+  };
+}
+
+const OrderTypeChoices& Choices() {
+  static const OrderTypeChoices choices{
+      .FormName = "frm_Order02",
+      .Caption = "발주시스템",
+      .StateOf = StateByButton,
+      .ConfirmNeedsRights = true,
+      .CombinesSuppliers = true,
+      .CountsKeysAnew = true,
+      .SavesGoneItems = true,
+      .UnitField = item02::Unit,
+      .ReadItems = ReadItems,
+      .BarcodeCriteria = BarcodeBeginsWith,
+      .PickGrid = PickColumns(),
+      .PickEntry = kEntry,
+      .PickRow = PickRow,
+      .JudgeEntry = JudgeEntry,
+  };
+  return choices;
+}
+
+}  // namespace
+
+frm_Order02::frm_Order02()
+    : OrderForm(Choices()),
+      SelectionPane(static_cast<Form&>(*this), static_cast<PickListPane&>(*this)) {
+  FillLeftSide = [this] { Option1_Click(Option1[0].Value ? 0 : 1); };
+  NameSearchSupplier = [this] { return ChosenSupplier(); };
+  AddLeftSideStops({&Option1[0], &Option1[1], &Combo2[0], &Combo2[1], &Combo2[2], &PRHELP});
+}
+
+}  // namespace store

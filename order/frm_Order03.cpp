@@ -1,0 +1,110 @@
+#include "order/frm_Order03.h"
+
+#include "basics/formats.h"
+#include "basics/numbers.h"
+#include "basics/records.h"
+#include "forms/options_file.h"
+#include "gateway/gateway.h"
+#include "slips/item_list.h"
+
+namespace store {
+namespace {
+
+constexpr int kStockGrey = 0xE0E0E0;
+
+std::string SafetyItemList(const std::string& supplier) {
+  return Splice(
+      "SELECT PR.PR_CODE,PR_NAME,PR_STD,PR_UNT,PR_TAX2,PR_PTNO,' ',' ',PR.PR_BCODE,' ',KD_ID,"
+      "SAFE_QTY,ORD_QTY FROM SAFEIV LEFT JOIN PR ON SAFEIV.PR_CODE = PR.PR_CODE  WHERE PR_END = "
+      "'0' AND RCT_CODE = '{store}' AND CT_CODE = '{supplier}' ",
+      "store"_a = Session.StoreCode, "supplier"_a = supplier);
+}
+
+// A supplier that was typed brings the plain list, without units and safety stock.
+void ReadItems(ItemListMoment moment, const std::string& supplier) {
+  if (moment == ItemListMoment::SupplierTyped) {
+    OpenScopedItemList(supplier);
+  } else {
+    OpenRecordset(SlotC, SafetyItemList(supplier));
+  }
+}
+
+// The workstation's options are asked at each save: they may name another type by now.
+std::string StateOf(int button) {
+  const bool isStill = OptionNumber(ReadOption(kOptionSection, kOrderTypeKey)) == 3;
+  return isStill ? StatePastConfirmation(button) : StateByButton(button);
+}
+
+std::string PickRow() {
+  return PickRowOfItem() + "\t" + ItemText(item03::Safety) + "\t\t\t" + ItemText(item03::Unit);
+}
+
+// The length is looked at in the shortage's column and not in the entry's. Nor is an entry held
+// against the unit here: only the item box does that.
+EntryVerdict JudgeEntry(Grid& picks, int row) {
+  if (RefuseLongEntry(picks, row, stock_view::Shortage)) return EntryVerdict::Nothing;
+  return ParseGrouped(picks.TextMatrix(row, stock_view::Entry)) == 0 ? EntryVerdict::TakeOut
+                                                                     : EntryVerdict::Order;
+}
+
+std::vector<GridColumn> PickColumns() {
+  return {
+      {.Header = "품목코드", .Width = 1050, .Alignment = Align::Left, .Hidden = true},
+      {.Header = "S", .Width = 225, .Alignment = Align::Center, .Hidden = true, .CheckBox = true},
+      {.Header = "상품분류", .Width = 1215, .Alignment = Align::Left, .Hidden = true},
+      {.Header = "바코드", .Width = 1530, .Alignment = Align::Center},
+      {.Header = "품명", .Width = 2070, .Alignment = Align::Left},
+      {.Header = "규격", .Width = 600, .Alignment = Align::Right},
+      {.Header = "안전고", .Width = 615, .Alignment = Align::Right, .BackColor = kStockGrey},
+      {.Header = "현재고",
+       .Width = 630,
+       .Alignment = Align::Right,
+       .Format = kMaskWhole,
+       .BackColor = kStockGrey},
+      {.Header = "부족",
+       .Width = 630,
+       .Alignment = Align::Right,
+       .Format = kMaskWhole,
+       .BackColor = kStockGrey},
+      {.Header = "단위", .Width = 480, .Alignment = Align::Right, .BackColor = kStockGrey},
+      {.Header = "발주량",
+       .Width = 795,
+       .Alignment = Align::Right,
+       .Format = kMaskWhole,
+       .Editable = true,
+       .BackColor = kEntryYellow},
+      {.Width = 900, .Hidden = true},
+  };
+}
+
+const OrderTypeChoices& Choices() {
+  static const OrderTypeChoices choices{
+      .FormName = "frm_Order03",
+      .Caption = "발주시스템 (3)",
+      .StateOf = StateOf,
+      .CountsKeysAnew = true,
+      .UnitField = item03::Unit,
+      .OrdersInUnits = true,
+      .ReadItems = ReadItems,
+      .BarcodeCriteria = BarcodeBeginsWith,
+      .MoreLineColumns = {{.Header = "최소단위", .Width = 900, .Hidden = true}},
+      .PickGrid = PickColumns(),
+      .PickEntry = stock_view::Entry,
+      .PickRow = PickRow,
+      .JudgeEntry = JudgeEntry,
+  };
+  return choices;
+}
+
+}  // namespace
+
+frm_Order03::frm_Order03()
+    : OrderForm(Choices()),
+      KindPane(static_cast<Form&>(*this), static_cast<PickListPane&>(*this), Levels::TopOnly),
+      StockViewPane(static_cast<Form&>(*this), static_cast<PickListPane&>(*this)) {
+  FillLeftSide = [this] { FillKindGrid(PRHELP, 1, "", Text1.Tag); };
+  ItemsListed = [this] { ShowStock(); };
+  AddLeftSideStops({&Check1, &DTPicker1[0], &DTPicker1[1], &PRHELP});
+}
+
+}  // namespace store
