@@ -9,6 +9,7 @@
 #include "forms/host.h"
 #include "forms/open_forms.h"
 #include "gateway/gateway.h"
+#include "order/frm_OrderPLU.h"
 #include "slips/depot_choice.h"
 #include "slips/item_list.h"
 
@@ -209,6 +210,7 @@ void OrderForm::Unload() {
 void RegisterOrderForms() {
   RegisterForm(BasicOrderType().FormName,
                [] { return std::make_unique<OrderForm>(BasicOrderType()); });
+  RegisterForm("frm_OrderPLU", [] { return std::make_unique<frm_OrderPLU>(); });
 }
 
 }  // namespace store

@@ -71,7 +71,7 @@ class OrderForm : public SlipForm,
   std::string loadedDate_;
 };
 
-/// Makes the order forms known by name ("frm_Order").
+/// Makes the order forms and their quick-pick panel known by name ("frm_Order").
 void RegisterOrderForms();
 
 }  // namespace store
