@@ -5,6 +5,7 @@
 #include "forms/host.h"
 #include "forms/open_forms.h"
 #include "gateway/gateway.h"
+#include "slips/picks.h"
 #include "slips/slip_keys.h"
 
 namespace store {
@@ -17,6 +18,7 @@ void ResetProcessState() {
   Host.Ending = false;
   SlipSeqCounter = 0;
   SlipKeyPrefix.clear();
+  PickList.Clear();
 }
 
 }  // namespace store

@@ -11,6 +11,7 @@
 #include "ui/grid_view.h"
 #include "ui/key_button.h"
 #include "ui/qt_text.h"
+#include "ui/tile_wall.h"
 
 namespace store {
 namespace {
@@ -96,6 +97,15 @@ class GridBinding : public Binding {
   GridView& view_;
 };
 
+class WallBinding : public Binding {
+ public:
+  WallBinding(Grid& tiles, TileWall& wall) : Binding(tiles, wall), wall_(wall) {}
+
+ private:
+  void FollowValue() override { wall_.Follow(); }
+  TileWall& wall_;
+};
+
 class ProgressBinding : public Binding {
  public:
   ProgressBinding(ProgressBar& progress, QProgressBar& bar)
@@ -143,6 +153,9 @@ std::unique_ptr<Binding> Bind(FormWindow& window, Control& control, QWidget& wid
   auto* grid = dynamic_cast<Grid*>(&control);
   if (auto* view = dynamic_cast<GridView*>(&widget); grid != nullptr && view != nullptr) {
     return std::make_unique<GridBinding>(window, *grid, *view);
+  }
+  if (auto* wall = dynamic_cast<TileWall*>(&widget); grid != nullptr && wall != nullptr) {
+    return std::make_unique<WallBinding>(*grid, *wall);
   }
   auto* progress = dynamic_cast<ProgressBar*>(&control);
   if (auto* bar = qobject_cast<QProgressBar*>(&widget); progress != nullptr && bar != nullptr) {

@@ -57,8 +57,8 @@ class SeenText {
 };
 
 /// The binding that fits a control and its widget: a label may be shown as a text or as a button to
-/// press, a text box as a line or as a text to read, a grid as a table; anything else is at least
-/// enabled, seen and described as its control says.
+/// press, a text box as a line or as a text to read, a grid as a table or as tiles; anything else
+/// is at least enabled, seen and described as its control says.
 std::unique_ptr<Binding> Bind(FormWindow& window, Control& control, QWidget& widget);
 
 /// What a person types and chooses: text boxes, lists, dates, ticks and options. Nothing for any

@@ -17,8 +17,10 @@
 #include "board/frm_Start.h"
 #include "forms/host.h"
 #include "forms/open_forms.h"
+#include "gateway/gateway.h"
 #include "lookup/HELP_BPR.h"
 #include "lookup/party_lookups.h"
+#include "order/frm_OrderPLU.h"
 #include "order/order_form.h"
 #include "start/Main_Start.h"
 #include "ui/desk.h"
@@ -210,6 +212,30 @@ void ShootNewOrder(Director& director) {
   });
 }
 
+void ShootQuickPick(Director& director) {
+  director.WhenShown("frm_Start", [](FormWindow& window) { Press(window, Qt::Key_F2); });
+  director.WhenShown("frm_Order", [](FormWindow&) {
+    SetFilter(SlotC, " PR_NAME  LIKE '%라면%'");
+    auto& panel = dynamic_cast<frm_OrderPLU&>(*TheForm("frm_OrderPLU"));
+    panel.ListMode = panel.Reload = -1;
+    Dispatch([&panel] { Host.ShowModal(panel); });
+  });
+  director.WhenShown("frm_OrderPLU", [&](FormWindow& window) {
+    director.Fit(window);
+    director.Save(window, "quick_pick");
+    Find<QWidget>(window, "PRHELP_1").setFocus();
+    for (int level = 1; level <= 3; ++level) {
+      Press(window, Qt::Key_Down);
+      Press(window, Qt::Key_Enter);
+    }
+    Press(window, Qt::Key_Right);
+    Press(window, Qt::Key_Down);
+    director.Save(window, "quick_pick_categories");
+    Press(window, Qt::Key_Escape);
+  });
+  director.WhenShown("frm_Order", [](FormWindow& window) { Press(window, Qt::Key_Escape); });
+}
+
 void ShootStoredSlips(Director& director) {
   const auto open = [](const QString& option) {
     return [option](FormWindow& window) {
@@ -311,6 +337,7 @@ int main(int argc, char** argv) {
   store::ShootSplash(director);
   store::ShootBoard(director);
   store::ShootNewOrder(director);
+  store::ShootQuickPick(director);
   store::ShootStoredSlips(director);
   store::ShootLookups(director);
   store::ShootBoxes(director);

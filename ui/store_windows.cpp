@@ -2,6 +2,7 @@
 
 #include "board/frm_Start.h"
 #include "lookup/lookup_form.h"
+#include "order/frm_OrderPLU.h"
 #include "order/order_form.h"
 #include "receipt/frm_PE_UNIT.h"
 #include "start/frmLogin.h"
@@ -12,6 +13,7 @@
 #include "ui/lookup_window.h"
 #include "ui/options_window.h"
 #include "ui/order_window.h"
+#include "ui/quick_pick_window.h"
 #include "ui/receipt_window.h"
 #include "ui/splash_window.h"
 #include "ui/window_registry.h"
@@ -25,6 +27,7 @@ void RegisterStoreWindows() {
   RegisterWindow("frm_Start", MakerOf<BoardWindow, frm_Start>());
   RegisterWindow("frm_PE_UNIT", MakerOf<ReceiptWindow, frm_PE_UNIT>());
   RegisterWindow("frm_Order", MakerOf<OrderWindow, OrderForm>());
+  RegisterWindow("frm_OrderPLU", MakerOf<QuickPickWindow, frm_OrderPLU>());
   for (const char* lookup :
        {"HELP_CT", "HELP_RCT", "HELP_HCT", "HELP_ST", "HELP_CTM", "HELP_BPR"}) {
     RegisterWindow(lookup, MakerOf<LookupWindow, LookupForm>());
