@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <map>
 #include <tuple>
+#include <vector>
 
 #include "demo/generators.h"
 #include "demo/random.h"
@@ -11,20 +12,51 @@ namespace {
 constexpr std::uint64_t kSeed = 0x570C;
 
 using StockKey = std::tuple<std::size_t, std::size_t, std::size_t>;
+using StockRows = std::map<StockKey, Stock>;
+
+// What went over the counter beyond what came in.
+std::int64_t Gone(const Stock& stock) { return stock.Out - stock.In; }
 
 // Head office takes stock before the ninety days begin; what it counted is chosen here so that most
 // goods are still there today, and a few have sold out or below.
 void SetOpening(Stock& stock, Random& random) {
-  const std::int64_t gone = stock.Out - stock.In;
   const std::int64_t least = random.Between(0, 60);
-  stock.Opening = std::max(least, gone + random.Between(-4, 40));
+  stock.Opening = std::max(least, Gone(stock) + random.Between(-4, 40));
+}
+
+bool LiesInOtherDepots(const Franchise& franchise, const StockRows& rows, const Stock& stock) {
+  for (std::size_t depot = 1; depot < franchise.Stores[stock.Store].Depots.size(); ++depot) {
+    if (rows.contains({stock.Store, depot, stock.Product})) return true;
+  }
+  return false;
+}
+
+// What sells best runs out first: of each partner's goods the main store has none, one and two left
+// of the three that sold most.
+void RunLowOnBestSellers(const Franchise& franchise, StockRows& rows) {
+  std::map<std::size_t, std::vector<Stock*>> sellers;
+  for (auto& [key, stock] : rows) {
+    const bool sells = stock.Store == kMainStore && stock.Depot == 0 && stock.Counted &&
+                       Gone(stock) > 0 && !LiesInOtherDepots(franchise, rows, stock);
+    if (sells) sellers[franchise.Products[stock.Product].Partner].push_back(&stock);
+  }
+  for (auto& [partner, goods] : sellers) {
+    std::stable_sort(goods.begin(), goods.end(), [](const Stock* left, const Stock* right) {
+      return Gone(*left) > Gone(*right);
+    });
+    const auto low = static_cast<std::int64_t>(std::min<std::size_t>(3, goods.size()));
+    for (std::int64_t left = 0; left < low; ++left) {
+      Stock& stock = *goods[static_cast<std::size_t>(left)];
+      stock.Opening = Gone(stock) + left;
+    }
+  }
 }
 
 }  // namespace
 
 void AddStock(Franchise& franchise, const std::vector<std::vector<std::size_t>>& assortments) {
   Random random(kSeed);
-  std::map<StockKey, Stock> rows;
+  StockRows rows;
   const auto row = [&rows](std::size_t store, std::size_t depot, std::size_t product) -> Stock& {
     Stock& stock = rows[{store, depot, product}];
     stock.Store = store;
@@ -52,8 +84,9 @@ void AddStock(Franchise& franchise, const std::vector<std::vector<std::size_t>>&
   }
   for (auto& [key, stock] : rows) {
     if (stock.Counted) SetOpening(stock, random);
-    franchise.StockRows.push_back(stock);
   }
+  RunLowOnBestSellers(franchise, rows);
+  for (const auto& [key, stock] : rows) franchise.StockRows.push_back(stock);
 }
 
 void AddBalances(Franchise& franchise) {

@@ -113,6 +113,46 @@ TEST_F(Demo, MastersHoldWhatTheFormsRelyOn) {
       << "a partner under every tab";
 }
 
+TEST_F(Demo, GivesEachOrderTypeSomethingToDoAtOneSupplier) {
+  // The settings of store 1001 for 명지식품, with what it has and what it sold in thirty days.
+  TestServer().Sql(
+      "demo",
+      "CREATE OR REPLACE VIEW GOODS AS SELECT S.*,PR_NAME,PR_END,KD_LVL,CT_DANLV,"
+      "(SELECT IFNULL(SUM(BSQTY+INQTY-OTQTY),0) FROM IV WHERE RCT_CODE='1001' AND "
+      "IV.PR_CODE=S.PR_CODE) HAS,(SELECT IFNULL(SUM(PS_SQTY),0) FROM PES13 JOIN PSS13 USING (PE_ID)"
+      " WHERE PE_FCTCODE='1001' AND PE_SDATE>CURDATE()-INTERVAL 30 DAY AND PSS13.PR_CODE=S.PR_CODE)"
+      " SOLD FROM SAFEIV S JOIN PR USING (PR_CODE) JOIN KIND USING (KD_ID) JOIN CT USING (CT_CODE) "
+      "WHERE RCT_CODE='1001' AND CT_CODE='10016' AND PR_END='0'");
+  const struct {
+    const char* what;
+    const char* from;
+    int least;
+  } cases[] = {
+      {"staff who may confirm", "ST WHERE RCT_CODE='1001' AND ST_ASPLVL<=3", 1},
+      {"staff who may not", "ST WHERE RCT_CODE='1001' AND ST_ASPLVL>3", 1},
+      {"goods in units", "GOODS WHERE ORD_QTY>1 AND ORD_UP<>0", 20},
+      {"goods that the combined order leaves out", "GOODS WHERE ORD_UP=0", 1},
+      {"goods under the safety stock", "GOODS WHERE SAFE_QTY>HAS", 10},
+      {"goods over it", "GOODS WHERE SAFE_QTY<HAS", 10},
+      {"sold goods", "GOODS WHERE SOLD>0", 10},
+      {"goods sold every day", "GOODS WHERE SOLD>=30", 2},
+      {"sold goods that ran out", "GOODS WHERE SOLD>0 AND HAS=0", 1},
+      {"sold goods of which there is too little for as many days more",
+       "GOODS WHERE HAS>0 AND SOLD>HAS", 1},
+      {"sold goods without level, contract or last price",
+       "GOODS G WHERE SOLD>0 AND CT_DANLV='' AND NOT EXISTS (SELECT 1 FROM CTP WHERE "
+       "CTP.PR_CODE=G.PR_CODE) AND NOT EXISTS (SELECT 1 FROM PSM23 WHERE PSM23.PR_CODE=G.PR_CODE)",
+       1},
+      {"goods straight under a top category", "GOODS WHERE KD_LVL='1'", 2},
+      {"under a middle one", "GOODS WHERE KD_LVL='2'", 2},
+      {"under a lowest one", "GOODS WHERE KD_LVL='3'", 20},
+      {"hits of a short word", "GOODS WHERE PR_NAME LIKE '%라면%'", 10},
+  };
+  for (const auto& c : cases)
+    EXPECT_GE(std::stoi(Value(Splice("SELECT COUNT(*) FROM {from}", "from"_a = c.from))), c.least)
+        << c.what;
+}
+
 TEST_F(Demo, IsTheSameForTheSameArgumentsAndLoadsHoweverSmall) {
   const auto text = [](std::size_t items, std::size_t slips, const char* today) {
     std::ostringstream out;
