@@ -7,6 +7,7 @@
 #include "forms/host.h"
 #include "forms/open_forms.h"
 #include "gateway/gateway.h"
+#include "order/kind_pane.h"
 #include "order/supplier_pane.h"
 #include "slips/item_list.h"
 #include "slips/order_types.h"
@@ -17,9 +18,6 @@ namespace {
 constexpr int kTilesInRow = 5;
 constexpr int kPageRows = 4;
 constexpr int kLevels = 3;
-constexpr int kLevelLength = 3;  // characters of a category id that each level adds
-constexpr int kIdLength = 15;    // of a whole category id
-constexpr int kIdInEntry = 20;   // characters at the end of an entry that hold the id
 
 // --- tiles
 
@@ -69,14 +67,12 @@ std::string KindStatement(int level, const std::string& prefix) {
 std::string SetUpKindStatement(int level, const std::string& prefix, const std::string& supplier) {
   const std::string condition =
       level == 1 ? "" : Splice(" AND PR.KD_ID LIKE '{prefix}%' ", "prefix"_a = prefix);
-  const int length = level * kLevelLength;
   return Splice(
       "SELECT DISTINCT KIND.KD_ID,KIND.KD_NAME FROM  (KIND RIGHT JOIN PR ON  KIND.KD_ID = "
       "concat(left(PR.KD_ID, {length}) ,'{zeros}'))  RIGHT JOIN SAFEIV ON SAFEIV.PR_CODE = "
       "PR.PR_CODE    WHERE  KD_LVL = '{level}' AND SAFEIV.RCT_CODE = '{store}' AND SAFEIV.CT_CODE "
       "= '{supplier}'  {condition} ORDER BY KD_NAME ",
-      "length"_a = std::to_string(length),
-      "zeros"_a = std::string(static_cast<size_t>(kIdLength - length), '0'),
+      "length"_a = std::to_string(level * kLevelLength), "zeros"_a = ZerosBelow(level),
       "level"_a = std::to_string(level), "store"_a = Session.StoreCode, "supplier"_a = supplier,
       "condition"_a = condition);
 }
@@ -169,7 +165,7 @@ void frm_OrderPLU::FillCategories(Grid& grid, int level, const std::string& code
 // An empty cell is no choice: without a code every category of the next level would be listed.
 void frm_OrderPLU::PRHELP_Click(int index, int row, int col) {
   const std::string& entry = PRHELP[static_cast<size_t>(index)].TextMatrix(row, col);
-  const std::string code = LeftChars(Trim(RightChars(entry, kIdInEntry)), index * kLevelLength);
+  const std::string code = LeftChars(CodeOfEntry(entry), index * kLevelLength);
   if (code.empty()) return;
   const Hourglass waiting;
   const bool leadsToTiles = index == kLevels;

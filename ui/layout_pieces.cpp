@@ -54,6 +54,17 @@ QFrame* Group(const QString& role, QLayout* content) {
   return frame;
 }
 
+QWidget* Titled(QLabel* heading, QWidget* content) {
+  auto* column = Column();
+  column->setContentsMargins(0, 0, 0, 0);
+  column->setSpacing(2);
+  column->addWidget(heading);
+  column->addWidget(content, 1);
+  auto* titled = new QWidget;
+  titled->setLayout(column);
+  return titled;
+}
+
 QHBoxLayout* Row() {
   auto* row = new QHBoxLayout;
   row->setSpacing(kSpacing);

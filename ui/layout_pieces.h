@@ -26,6 +26,9 @@ void AddTotals(QHBoxLayout& row, const std::array<const char*, 4>& captions);
 /// A framed group of things. `role` is "card", "totals", "popup" or "band".
 QFrame* Group(const QString& role, QLayout* content);
 
+/// A heading above its content.
+QWidget* Titled(QLabel* heading, QWidget* content);
+
 /// Rows and columns with the spacing of all windows.
 QHBoxLayout* Row();
 QVBoxLayout* Column();

@@ -16,6 +16,8 @@
 #include "ui/history_chart_view.h"
 #include "ui/key_button.h"
 #include "ui/layout_pieces.h"
+#include "ui/order_left_sides.h"
+#include "ui/progress_panel.h"
 #include "ui/qt_text.h"
 #include "ui/style.h"
 
@@ -25,22 +27,11 @@ namespace {
 constexpr QSize kSize(1024, 720);
 constexpr int kTwoLines = 2;
 
-QWidget* Titled(const QString& title, QWidget* content) {
-  auto* column = Column();
-  column->setContentsMargins(0, 0, 0, 0);
-  column->setSpacing(2);
-  column->addWidget(HeadingLabel(title));
-  column->addWidget(content, 1);
-  auto* titled = new QWidget;
-  titled->setLayout(column);
-  return titled;
-}
-
 }  // namespace
 
 OrderWindow::OrderWindow(OrderForm& form) : FormWindow(form), order_(form) {
   auto* choice = new QSplitter(Qt::Vertical);
-  choice->addWidget(Categories());
+  choice->addWidget(OrderLeftSide(*this, order_));
   choice->addWidget(PickList());
   choice->setSizes({130, 400});
   choice->setStretchFactor(1, 1);
@@ -57,6 +48,7 @@ OrderWindow::OrderWindow(OrderForm& form) : FormWindow(form), order_(form) {
   content->addWidget(History());
   content->addWidget(Foot());
   FillWindow(*this, content);
+  new ProgressPanel(*this);
   BindControls();
   resize(kSize);
 }
@@ -120,13 +112,8 @@ QWidget* OrderWindow::ItemBox() {
 }
 
 QWidget* OrderWindow::Lines() {
-  return Titled("발주 내역   (Del 행 삭제)", Named("FLEX1", new GridView(order_.FLEX1, kTwoLines)));
-}
-
-QWidget* OrderWindow::Categories() {
-  auto* kinds = Named("PRHELP", new GridView(order_.PRHELP));
-  kinds->MarkCellsOnly();
-  return Titled("상품 분류", kinds);
+  return Titled(HeadingLabel("발주 내역   (Del 행 삭제)"),
+                Named("FLEX1", new GridView(order_.FLEX1, kTwoLines)));
 }
 
 QWidget* OrderWindow::PickList() {
@@ -135,7 +122,28 @@ QWidget* OrderWindow::PickList() {
              [this] { Act([this] { order_.WalkToPickList(); }); });
   OnShortcut(QKeySequence(Qt::CTRL | Qt::Key_Up),
              [this] { Act([this] { order_.SetFocus(order_.inBox); }); });
-  return Titled("품목 선택   (Ctrl+↓ ↑,  수량 입력 후 Enter,  F4 판매이력)", items);
+  auto* list =
+      Titled(HeadingLabel("품목 선택   (Ctrl+↓ ↑,  수량 입력 후 Enter,  F4 판매이력)"), items);
+  auto* column = Column();
+  column->setContentsMargins(0, 0, 0, 0);
+  column->addWidget(list, 1);
+  column->addLayout(Transfers());
+  auto* widget = new QWidget;
+  widget->setLayout(column);
+  return widget;
+}
+
+QLayout* OrderWindow::Transfers() {
+  auto* row = Row();
+  const auto add = [row](const char* name, const char* text, const QKeySequence& keys) {
+    row->addWidget(Named(name, new KeyButton(text, keys)));
+  };
+  add("Image1_0", "발주량발주", Qt::Key_F11);
+  add("Image1_1", "부족재고발주", QKeySequence(Qt::SHIFT | Qt::Key_F11));
+  row->addStretch();
+  add("Image5", "빠른선택", QKeySequence(Qt::SHIFT | Qt::Key_F1));
+  add("Command2", "빠른선택 보기", QKeySequence(Qt::CTRL | Qt::Key_F1));
+  return row;
 }
 
 QWidget* OrderWindow::History() {

@@ -3,6 +3,7 @@
 #include "ui/form_window.h"
 
 class QHBoxLayout;
+class QLayout;
 
 namespace store {
 
@@ -23,8 +24,8 @@ class OrderWindow : public FormWindow {
   void AddWindowButtons(QHBoxLayout& row);
   QWidget* ItemBox();
   QWidget* Lines();
-  QWidget* Categories();
   QWidget* PickList();
+  QLayout* Transfers();
   QWidget* History();
   QWidget* Foot();
   void FollowHistory();

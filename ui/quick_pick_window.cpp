@@ -20,17 +20,6 @@ constexpr QSize kSize(1000, 700);
 constexpr int kFingerLines = 2;  // the height of two lines of text takes a finger
 constexpr int kFingerButton = 40;
 
-QWidget* Titled(QLabel* title, QWidget* content) {
-  auto* column = Column();
-  column->setContentsMargins(0, 0, 0, 0);
-  column->setSpacing(2);
-  column->addWidget(title);
-  column->addWidget(content, 1);
-  auto* titled = new QWidget;
-  titled->setLayout(column);
-  return titled;
-}
-
 }  // namespace
 
 QuickPickWindow::QuickPickWindow(frm_OrderPLU& form) : FormWindow(form), panel_(form) {

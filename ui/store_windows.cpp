@@ -26,7 +26,9 @@ void RegisterStoreWindows() {
   RegisterWindow("frmOptions", MakerOf<OptionsWindow, frmOptions>());
   RegisterWindow("frm_Start", MakerOf<BoardWindow, frm_Start>());
   RegisterWindow("frm_PE_UNIT", MakerOf<ReceiptWindow, frm_PE_UNIT>());
-  RegisterWindow("frm_Order", MakerOf<OrderWindow, OrderForm>());
+  for (const char* order : {"frm_Order", "frm_Order01", "frm_Order02", "frm_Order03"}) {
+    RegisterWindow(order, MakerOf<OrderWindow, OrderForm>());
+  }
   RegisterWindow("frm_OrderPLU", MakerOf<QuickPickWindow, frm_OrderPLU>());
   for (const char* lookup :
        {"HELP_CT", "HELP_RCT", "HELP_HCT", "HELP_ST", "HELP_CTM", "HELP_BPR"}) {

@@ -4,7 +4,7 @@
 #include <QtTest>
 
 #include "forms/host.h"
-#include "order/order_form.h"
+#include "order/frm_Order.h"
 #include "tests/ui/probe_form.h"
 #include "ui/desk.h"
 #include "ui/grid_view.h"
@@ -35,7 +35,7 @@ class OrderWindowTest : public DeskTest {
   }
   QLineEdit& Box() { return Find<QLineEdit>(*window_, "inBox"); }
 
-  OrderForm form_{BasicOrderType()};
+  frm_Order form_;
   FormWindow* window_ = nullptr;
 };
 

@@ -6,7 +6,10 @@
 #include "board/frm_Start.h"
 #include "lookup/HELP_BPR.h"
 #include "lookup/party_lookups.h"
-#include "order/order_form.h"
+#include "order/frm_Order.h"
+#include "order/frm_Order01.h"
+#include "order/frm_Order02.h"
+#include "order/frm_Order03.h"
 #include "receipt/frm_PE_UNIT.h"
 #include "start/frmLogin.h"
 #include "start/frmOptions.h"
@@ -34,7 +37,10 @@ TEST_F(WindowsTest, EveryControlThatAFormPublishesHasItsWidget) {
   forms.push_back(std::make_unique<frmSplash>());
   forms.push_back(std::make_unique<frmOptions>());
   forms.push_back(std::make_unique<frm_Start>());
-  forms.push_back(std::make_unique<OrderForm>(BasicOrderType()));
+  forms.push_back(std::make_unique<frm_Order>());
+  forms.push_back(std::make_unique<frm_Order01>());
+  forms.push_back(std::make_unique<frm_Order02>());
+  forms.push_back(std::make_unique<frm_Order03>());
   forms.push_back(std::make_unique<frm_PE_UNIT>());
   forms.push_back(std::make_unique<HELP_CT>());
   forms.push_back(std::make_unique<HELP_HCT>());
@@ -78,7 +84,7 @@ TEST_F(WindowsTest, EachValueOfAPartnerStandsBesideItsCaption) {
 }
 
 TEST_F(WindowsTest, BarsOfTheChartAreAsHighAsTheirRows) {
-  OrderForm form{BasicOrderType()};
+  frm_Order form;
   Grid& chart = form.PRGHP;
   chart.SetRows(history::Rows);
   const auto leave = [&](int day, int bars) {
