@@ -24,6 +24,13 @@ std::string ItemListStatement() {
 
 void OpenItemList() { OpenRecordset(SlotC, ItemListStatement()); }
 
+bool RefreshItemList() {
+  RecordsetSlot list = FetchRecordset(ItemListStatement());
+  if (!list) return false;
+  SlotC = std::move(list);
+  return true;
+}
+
 void OpenScopedItemList(const std::string& supplier) {
   OpenRecordset(SlotC, ScopedItemList(supplier));
 }

@@ -1,6 +1,7 @@
 #include "ui/store_windows.h"
 
 #include "board/frm_Start.h"
+#include "lookup/NEW_PR.h"
 #include "lookup/lookup_form.h"
 #include "order/order_form.h"
 #include "receipt/frm_PE_UNIT.h"
@@ -10,6 +11,7 @@
 #include "ui/board_window.h"
 #include "ui/login_window.h"
 #include "ui/lookup_window.h"
+#include "ui/new_product_window.h"
 #include "ui/options_window.h"
 #include "ui/order_window.h"
 #include "ui/receipt_window.h"
@@ -25,6 +27,7 @@ void RegisterStoreWindows() {
   RegisterWindow("frm_Start", MakerOf<BoardWindow, frm_Start>());
   RegisterWindow("frm_PE_UNIT", MakerOf<ReceiptWindow, frm_PE_UNIT>());
   RegisterWindow("frm_Order", MakerOf<OrderWindow, OrderForm>());
+  RegisterWindow("NEW_PR", MakerOf<NewProductWindow, NEW_PR>());
   for (const char* lookup :
        {"HELP_CT", "HELP_RCT", "HELP_HCT", "HELP_ST", "HELP_CTM", "HELP_BPR"}) {
     RegisterWindow(lookup, MakerOf<LookupWindow, LookupForm>());
