@@ -34,7 +34,7 @@ class NewProduct : public SmallStoreTest {
     product->SuggestedBarcode = barcode;
     host.OnModal("NEW_PR", [&](Form&) { work(*product); });
     Host.ShowModal(*product);
-    const std::string result = product->SuggestedName;
+    std::string result = product->SuggestedName;
     ReleaseDroppedForms();
     return result;
   }
@@ -265,15 +265,6 @@ TEST_F(NewProduct, FindsTheMainSupplier) {
     EXPECT_EQ(press(Key::Enter), "");
     EXPECT_EQ(form.ActiveControl, &supplier);
   });
-}
-
-TEST_F(NewProduct, ColoursAndSelectsTheFieldInHand) {
-  NEW_PR form;
-  form.TakeFocus(form.txBox[2], true);
-  EXPECT_EQ(form.txBox[2].BackColor, 0xFFC080);
-  EXPECT_EQ(form.txBox[2].WantedSelection(), TextBox::Selection::All);
-  form.TakeFocus(form.Combo1[0], true);
-  EXPECT_EQ(form.txBox[2].BackColor, -1);
 }
 
 TEST_F(NewProduct, StandsInTheItemListAtOnceWhereTheStoreIsNotLimited) {

@@ -65,6 +65,7 @@ TEST_F(WindowsTest, APasswordShowsAStarForEachLetter) {
 TEST_F(WindowsTest, TheFieldInHandIsTheColouredOne) {
   BaseSettings.ProductCodeLength = 5;
   NEW_PR product;
+  product.SuggestedName = "보리차";
   Host.Show(product);
   FormWindow* window = TheDesk().WindowOf(product);
   ASSERT_TRUE(QTest::qWaitForWindowActive(window));
@@ -83,6 +84,7 @@ TEST_F(WindowsTest, TheFieldInHandIsTheColouredOne) {
   EXPECT_EQ(coloured(), "txBox_0");
   press(Qt::Key_Down);
   EXPECT_EQ(coloured(), "txBox_1");
+  EXPECT_EQ(Find<QLineEdit>(*window, "txBox_1").selectedText(), "보리차");
   WhenModal([](QWidget& box) { QTest::keyClick(&box, Qt::Key_Escape); });
   press(Qt::Key_F9);
   ASSERT_TRUE(QTest::qWaitForWindowActive(window));
