@@ -41,6 +41,9 @@ class Control {
   std::vector<Key> OwnKeys;
   /// The keyboard came to the control from another one of its form.
   std::function<void()> GotFocus;
+  /// The keyboard has gone on to another control of the form. Not raised while another window or a
+  /// box has it.
+  std::function<void()> LostFocus;
 
   bool Owns(Key key) const;
 };
@@ -73,6 +76,7 @@ class TextBox : public Control {
   int MaxLength = 0;  ///< In characters; 0 means no limit.
   bool Masked = false;
   bool MultiLine = false;
+  int BackColor = -1;  ///< 0xRRGGBB; -1 means the window's own.
 
   const std::string& Text() const { return text_; }
   void SetText(const std::string& text);

@@ -1,6 +1,7 @@
 #include "forms/form.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "forms/host.h"
 #include "forms/open_forms.h"
@@ -31,9 +32,11 @@ bool Form::Press(Key key, Control* at) {
 }
 
 void Form::TakeFocus(Control& control, bool fromThisForm) {
-  const bool back = !fromThisForm && ActiveControl == &control;
+  Control* const had = std::exchange(focused_, &control);
   ActiveControl = &control;
-  if (!back && control.GotFocus) control.GotFocus();
+  if (had == &control && !fromThisForm) return;
+  if (had != nullptr && had != &control && had->LostFocus) had->LostFocus();
+  if (control.GotFocus) control.GotFocus();
 }
 
 void Form::SetFocus(Control& control) {
@@ -41,13 +44,19 @@ void Form::SetFocus(Control& control) {
   ++focusRevision_;
 }
 
-void Form::FocusNext() {
-  if (TabOrder.empty()) return;
+void Form::FocusNext() { WalkFocus(1); }
+
+void Form::FocusPrevious() { WalkFocus(-1); }
+
+void Form::WalkFocus(int step) {
+  const int count = static_cast<int>(TabOrder.size());
   const auto current = std::find(TabOrder.begin(), TabOrder.end(), ActiveControl);
-  const size_t start =
-      current == TabOrder.end() ? 0 : static_cast<size_t>(current - TabOrder.begin()) + 1;
-  for (size_t i = 0; i < TabOrder.size(); ++i) {
-    Control& next = *TabOrder[(start + i) % TabOrder.size()];
+  // From outside of the order the first step leads to either end of it.
+  const int outside = step > 0 ? -1 : 0;
+  int at = current == TabOrder.end() ? outside : static_cast<int>(current - TabOrder.begin());
+  for (int tried = 0; tried < count; ++tried) {
+    at = (at + step + count) % count;
+    Control& next = *TabOrder[static_cast<size_t>(at)];
     if (next.Enabled && next.Visible) {
       SetFocus(next);
       return;

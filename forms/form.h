@@ -55,8 +55,10 @@ class Form {
   bool Press(Key key, Control* at);
   bool Press(Key key) { return Press(key, ActiveControl); }
   /// The keyboard came to a control of this form: from another one of it, or from elsewhere, which
-  /// is no news to the control that had it last.
+  /// is no news to the control that had it last. The one that loses it is told first.
   void TakeFocus(Control& control, bool fromThisForm);
+  /// The control that has the keyboard by what the window last said, or nothing at first.
+  const Control* FocusedControl() const { return focused_; }
 
   void EnsureLoaded();
   /// Closes the form and its window unless `QueryUnload` objects. True when it is closed.
@@ -68,6 +70,8 @@ class Form {
   void SetFocus(Control& control);
   /// What the Tab key does: to the next control of `TabOrder` that can take the focus.
   void FocusNext();
+  /// The same backwards.
+  void FocusPrevious();
   std::vector<Control*> TabOrder;
 
   /// Makes a control known to the window. Called in the constructor of the form or of a
@@ -87,7 +91,10 @@ class Form {
   unsigned FocusRevision() const { return focusRevision_; }
 
  private:
+  void WalkFocus(int step);
+
   std::vector<std::pair<std::string, Control*>> controls_;
+  Control* focused_ = nullptr;  // `ActiveControl` runs ahead of it until the window has followed
   bool loaded_ = false;
   bool closed_ = false;
   unsigned focusRevision_ = 0;

@@ -4,6 +4,7 @@
 #include "forms/host.h"
 #include "forms/open_forms.h"
 #include "gateway/gateway.h"
+#include "lookup/NEW_PR.h"
 #include "lookup/consonant_tabs.h"
 
 namespace store {
@@ -73,7 +74,12 @@ void HELP_BPR::TakeRow(int row) {
 }
 
 void HELP_BPR::Command2_Click() {
-  if (Form* product = TheForm("NEW_PR")) Host.ShowModal(*product);
+  auto* const product = dynamic_cast<NEW_PR*>(TheForm("NEW_PR"));
+  if (product == nullptr) return;
+  Host.ShowModal(*product);
+  if (product->SuggestedName.empty()) return;
+  Text1.SetText(product->SuggestedName);
+  Command1_Click();
 }
 
 }  // namespace store

@@ -15,6 +15,7 @@ class HELP_BPR : public LookupForm {
   /// Product code with its tax mark, name, standard, unit, short code, barcode and two blanks.
   std::array<std::string, 8> Results;
 
+  /// Registers a new product, which is then searched for by its name.
   void Command2_Click();
 
  protected:

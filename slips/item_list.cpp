@@ -33,6 +33,13 @@ std::string ItemListStatement() {
 
 void OpenItemList() { OpenRecordset(SlotC, ItemListStatement()); }
 
+bool RefreshItemList() {
+  RecordsetSlot list = FetchRecordset(ItemListStatement());
+  if (!list) return false;
+  SlotC = std::move(list);
+  return true;
+}
+
 void OpenScopedItemList(const std::string& supplier, const std::string& order) {
   OpenRecordset(SlotC, ScopedItemList(supplier, order));
 }

@@ -20,6 +20,9 @@ inline constexpr int KindId = 10;    ///< KD_ID
 std::string ItemListStatement();
 /// Reads it into `SlotC`.
 void OpenItemList();
+/// Reads it into `SlotC` again, for an item that has come into it. False when it could not be read:
+/// what `SlotC` held before then stands.
+bool RefreshItemList();
 
 /// Reads into `SlotC` the items that the store's order settings (SAFEIV) name for a supplier, in
 /// the order that the clause `order` asks for.

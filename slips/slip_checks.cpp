@@ -61,9 +61,9 @@ void TellNoLines() {
   Host.MsgBox("전표순번자료가 없습니다.                    ", box::Critical, "전표순번");
 }
 
-void TellSaveFailed() {
-  Host.MsgBox("저장이 실패하였습니다.\r\r MSG: " + LastErrorText, box::Question, "오류");
-}
+std::string SaveFailedText() { return "저장이 실패하였습니다.\r\r MSG: " + LastErrorText; }
+
+void TellSaveFailed() { Host.MsgBox(SaveFailedText(), box::Question, "오류"); }
 
 bool CheckLineDepot(const StringTable& lineValues, int number) {
   if (!Trim(lineValues.At(number, line::DepotCode)).empty()) return true;

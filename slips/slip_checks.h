@@ -28,7 +28,8 @@ void TellWrongPartner();
 /// No line could be made.
 void TellNoLines();
 /// The batch failed; with the server's words.
-void TellSaveFailed();
+std::string SaveFailedText();
+void TellSaveFailed();  ///< In a box.
 
 /// Whether a line got its depot; tells what is missing otherwise. A line behind the last of the
 /// table took nothing in, so it has no depot either.

@@ -168,7 +168,8 @@ void FormWindow::FocusMoved(QWidget& to, bool fromThisWindow) {
   const Binding* binding = BindingAt(to);
   if (binding == nullptr) return;
   const auto takeFocus = [&] { form_.TakeFocus(binding->Bound(), fromThisWindow); };
-  if (binding->Bound().GotFocus) {
+  const Control* leaves = form_.FocusedControl();
+  if (binding->Bound().GotFocus || (leaves != nullptr && leaves->LostFocus)) {
     Dispatch(takeFocus);
   } else {
     takeFocus();

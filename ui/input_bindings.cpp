@@ -6,11 +6,13 @@
 #include <QPlainTextEdit>
 #include <QRadioButton>
 #include <QSignalBlocker>
+#include <utility>
 
 #include "ui/binding.h"
 #include "ui/desk.h"
 #include "ui/form_window.h"
 #include "ui/qt_text.h"
+#include "ui/style.h"
 
 namespace store {
 namespace {
@@ -36,14 +38,22 @@ class TextBinding : public Binding {
   void FollowValue() override {
     // Setting the text drops what an input method is putting together, so only when it differs.
     if (seen_.Differs(box_.Text())) edit_.setText(ToQt(box_.Text()));
+    if (std::exchange(groundSeen_, box_.BackColor) != box_.BackColor) ShowGround();
     if (selectionSeen_ == box_.SelectionRevision()) return;
     selectionSeen_ = box_.SelectionRevision();
     if (box_.WantedSelection() == TextBox::Selection::All) edit_.selectAll();
     if (box_.WantedSelection() == TextBox::Selection::End) edit_.end(false);
   }
+  void ShowGround() {
+    edit_.setStyleSheet(
+        box_.BackColor < 0
+            ? QString()
+            : QStringLiteral("QLineEdit { background: %1; }").arg(Softened(box_.BackColor).name()));
+  }
   TextBox& box_;
   QLineEdit& edit_;
   SeenText seen_;
+  int groundSeen_ = -1;
   unsigned selectionSeen_;
 };
 

@@ -61,7 +61,10 @@ QWidget* LookupWindow::Tabs() {
 
 QWidget* LookupWindow::Foot() {
   auto* row = Row();
-  for (const char* further : {"Command2", "Command3", "Command4"}) {
+  // What is entered on head office's side stands without an action, and so without a key.
+  const QKeySequence entry = lookup_.Command2.Click ? Qt::Key_F2 : QKeySequence();
+  row->addWidget(Named("Command2", new KeyButton({}, entry)));
+  for (const char* further : {"Command3", "Command4"}) {
     row->addWidget(Named(further, new KeyButton));
   }
   row->addStretch();

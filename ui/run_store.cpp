@@ -9,6 +9,7 @@
 #include "board/frm_Start.h"
 #include "forms/host.h"
 #include "forms/open_forms.h"
+#include "lookup/NEW_PR.h"
 #include "order/order_form.h"
 #include "receipt/frm_PE_UNIT.h"
 #include "start/Main_Start.h"
@@ -73,6 +74,7 @@ void PrepareStore(QApplication& application) {
   OpenRealHost();
   RegisterStoreWindows();
   RegisterStartForms();
+  RegisterLookupForms();
   RegisterBoardForms();
   RegisterOrderForms();
   RegisterReceiptForms();

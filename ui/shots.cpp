@@ -289,6 +289,25 @@ void ShootLookups(Director& director) {
   ShootLookup<HELP_BPR>(director, "라");
 }
 
+/// Opened as a clerk does who does not find an item.
+void ShootNewProduct(Director& director) {
+  director.WhenShown("frm_Start", [](FormWindow&) {
+    HELP_BPR lookup;
+    Host.ShowModal(lookup);
+  });
+  director.WhenShown("HELP_BPR", [](FormWindow& window) { ClickOn(window, "Command2"); });
+  director.WhenShown("NEW_PR", [&](FormWindow& window) {
+    Type(window, "유자차 선물세트");
+    for (const char* text : {"500g*2", "", "8809990000011"}) {
+      Press(window, Qt::Key_Down);
+      Type(window, text);
+    }
+    director.Save(window, "new_product");
+    Press(window, Qt::Key_Escape);
+  });
+  director.WhenShown("HELP_BPR", [](FormWindow& window) { Press(window, Qt::Key_Escape); });
+}
+
 void ShootBox(Director& director, const QString& name, std::function<void()> show) {
   director.WhenShown("frm_Start", [show = std::move(show)](FormWindow&) { Dispatch(show); });
   director.When(
@@ -340,6 +359,7 @@ int main(int argc, char** argv) {
   store::ShootQuickPick(director);
   store::ShootStoredSlips(director);
   store::ShootLookups(director);
+  store::ShootNewProduct(director);
   store::ShootBoxes(director);
   director.When([] { return true; }, [] { QCoreApplication::exit(); });
   bool goesOn = false;

@@ -1,6 +1,7 @@
 #include "ui/store_windows.h"
 
 #include "board/frm_Start.h"
+#include "lookup/NEW_PR.h"
 #include "lookup/lookup_form.h"
 #include "order/frm_OrderPLU.h"
 #include "order/order_form.h"
@@ -11,6 +12,7 @@
 #include "ui/board_window.h"
 #include "ui/login_window.h"
 #include "ui/lookup_window.h"
+#include "ui/new_product_window.h"
 #include "ui/options_window.h"
 #include "ui/order_window.h"
 #include "ui/quick_pick_window.h"
@@ -30,6 +32,7 @@ void RegisterStoreWindows() {
     RegisterWindow(order, MakerOf<OrderWindow, OrderForm>());
   }
   RegisterWindow("frm_OrderPLU", MakerOf<QuickPickWindow, frm_OrderPLU>());
+  RegisterWindow("NEW_PR", MakerOf<NewProductWindow, NEW_PR>());
   for (const char* lookup :
        {"HELP_CT", "HELP_RCT", "HELP_HCT", "HELP_ST", "HELP_CTM", "HELP_BPR"}) {
     RegisterWindow(lookup, MakerOf<LookupWindow, LookupForm>());

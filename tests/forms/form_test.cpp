@@ -60,6 +60,31 @@ TEST_F(FormTest, TabSkipsWhatCannotTakeTheFocusAndGoesRound) {
   EXPECT_NE(sheet.FocusRevision(), before);
 }
 
+TEST_F(FormTest, WalksBackwardsToo) {
+  Sheet& sheet = Open();
+  sheet.FocusPrevious();
+  EXPECT_EQ(sheet.ActiveControl, &sheet.Third);
+  sheet.Second.Enabled = false;
+  sheet.FocusPrevious();
+  EXPECT_EQ(sheet.ActiveControl, &sheet.First);
+  sheet.FocusPrevious();
+  EXPECT_EQ(sheet.ActiveControl, &sheet.Third);
+}
+
+TEST_F(FormTest, TheControlThatLosesTheKeyboardIsToldBeforeTheOneThatGetsIt) {
+  Sheet& sheet = Open();
+  std::string told;
+  sheet.First.GotFocus = [&] { told += "first got,"; };
+  sheet.First.LostFocus = [&] { told += "first lost,"; };
+  sheet.Second.GotFocus = [&] { told += "second got,"; };
+  sheet.TakeFocus(sheet.First, true);
+  sheet.TakeFocus(sheet.First, false);  // back from a box
+  sheet.SetFocus(sheet.Second);         // the window follows later
+  EXPECT_EQ(told, "first got,");
+  sheet.TakeFocus(sheet.Second, false);  // from the box behind which the form asked for it
+  EXPECT_EQ(told, "first got,first lost,second got,");
+}
+
 TEST_F(FormTest, AKeyGoesToTheFormAndThenToItsControlUnlessTheFormHasUsedItUp) {
   Sheet& sheet = Open();
   std::vector<Key> seen;

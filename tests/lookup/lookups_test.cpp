@@ -1,6 +1,5 @@
 #include "basics/records.h"
 #include "forms/host.h"
-#include "forms/open_forms.h"
 #include "lookup/HELP_BPR.h"
 #include "lookup/party_lookups.h"
 #include "tests/support/small_store_test.h"
@@ -221,15 +220,6 @@ TEST_F(Lookups, DepotsComeWithTheWindow) {
   });
   Host.ShowModal(form);
   EXPECT_EQ(Results(form), (Texts{"100102", "창고", "", ""}));
-}
-
-TEST_F(Lookups, ANewProductIsRegisteredInItsOwnWindow) {
-  HELP_BPR form;
-  form.Command2.Click();  // nothing happens as long as no such window is known
-  RegisterForm("NEW_PR", [] { return std::make_unique<Form>("NEW_PR"); });
-  host.OnModal("NEW_PR");
-  form.Command2.Click();
-  EXPECT_EQ(host.FormsShown, (Texts{"NEW_PR"}));
 }
 
 }  // namespace

@@ -3,8 +3,11 @@
 #include <QLabel>
 #include <QtTest>
 
+#include "basics/records.h"
 #include "board/frm_Start.h"
+#include "forms/host.h"
 #include "lookup/HELP_BPR.h"
+#include "lookup/NEW_PR.h"
 #include "lookup/party_lookups.h"
 #include "order/frm_Order.h"
 #include "order/frm_Order01.h"
@@ -15,6 +18,7 @@
 #include "start/frmOptions.h"
 #include "start/frmSplash.h"
 #include "tests/ui/probe_form.h"
+#include "ui/desk.h"
 #include "ui/history_chart_view.h"
 #include "ui/store_windows.h"
 #include "ui/style.h"
@@ -45,6 +49,7 @@ TEST_F(WindowsTest, EveryControlThatAFormPublishesHasItsWidget) {
   forms.push_back(std::make_unique<HELP_CT>());
   forms.push_back(std::make_unique<HELP_HCT>());
   forms.push_back(std::make_unique<HELP_BPR>());
+  forms.push_back(std::make_unique<NEW_PR>());
   for (const auto& form : forms) {
     const std::unique_ptr<FormWindow> window(MakeWindow(*form));
     ASSERT_NE(window, nullptr) << form->Name;
@@ -61,6 +66,41 @@ TEST_F(WindowsTest, APasswordShowsAStarForEachLetter) {
   QTest::keyClicks(password, "1111");
   EXPECT_EQ(password->displayText(), "****");
   EXPECT_EQ(login.txtPassword.Text(), "1111");
+}
+
+TEST_F(WindowsTest, TheFieldInHandIsTheColouredOne) {
+  BaseSettings.ProductCodeLength = 5;
+  NEW_PR product;
+  product.SuggestedName = "보리차";
+  Host.Show(product);
+  FormWindow* window = TheDesk().WindowOf(product);
+  ASSERT_TRUE(QTest::qWaitForWindowActive(window));
+  ASSERT_TRUE(QTest::qWaitFor([&] { return window->HasBegun(); }));
+  // The names of the fields that are drawn in the colour.
+  const auto coloured = [&] {
+    QString names;
+    for (auto* field : window->findChildren<QLineEdit*>()) {
+      const QImage picture = field->grab().toImage();
+      const QColor ground = picture.pixelColor(picture.width() - 6, picture.height() / 2);
+      if (ground == Softened(0xFFC080)) names += field->objectName();
+    }
+    return names;
+  };
+  const auto press = [&](Qt::Key key) { QTest::keyClick(window->focusWidget(), key); };
+  EXPECT_EQ(coloured(), "txBox_0");
+  press(Qt::Key_Down);
+  EXPECT_EQ(coloured(), "txBox_1");
+  EXPECT_EQ(Find<QLineEdit>(*window, "txBox_1").selectedText(), "보리차");
+  WhenModal([](QWidget& box) { QTest::keyClick(&box, Qt::Key_Escape); });
+  press(Qt::Key_F9);
+  ASSERT_TRUE(QTest::qWaitForWindowActive(window));
+  EXPECT_EQ(coloured(), "txBox_0") << "the box goes back to the field that is wrong";
+  press(Qt::Key_Up);
+  EXPECT_EQ(window->focusWidget()->objectName(), "Command1_1");
+  EXPECT_EQ(coloured(), "");
+  press(Qt::Key_Enter);
+  EXPECT_TRUE(product.IsClosed());
+  ResetRecords();
 }
 
 TEST_F(WindowsTest, EachValueOfAPartnerStandsBesideItsCaption) {
