@@ -6,6 +6,7 @@
 #include "board/frm_Start.h"
 #include "lookup/HELP_BPR.h"
 #include "lookup/party_lookups.h"
+#include "order/frm_OrderPLU.h"
 #include "order/order_form.h"
 #include "receipt/frm_PE_UNIT.h"
 #include "start/frmLogin.h"
@@ -35,6 +36,7 @@ TEST_F(WindowsTest, EveryControlThatAFormPublishesHasItsWidget) {
   forms.push_back(std::make_unique<frmOptions>());
   forms.push_back(std::make_unique<frm_Start>());
   forms.push_back(std::make_unique<OrderForm>(BasicOrderType()));
+  forms.push_back(std::make_unique<frm_OrderPLU>());
   forms.push_back(std::make_unique<frm_PE_UNIT>());
   forms.push_back(std::make_unique<HELP_CT>());
   forms.push_back(std::make_unique<HELP_HCT>());
