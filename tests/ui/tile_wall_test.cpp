@@ -97,7 +97,8 @@ TEST_F(TileWallTest, ATileIsForAFingerAndTheWallForAnySize) {
   for (const int width : {500, 1001}) {
     wall_.resize(width, 300);
     QCoreApplication::processEvents();
-    EXPECT_EQ(wall_.TileAt(0, 4).right(), wall_.viewport()->rect().right());
+    const int left = wall_.viewport()->rect().right() - wall_.TileAt(0, 4).right();
+    EXPECT_TRUE(left >= 0 && left < 5) << left;
     EXPECT_LT(wall_.TileAt(0, 0).right(), wall_.TileAt(0, 1).left());
   }
 }
