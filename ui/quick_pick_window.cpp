@@ -2,6 +2,7 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QScreen>
 #include <QSplitter>
 #include <QVBoxLayout>
 
@@ -34,7 +35,7 @@ QuickPickWindow::QuickPickWindow(frm_OrderPLU& form) : FormWindow(form), panel_(
   content->addWidget(Foot());
   FillWindow(*this, content);
   BindControls();
-  resize(kSize);
+  resize(kSize.boundedTo(screen()->availableSize()));
 }
 
 QWidget* QuickPickWindow::Categories() {

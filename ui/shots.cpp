@@ -17,7 +17,6 @@
 #include "board/frm_Start.h"
 #include "forms/host.h"
 #include "forms/open_forms.h"
-#include "gateway/gateway.h"
 #include "lookup/HELP_BPR.h"
 #include "lookup/party_lookups.h"
 #include "order/frm_OrderPLU.h"
@@ -184,10 +183,14 @@ void ShootBoard(Director& director) {
   });
 }
 
-void FillOrder(FormWindow& window) {
-  // A supplier that the store has ordered from.
+/// One that the store has ordered from.
+void ChooseSupplier(FormWindow& window) {
   Type(window, ToQt(Board().FLEX1.TextMatrix(1, 2)));
   Press(window, Qt::Key_Enter);
+}
+
+void FillOrder(FormWindow& window) {
+  ChooseSupplier(window);
   GoTo(window, "PRHELP", 0, 0);
   Press(window, Qt::Key_Enter);
   GoTo(window, "FLEX2", 0, 8);
@@ -214,8 +217,10 @@ void ShootNewOrder(Director& director) {
 
 void ShootQuickPick(Director& director) {
   director.WhenShown("frm_Start", [](FormWindow& window) { Press(window, Qt::Key_F2); });
-  director.WhenShown("frm_Order", [](FormWindow&) {
-    SetFilter(SlotC, " PR_NAME  LIKE '%라면%'");
+  director.WhenShown("frm_Order", [](FormWindow& window) {
+    ChooseSupplier(window);
+    Type(window, ",라면");
+    Press(window, Qt::Key_Enter);
     auto& panel = dynamic_cast<frm_OrderPLU&>(*TheForm("frm_OrderPLU"));
     panel.ListMode = panel.Reload = -1;
     Dispatch([&panel] { Host.ShowModal(panel); });
