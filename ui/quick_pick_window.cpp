@@ -58,7 +58,10 @@ QWidget* QuickPickWindow::CategoryList(int level) {
 
 QWidget* QuickPickWindow::Tiles() {
   auto* wall = Named("PRHELP_0", new TileWall(panel_.PRHELP[0], kTileMarker));
-  wall->SetPlaceholder("소분류를 고르면 그 품목이 여기에 나옵니다.");
+  AlsoSync([this, wall] {
+    wall->SetPlaceholder(panel_.BranchOf[0].empty() ? "소분류를 고르면 그 품목이 여기에 나옵니다."
+                                                    : "이 소분류에는 품목이 없습니다.");
+  });
   return Titled(Heading("품목", 0), wall);
 }
 
