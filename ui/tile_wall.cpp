@@ -1,5 +1,6 @@
 #include "ui/tile_wall.h"
 
+#include <QApplication>
 #include <QHelpEvent>
 #include <QPainter>
 #include <QScrollBar>
