@@ -28,7 +28,9 @@ void Grid::SetRows(int rows) {
   rows_.resize(static_cast<size_t>(rows));
   for (size_t r = before; r < rows_.size(); ++r) rows_[r].cells.resize(columns_.size());
   ++revision_;
-  if (row_ >= rows) Select(0, col_);
+  if (row_ < rows || row_ == 0) return;
+  row_ = 0;
+  if (RowColChange) RowColChange();
 }
 
 bool Grid::Inside(int row, int col) const {

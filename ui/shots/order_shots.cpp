@@ -3,11 +3,8 @@
 #include <QDateEdit>
 
 #include "basics/records.h"
-#include "forms/host.h"
 #include "forms/open_forms.h"
-#include "order/frm_OrderPLU.h"
 #include "slips/item_list.h"
-#include "ui/desk.h"
 #include "ui/qt_text.h"
 
 namespace store {
@@ -152,9 +149,7 @@ void ShootQuickPick(Director& director) {
     ChooseSupplier(window);
     Type(window, ",라면");
     Press(window, Qt::Key_Enter);
-    auto& panel = dynamic_cast<frm_OrderPLU&>(*TheForm("frm_OrderPLU"));
-    panel.ListMode = panel.Reload = -1;
-    Dispatch([&panel] { Host.ShowModal(panel); });
+    Press(window, Qt::Key_F1, Qt::ShiftModifier);
   });
   director.WhenShown("frm_OrderPLU", [&](FormWindow& window) {
     director.Fit(window);
