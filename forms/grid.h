@@ -77,7 +77,7 @@ class Grid : public Control {
   void SetRowsMadeLater(int count, RowMaker make);
 
   /// Adds a row of tab-joined cells, at the end or before row `index`. Surplus cells are dropped.
-  void AddItem(std::string_view tabJoined, int index = -1);
+  void AddItem(std::string tabJoined, int index = -1);
   void RemoveItem(int row);
 
   /// The column into which typing goes: the current one if a text can be typed there, else the
@@ -109,16 +109,17 @@ class Grid : public Control {
 
  private:
   struct GridRow {
-    std::vector<std::string> cells;
-    std::vector<CellLook> looks;  // empty as long as no cell of the row looks special
+    std::vector<std::string> cells;  // empty until one of them is looked at
+    std::string joined;              // what they are made of, parted by tabs
+    std::vector<CellLook> looks;     // empty as long as no cell of the row looks special
     bool hidden = false;
-    int later = -1;  // its number for `maker_` while its cells are not made
+    int later = -1;  // its number for `maker_`, when that makes them
   };
   bool Inside(int row, int col) const;
   std::vector<std::string>& Cells(int row) const;
 
   std::vector<GridColumn> columns_;
-  mutable std::vector<GridRow> rows_;  // cells that are made later come with the first look
+  mutable std::vector<GridRow> rows_;  // their cells come with the first look
   RowMaker maker_;
   int fixedRows_ = 1;
   int row_ = 0;
