@@ -17,6 +17,7 @@ void BenchSmallRead(RatioTable& table);
 // At the real windows; these need `PrepareDesk`.
 void BenchBoard(BenchServer& server, RatioTable& table);
 void BenchPickList(RatioTable& table);
+void BenchTileWall(RatioTable& table);
 void BenchScan(BenchServer& server, RatioTable& table);
 void BenchKeyPress(RatioTable& table);
 void BenchExport(BenchServer& server, RatioTable& table);

@@ -61,6 +61,12 @@ void PaintWatch::WaitForPaint() {
   painted_ = false;
 }
 
+void PaintWatch::Settle() {
+  // Work that a drawing has put off comes after it.
+  for (int round = 0; round < 10; ++round) QCoreApplication::processEvents();
+  painted_ = false;
+}
+
 DeskHand::DeskHand(const std::string& formName, const QString& gridName)
     : window_(Opened(formName)), area_(AreaOf(window_, gridName)), watch_(area_) {
   // The work of the opening comes after the first drawing.

@@ -17,6 +17,9 @@ class PaintWatch : public QObject {
   explicit PaintWatch(QWidget& watched);
   /// Lets window events run until the widget has been drawn. One that never is ends the run.
   void WaitForPaint();
+  /// Lets what is still to be drawn be drawn and forgets it, so that the next wait is for what
+  /// comes then.
+  void Settle();
 
  private:
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -34,6 +37,7 @@ class DeskHand {
   void Scan(const std::string& text);
   /// Waits until the grid shows what has changed.
   void Draw() { watch_.WaitForPaint(); }
+  void Settle() { watch_.Settle(); }
   QWidget& GridArea() const { return area_; }
 
  private:

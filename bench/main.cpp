@@ -24,6 +24,7 @@ void BenchWindows(BenchServer& server, RatioTable& table) {
   BenchScan(server, table);
   BenchKeyPress(table);
   BenchPickList(table);
+  BenchTileWall(table);
   BenchExport(server, table);
   BenchBoard(server, table);
 }

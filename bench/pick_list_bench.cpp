@@ -25,7 +25,10 @@ class PeerTable {
     table_.show();
     watch_.WaitForPaint();
   }
-  void Empty() { table_.setRowCount(0); }
+  void Empty() {
+    table_.setRowCount(0);
+    watch_.Settle();
+  }
   void FillAndDraw() {
     table_.setRowCount(RecordCountOf(SlotC));
     int row = 0;
@@ -61,6 +64,7 @@ void BenchPickList(RatioTable& table) {
   Duel best{1e9, 1e9};
   for (int round = 0; round < kRounds; ++round) {
     peer.Empty();
+    hand.Settle();
     const Duel duel = MeasureBoth(
         1,
         [&] {

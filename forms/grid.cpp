@@ -41,7 +41,9 @@ void Grid::SetRows(int rows) {
   if (rows < 0) return;
   rows_.resize(static_cast<size_t>(rows));
   ++revision_;
-  if (row_ >= rows) Select(0, col_);
+  if (row_ < rows || row_ == 0) return;
+  row_ = 0;
+  if (RowColChange) RowColChange();
 }
 
 bool Grid::Inside(int row, int col) const {

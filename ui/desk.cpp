@@ -61,6 +61,20 @@ void Desk::SyncWindows() {
   syncing_ = false;
 }
 
+void Desk::LetWindowsPaint() {
+  SyncWindows();
+  ++painting_;
+  QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+  if (--painting_ > 0) return;
+  for (const auto& work : std::exchange(afterPainting_, {})) work();
+}
+
+bool Desk::WaitsForPainting(std::function<void()> work) {
+  if (painting_ == 0) return false;
+  afterPainting_.push_back(std::move(work));
+  return true;
+}
+
 void Desk::FreeClosed() {
   if (depth_ > 0) return;
   if (ending_) {

@@ -29,6 +29,12 @@ class Desk : public QObject {
   /// For the places where a running event lets a person look: before a box, a modal window, a
   /// round of pending events.
   void SyncWindows();
+  /// Lets the windows paint in the middle of an event. What a person types or clicks meanwhile
+  /// waits, and so does the work of windows that come to the front: it may need the very data that
+  /// the running event is walking through.
+  void LetWindowsPaint();
+  /// Keeps `work` back while the windows paint. False when they do not, and it may run at once.
+  bool WaitsForPainting(std::function<void()> work);
 
   /// The doors of `Host`.
   void Show(Form& form);
@@ -66,6 +72,8 @@ class Desk : public QObject {
 
   std::vector<FormWindow*> open_;
   std::vector<FormWindow*> leaving_;  // closed, but a handler of theirs may still be running
+  std::vector<std::function<void()>> afterPainting_;
+  int painting_ = 0;
   int depth_ = 0;
   int boxes_ = 0;
   bool syncing_ = false;

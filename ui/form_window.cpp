@@ -239,6 +239,10 @@ void FormWindow::QueueActivate() {
   QTimer::singleShot(0, this, [this] {
     if (gone_) return;
     const QPointer<FormWindow> here(this);
+    const auto again = [here] {
+      if (here != nullptr) here->QueueActivate();
+    };
+    if (TheDesk().WaitsForPainting(again)) return;
     Dispatch([this] { form_.Activate(); });
     if (here != nullptr) begun_ = true;
   });

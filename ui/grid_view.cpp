@@ -158,7 +158,9 @@ ColumnWish GridView::WishOf(int column) const {
   const auto dragged = widths_.find(column);
   if (dragged != widths_.end()) return {dragged->second, kNarrowest, kNarrowest};
   const auto measured = needs_.find(column);
-  const int need = std::max(least, measured == needs_.end() ? 0 : measured->second.Width);
+  // The header itself lets no column be narrower than a tick box.
+  const int need = std::max({least, horizontalHeader()->minimumSectionSize(),
+                             measured == needs_.end() ? 0 : measured->second.Width});
   // A name can be cut and still be known; a figure, a date or a code cannot.
   const bool isName = asked.Alignment == Align::Left && need > kLongestCode;
   return {std::max(1.0, static_cast<double>(asked.Width)), isName ? least : need,

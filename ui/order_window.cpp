@@ -38,7 +38,7 @@ OrderWindow::OrderWindow(OrderForm& form) : FormWindow(form), order_(form) {
   auto* halves = new QSplitter(Qt::Horizontal);
   halves->addWidget(Lines());
   halves->addWidget(choice);
-  halves->setSizes({520, 480});
+  halves->setSizes({500, 508});
   for (QSplitter* splitter : {choice, halves}) splitter->setChildrenCollapsible(false);
 
   auto* content = Column();
@@ -104,8 +104,11 @@ QWidget* OrderWindow::ItemBox() {
   box->setPlaceholderText("바코드 / 수량     ,품명     .규격");
   auto* row = Row();
   row->setContentsMargins(0, 0, 0, 0);
-  row->addWidget(box, 1);
-  row->addWidget(warning, 1);
+  row->addWidget(box, 3);
+  row->addWidget(Named("Image5", new KeyButton("빠른선택", QKeySequence(Qt::SHIFT | Qt::Key_F1))));
+  row->addWidget(
+      Named("Command2", new KeyButton("빠른선택 보기", QKeySequence(Qt::CTRL | Qt::Key_F1))));
+  row->addWidget(warning, 4);
   auto* line = new QWidget;
   line->setLayout(row);
   return line;
@@ -135,14 +138,10 @@ QWidget* OrderWindow::PickList() {
 
 QLayout* OrderWindow::Transfers() {
   auto* row = Row();
-  const auto add = [row](const char* name, const char* text, const QKeySequence& keys) {
-    row->addWidget(Named(name, new KeyButton(text, keys)));
-  };
-  add("Image1_0", "발주량발주", Qt::Key_F11);
-  add("Image1_1", "부족재고발주", QKeySequence(Qt::SHIFT | Qt::Key_F11));
+  row->addWidget(Named("Image1_0", new KeyButton("발주량발주", Qt::Key_F11)));
+  row->addWidget(
+      Named("Image1_1", new KeyButton("부족재고발주", QKeySequence(Qt::SHIFT | Qt::Key_F11))));
   row->addStretch();
-  add("Image5", "빠른선택", QKeySequence(Qt::SHIFT | Qt::Key_F1));
-  add("Command2", "빠른선택 보기", QKeySequence(Qt::CTRL | Qt::Key_F1));
   return row;
 }
 

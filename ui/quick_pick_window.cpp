@@ -2,6 +2,7 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QScreen>
 #include <QSplitter>
 #include <QVBoxLayout>
 
@@ -34,7 +35,7 @@ QuickPickWindow::QuickPickWindow(frm_OrderPLU& form) : FormWindow(form), panel_(
   content->addWidget(Foot());
   FillWindow(*this, content);
   BindControls();
-  resize(kSize);
+  resize(kSize.boundedTo(screen()->availableSize()));
 }
 
 QWidget* QuickPickWindow::Categories() {
@@ -57,7 +58,10 @@ QWidget* QuickPickWindow::CategoryList(int level) {
 
 QWidget* QuickPickWindow::Tiles() {
   auto* wall = Named("PRHELP_0", new TileWall(panel_.PRHELP[0], kTileMarker));
-  wall->SetPlaceholder("소분류를 고르면 그 품목이 여기에 나옵니다.");
+  AlsoSync([this, wall] {
+    wall->SetPlaceholder(panel_.BranchOf[0].empty() ? "소분류를 고르면 그 품목이 여기에 나옵니다."
+                                                    : "이 소분류에는 품목이 없습니다.");
+  });
   return Titled(Heading("품목", 0), wall);
 }
 

@@ -32,12 +32,6 @@ void SetPointer(int pointer) {
   if (pointer == PointerArrowHourglass) QGuiApplication::setOverrideCursor(Qt::BusyCursor);
 }
 
-// What a person types or clicks meanwhile waits: a running event must not be overtaken by the next.
-void LetEventsRun() {
-  TheDesk().SyncWindows();
-  QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
-}
-
 ClockTime Now() {
   const QDateTime now = QDateTime::currentDateTime();
   const QDate day = now.date();
@@ -85,7 +79,7 @@ void OpenWorkstation() {
   Host.ScreenSize = ScreenSize;
   Host.SetPointer = SetPointer;
   Host.Beep = [] { QApplication::beep(); };
-  Host.DoEvents = LetEventsRun;
+  Host.DoEvents = [] { TheDesk().LetWindowsPaint(); };
   Host.Now = Now;
   Host.Sleep = [](int milliseconds) {
     QThread::msleep(static_cast<unsigned long>(std::max(0, milliseconds)));

@@ -1,5 +1,6 @@
 #include "ui/tile_wall.h"
 
+#include <QApplication>
 #include <QHelpEvent>
 #include <QPainter>
 #include <QScrollBar>
@@ -52,6 +53,13 @@ QStringList NameLines(const QFontMetrics& metrics, const QString& name, int widt
   }
   const QString rest = metrics.elidedText(name.mid(part).trimmed(), Qt::ElideRight, width);
   return part == 0 ? QStringList{rest} : QStringList{name.left(part), rest};
+}
+
+void PaintGround(QPainter& painter, const QRect& room, QRgb ground, QRgb edge, double width) {
+  const double inset = width / 2;
+  painter.setPen(QPen(QColor(edge), width));
+  painter.setBrush(QColor(ground));
+  painter.drawRoundedRect(QRectF(room).adjusted(inset, inset, -inset, -inset), kCorner, kCorner);
 }
 
 }  // namespace
@@ -121,18 +129,19 @@ void TileWall::scrollContentsBy(int /*dx*/, int /*dy*/) {
 
 // --- places
 
+// All tiles are of one size; the few pixels that are over stay free at the right.
+int TileWall::ColumnWidth() const {
+  return std::max(kGap + 1, (viewport()->width() + kGap) / tiles_.Cols());
+}
+
 QRect TileWall::TileAt(int row, int column) const {
-  const int columns = tiles_.Cols();
-  const int width = viewport()->width() + kGap;  // no gap behind the last tile of a row
-  const int left = width * column / columns;
-  const int right = width * (column + 1) / columns;
   const int top = row * tileHeight_ - verticalScrollBar()->value();
-  return {left, top, right - left - kGap, tileHeight_ - kGap};
+  return {column * ColumnWidth(), top, ColumnWidth() - kGap, tileHeight_ - kGap};
 }
 
 std::optional<TileWall::Cell> TileWall::CellAt(const QPoint& point) const {
   const int row = (point.y() + verticalScrollBar()->value()) / tileHeight_;
-  const int column = point.x() * tiles_.Cols() / (viewport()->width() + kGap);
+  const int column = point.x() / ColumnWidth();
   if (point.y() < 0 || point.x() < 0 || row >= tiles_.Rows() || column >= tiles_.Cols()) return {};
   return Cell{row, column};
 }
@@ -275,24 +284,33 @@ void TileWall::paintEvent(QPaintEvent* event) {
   }
 }
 
-void TileWall::PaintTile(QPainter& painter, const Cell& cell) const {
+void TileWall::PaintTile(QPainter& painter, const Cell& cell) {
   const bool current = cell == Current();
   const QStringList lines = SeenLines(cell);
   if (lines.isEmpty() && !current) return;
-  QColor ground(look::Paper);
-  QColor edge(look::Line);
-  if (cell == pointed_) edge = QColor(look::Accent);
-  if (current) {
-    ground = QColor(hasFocus() ? look::CurrentRow : look::RestingRow);
-    edge = QColor(hasFocus() ? look::Accent : look::Muted);
-  }
-  const double width = current && hasFocus() ? 2 : 1;
   const QRect room = TileAt(cell.Row, cell.Column);
-  const double inset = width / 2;
-  painter.setPen(QPen(edge, width));
-  painter.setBrush(ground);
-  painter.drawRoundedRect(QRectF(room).adjusted(inset, inset, -inset, -inset), kCorner, kCorner);
+  if (current) {
+    PaintGround(painter, room, hasFocus() ? look::CurrentRow : look::RestingRow,
+                hasFocus() ? look::Accent : look::Muted, hasFocus() ? 2 : 1);
+  } else if (cell == pointed_) {
+    PaintGround(painter, room, look::Paper, look::Accent, 1);
+  } else {
+    painter.drawPixmap(room.topLeft(), PlainGround(room.size()));
+  }
   PaintText(painter, room.adjusted(kPadding, kPadding, -kPadding, -kPadding), lines);
+}
+
+// Round corners take half as long to draw as a tile's texts, and nearly all tiles look alike.
+const QPixmap& TileWall::PlainGround(const QSize& size) {
+  const qreal ratio = devicePixelRatioF();
+  if (plainGround_.size() == size * ratio) return plainGround_;
+  plainGround_ = QPixmap(size * ratio);
+  plainGround_.setDevicePixelRatio(ratio);
+  plainGround_.fill(look::Window);
+  QPainter painter(&plainGround_);
+  painter.setRenderHint(QPainter::Antialiasing);
+  PaintGround(painter, QRect({0, 0}, size), look::Paper, look::Line, 1);
+  return plainGround_;
 }
 
 void TileWall::PaintText(QPainter& painter, const QRect& room, const QStringList& lines) const {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAbstractScrollArea>
+#include <QPixmap>
 #include <optional>
 #include <string>
 
@@ -47,6 +48,7 @@ class TileWall : public QAbstractScrollArea {
     int Column;
     bool operator==(const Cell&) const = default;
   };
+  int ColumnWidth() const;
   std::optional<Cell> CellAt(const QPoint& point) const;
   std::optional<Cell> TargetOf(const QKeyEvent& event) const;
   Cell LastTileBefore(int place) const;
@@ -57,7 +59,8 @@ class TileWall : public QAbstractScrollArea {
   void MeasureRange();
   void FollowTopRow();
   void BringIntoView(const Cell& cell);
-  void PaintTile(QPainter& painter, const Cell& cell) const;
+  void PaintTile(QPainter& painter, const Cell& cell);
+  const QPixmap& PlainGround(const QSize& size);
   void PaintText(QPainter& painter, const QRect& room, const QStringList& lines) const;
   void ShowTip(const QPoint& at, const QPoint& globalAt);
 
@@ -67,6 +70,7 @@ class TileWall : public QAbstractScrollArea {
   const QFont nameFont_;
   const QFont detailFont_;
   const int tileHeight_;
+  QPixmap plainGround_;          // of a tile that is neither current nor pointed at
   std::optional<Cell> pointed_;  // the cell under the pointer
   Cell shownCurrent_{0, 0};
   unsigned seen_ = 0;

@@ -44,6 +44,12 @@ TEST_F(GridTest, ForgetsTheCurrentRowWhenItIsCutOff) {
   grid.SetRows(1);
   EXPECT_EQ(grid.Row(), 0);
   EXPECT_EQ(grid.Rows(), 1);
+  Grid without;  // a header
+  without.SetColumns({{}, {}}, 0);
+  without.SetRows(3);
+  without.Select(2, 1);
+  without.SetRows(0);
+  EXPECT_EQ(without.Row(), 0);
 }
 
 TEST_F(GridTest, TellsOnlyRealMovesOfTheCurrentCell) {

@@ -7,16 +7,6 @@ namespace {
 
 class HistoryChart : public OrderDesk {
  protected:
-  void Sale(int daysBack, const std::string& product, const std::string& quantity) {
-    const std::string day = FormatDateValue(AddDays(Today(), -daysBack), "YYYYMMDD");
-    const std::string id = day + "1001u0113" + std::to_string(1000 + ++sales_);
-    Sql(
-        Splice("INSERT INTO PES13 (PE_ID,PE_CK,PE_PDATE,PE_SDATE,PE_FCTCODE,PE_TCTCODE) VALUES "
-               "('{id}','1','2024-01-01',NOW(),'1001','x');"
-               "INSERT INTO PSS13 (PE_ID,PS_NO,PS_DATE,PR_CODE,PS_SQTY) VALUES "
-               "('{id}',1,'2024-01-01','{product}',{quantity})",
-               "id"_a = id, "product"_a = product, "quantity"_a = quantity));
-  }
   /// Quantity of a day, and how many cells of its bar are left unpainted.
   std::string Day(int back) {
     const Grid& chart = Order().PRGHP;
@@ -24,7 +14,6 @@ class HistoryChart : public OrderDesk {
     for (int row = 6; row <= 15; ++row) bar += chart.Look(row, back).BackColor == 0xFFFFFF ? 0 : 1;
     return chart.TextMatrix(4, back) + ":" + std::to_string(bar);
   }
-  int sales_ = 0;
 };
 
 TEST_F(HistoryChart, ShowsEachOfThe31DaysByNumberAndBar) {

@@ -30,6 +30,11 @@ class OrderDesk : public SlipDesk {
   void Enter(const std::string& text);
   /// Lines as "code x quantity", top row first.
   std::string Lines();
+  /// The store has sold of an item, so many days before today.
+  void Sale(int daysBack, const std::string& product, const std::string& quantity);
+
+ private:
+  int sales_ = 0;
 };
 
 }  // namespace store

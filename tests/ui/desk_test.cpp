@@ -77,6 +77,23 @@ TEST_F(DeskTest, AModalFormThatHidesGivesControlBackAndComesAgainAsItWas) {
   EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
 }
 
+// What comes to the front while a long step lets the windows paint may read into the slot that the
+// step is walking through.
+TEST_F(DeskTest, AWindowThatComesForwardInALongStepWaitsForItsEnd) {
+  ProbeForm first;
+  ProbeForm second("Second");
+  Open(second);
+  FormWindow& window = Open(first);
+  const long before = Activations(second);
+  Dispatch([&] {
+    TheDesk().WindowOf(second)->activateWindow();
+    for (int i = 0; i < 20; ++i) Host.DoEvents();
+    EXPECT_EQ(Activations(second), before);
+  });
+  EXPECT_TRUE(QTest::qWaitFor([&] { return Activations(second) == before + 1; }));
+  EXPECT_FALSE(window.isActiveWindow());
+}
+
 // A form on its caller's stack is gone when the program ends under it; its window must go with it.
 TEST_F(DeskTest, AModalFormUnderWhichTheProgramEndsLeavesNoWindow) {
   WhenModal([](QWidget&) { QApplication::exit(); });

@@ -13,6 +13,7 @@
 #include "order/frm_Order01.h"
 #include "order/frm_Order02.h"
 #include "order/frm_Order03.h"
+#include "order/frm_OrderPLU.h"
 #include "receipt/frm_PE_UNIT.h"
 #include "start/frmLogin.h"
 #include "start/frmOptions.h"
@@ -45,6 +46,7 @@ TEST_F(WindowsTest, EveryControlThatAFormPublishesHasItsWidget) {
   forms.push_back(std::make_unique<frm_Order01>());
   forms.push_back(std::make_unique<frm_Order02>());
   forms.push_back(std::make_unique<frm_Order03>());
+  forms.push_back(std::make_unique<frm_OrderPLU>());
   forms.push_back(std::make_unique<frm_PE_UNIT>());
   forms.push_back(std::make_unique<HELP_CT>());
   forms.push_back(std::make_unique<HELP_HCT>());
