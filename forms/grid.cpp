@@ -79,9 +79,9 @@ void Grid::SetTextMatrix(int row, int col, std::string text) {
   ++revision_;
 }
 
-void Grid::AddItem(std::string tabJoined, int index) {
+void Grid::AddItem(std::string_view tabJoined, int index) {
   GridRow row;
-  row.joined = std::move(tabJoined);
+  row.joined = tabJoined;
   if (index < 0 || index > Rows()) {
     rows_.push_back(std::move(row));
   } else {

@@ -77,7 +77,7 @@ class Grid : public Control {
   void SetRowsMadeLater(int count, RowMaker make);
 
   /// Adds a row of tab-joined cells, at the end or before row `index`. Surplus cells are dropped.
-  void AddItem(std::string tabJoined, int index = -1);
+  void AddItem(std::string_view tabJoined, int index = -1);
   void RemoveItem(int row);
 
   /// The column into which typing goes: the current one if a text can be typed there, else the
