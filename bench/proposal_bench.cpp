@@ -14,7 +14,7 @@
 namespace store {
 namespace {
 
-constexpr int kRounds = 3;
+constexpr int kRounds = 2;
 constexpr int kDays = 90;  // the demo's sales go so far back
 
 /// A copy's key: the same date, store, user and kind, and a number that no slip of the demo has.
