@@ -14,6 +14,7 @@ void BenchFilters(RatioTable& table);
 void BenchGrowth(BenchServer& server, int items);
 void BenchPosting(BenchServer& server, RatioTable& table);
 void BenchSmallRead(RatioTable& table);
+void BenchWalk(RatioTable& table);
 // At the real windows; these need `PrepareDesk`.
 void BenchBoard(BenchServer& server, RatioTable& table);
 void BenchPickList(RatioTable& table);
@@ -21,6 +22,11 @@ void BenchTileWall(RatioTable& table);
 void BenchScan(BenchServer& server, RatioTable& table);
 void BenchKeyPress(RatioTable& table);
 void BenchExport(BenchServer& server, RatioTable& table);
+/// Adds so many lines to the store's sales.
+void BenchProposal(BenchServer& server, RatioTable& table, int saleLines);
+void BenchTransfer(BenchServer& server, RatioTable& table);
+/// Needs the database of 20,000 items that `BenchGrowth` leaves, and changes it.
+void BenchCategoryView(BenchServer& server, RatioTable& table);
 /// Needs the demo of 3,000 items to be loaded.
 void BenchStart(BenchServer& server, RatioTable& table);
 

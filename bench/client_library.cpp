@@ -5,10 +5,10 @@
 
 namespace store {
 
-ClientLibrary::ClientLibrary(int port) : client_(mysql_init(nullptr)) {
+ClientLibrary::ClientLibrary(int port, const std::string& database) : client_(mysql_init(nullptr)) {
   mysql_options(client_, MYSQL_SET_CHARSET_NAME, "utf8mb4");
-  if (mysql_real_connect(client_, "127.0.0.1", "kt", "qz4471", "demo", static_cast<unsigned>(port),
-                         nullptr, 0) == nullptr) {
+  if (mysql_real_connect(client_, "127.0.0.1", "kt", "qz4471", database.c_str(),
+                         static_cast<unsigned>(port), nullptr, 0) == nullptr) {
     std::fprintf(stderr, "store_bench: %s\n", mysql_error(client_));
     std::exit(2);
   }

@@ -5,12 +5,14 @@
 #include <string>
 #include <vector>
 
+#include "bench/bench_server.h"
+
 namespace store {
 
 /// One open connection of the C client library: the plainest road to the same server.
 class ClientLibrary {
  public:
-  explicit ClientLibrary(int port);
+  explicit ClientLibrary(int port, const std::string& database = kDemo);
   ~ClientLibrary();
   ClientLibrary(const ClientLibrary&) = delete;
   ClientLibrary& operator=(const ClientLibrary&) = delete;

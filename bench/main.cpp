@@ -19,14 +19,17 @@ void StartUp() {
   FormatSetup();
 }
 
-void BenchWindows(BenchServer& server, RatioTable& table) {
+void BenchWindows(BenchServer& server, RatioTable& table, int saleLines) {
   StartUp();
   BenchScan(server, table);
   BenchKeyPress(table);
   BenchPickList(table);
   BenchTileWall(table);
   BenchExport(server, table);
+  BenchTransfer(server, table);
+  BenchCategoryView(server, table);
   BenchBoard(server, table);
+  BenchProposal(server, table, saleLines);
 }
 
 }  // namespace
@@ -52,7 +55,8 @@ int main(int argc, char** argv) {
   ConnectTo(server.Port());
   BenchSmallRead(table);
   BenchPosting(server, table);
-  BenchWindows(server, table);
+  BenchWalk(table);
+  BenchWindows(server, table, quick ? 100000 : 1000000);
   server.Load(kDemo, 3000, 200);
   BenchStart(server, table);
   std::printf(table.AllMet() ? "all goals met\n" : "some goals missed\n");

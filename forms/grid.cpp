@@ -1,16 +1,31 @@
 #include "forms/grid.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace store {
+namespace {
+
+std::vector<std::string> Split(std::string_view tabJoined, size_t atMost) {
+  std::vector<std::string> cells;
+  cells.reserve(atMost);
+  while (cells.size() < atMost) {
+    const size_t tab = tabJoined.find('\t');
+    cells.emplace_back(tabJoined.substr(0, tab));
+    if (tab == std::string_view::npos) break;
+    tabJoined.remove_prefix(tab + 1);
+  }
+  return cells;
+}
+
+}  // namespace
 
 void Grid::SetColumns(std::vector<GridColumn> columns, int fixedRows) {
   columns_ = std::move(columns);
   fixedRows_ = fixedRows;
   rows_.assign(static_cast<size_t>(fixedRows), {});
-  for (GridRow& row : rows_) row.cells.resize(columns_.size());
   if (fixedRows > 0) {
-    for (size_t c = 0; c < columns_.size(); ++c) rows_[0].cells[c] = columns_[c].Header;
+    for (const GridColumn& column : columns_) rows_[0].cells.push_back(column.Header);
   }
   row_ = 0;
   col_ = 0;
@@ -24,9 +39,7 @@ GridColumn& Grid::Column(int col) {
 
 void Grid::SetRows(int rows) {
   if (rows < 0) return;
-  const size_t before = rows_.size();
   rows_.resize(static_cast<size_t>(rows));
-  for (size_t r = before; r < rows_.size(); ++r) rows_[r].cells.resize(columns_.size());
   ++revision_;
   if (row_ < rows || row_ == 0) return;
   row_ = 0;
@@ -46,10 +59,10 @@ void Grid::SetRowsMadeLater(int count, RowMaker make) {
 
 std::vector<std::string>& Grid::Cells(int row) const {
   GridRow& wanted = rows_[static_cast<size_t>(row)];
-  if (wanted.later >= 0) {
-    wanted.cells = maker_(wanted.later);
+  if (wanted.cells.empty()) {
+    wanted.cells = wanted.later >= 0 ? maker_(wanted.later)
+                                     : Split(std::exchange(wanted.joined, {}), columns_.size());
     wanted.cells.resize(columns_.size());
-    wanted.later = -1;
   }
   return wanted.cells;
 }
@@ -68,14 +81,7 @@ void Grid::SetTextMatrix(int row, int col, std::string text) {
 
 void Grid::AddItem(std::string_view tabJoined, int index) {
   GridRow row;
-  row.cells.reserve(columns_.size());
-  while (row.cells.size() < columns_.size()) {
-    const size_t tab = tabJoined.find('\t');
-    row.cells.emplace_back(tabJoined.substr(0, tab));
-    if (tab == std::string_view::npos) break;
-    tabJoined.remove_prefix(tab + 1);
-  }
-  row.cells.resize(columns_.size());
+  row.joined = tabJoined;
   if (index < 0 || index > Rows()) {
     rows_.push_back(std::move(row));
   } else {

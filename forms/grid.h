@@ -109,16 +109,17 @@ class Grid : public Control {
 
  private:
   struct GridRow {
-    std::vector<std::string> cells;
-    std::vector<CellLook> looks;  // empty as long as no cell of the row looks special
+    std::vector<std::string> cells;  // empty until one of them is looked at
+    std::string joined;              // what they are made of, parted by tabs
+    std::vector<CellLook> looks;     // empty as long as no cell of the row looks special
     bool hidden = false;
-    int later = -1;  // its number for `maker_` while its cells are not made
+    int later = -1;  // its number for `maker_`, when that makes them
   };
   bool Inside(int row, int col) const;
   std::vector<std::string>& Cells(int row) const;
 
   std::vector<GridColumn> columns_;
-  mutable std::vector<GridRow> rows_;  // cells that are made later come with the first look
+  mutable std::vector<GridRow> rows_;  // their cells come with the first look
   RowMaker maker_;
   int fixedRows_ = 1;
   int row_ = 0;

@@ -26,14 +26,18 @@ class DataTier {
                       const std::string& connectString) = 0;
 };
 
-/// Makes data objects by name and address.
+/// Makes data objects by name and address. A program that puts another maker into the gateway's
+/// `DataSpace` has its reads answered by its own data objects.
 class DataSpaceObject {
  public:
+  virtual ~DataSpaceObject() = default;
+
   /// `address` is "http://" and the business server's host. With an empty host no service stands
   /// between, and the object works in this process through ODBC; it answers to the name
   /// "TWMGR.DEMON" only. Nothing when no such object can be reached. The object of this process is
   /// one, with the one connection that it keeps, and goes with this maker.
-  std::shared_ptr<DataTier> CreateObject(const std::string& progId, const std::string& address);
+  virtual std::shared_ptr<DataTier> CreateObject(const std::string& progId,
+                                                 const std::string& address);
 
  private:
   std::shared_ptr<DataTier> direct_;

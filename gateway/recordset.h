@@ -39,6 +39,9 @@ class Recordset {
   /// of the read. Outside and NULL read as the empty text.
   std::string_view TextOfRow(std::uint32_t row, int field) const;
 
+  /// The current row's number for `TextOfRow`. There must be a current row.
+  std::uint32_t CurrentRow() const;
+
   void MoveFirst() { position_ = 0; }
   void MoveNext();
 
@@ -68,7 +71,6 @@ class Recordset {
   bool Parse(std::string_view criteria, std::vector<Condition>& conditions) const;
   void FindAll(const Condition& condition);
   int FieldNamed(std::string_view name) const;
-  std::uint32_t CurrentRow() const;
 
   std::vector<std::string> names_;
   std::vector<TextColumn> columns_;

@@ -11,6 +11,7 @@ namespace {
 
 constexpr int kUnit = 7;
 constexpr int kEntry = 8;
+constexpr int kGoodsUnit = 10;
 
 /// What the store may order from anybody, with its stock. An item without an order price cannot be
 /// ordered.
@@ -30,9 +31,13 @@ void ReadItems(ItemListMoment moment, const std::string& /*supplier*/) {
   if (moment == ItemListMoment::FormOpens) OpenRecordset(SlotC, StoreItemList());
 }
 
-std::string PickRow() {
-  return PickRowOfItem() + "\t" + ItemText(item02::Stock) + "\t" + ItemText(item02::Unit) +
-         "\t\t\t" + ItemText(item::Unit);
+std::vector<std::string> PickRow(const Recordset& items, std::uint32_t row) {
+  std::vector<std::string> cells = PickRowOfItem(items, row);
+  cells.emplace_back(items.TextOfRow(row, item02::Stock));
+  cells.emplace_back(items.TextOfRow(row, item02::Unit));
+  cells.resize(kGoodsUnit);
+  cells.emplace_back(items.TextOfRow(row, item::Unit));
+  return cells;
 }
 
 // Sizes are compared and nothing else: any quantity from the unit up will do.

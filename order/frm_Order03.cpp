@@ -34,8 +34,12 @@ std::string StateOf(int button) {
   return isStill ? StatePastConfirmation(button) : StateByButton(button);
 }
 
-std::string PickRow() {
-  return PickRowOfItem() + "\t" + ItemText(item03::Safety) + "\t\t\t" + ItemText(item03::Unit);
+std::vector<std::string> PickRow(const Recordset& items, std::uint32_t row) {
+  std::vector<std::string> cells = PickRowOfItem(items, row);
+  cells.resize(stock_view::Entry);
+  cells[stock_view::Safety] = items.TextOfRow(row, item03::Safety);
+  cells[stock_view::Unit] = items.TextOfRow(row, item03::Unit);
+  return cells;
 }
 
 // The length is looked at in the shortage's column and not in the entry's. Nor is an entry held
@@ -88,7 +92,7 @@ frm_Order03::frm_Order03()
       KindPane(static_cast<Form&>(*this), static_cast<PickListPane&>(*this), Levels::TopOnly),
       StockViewPane(static_cast<Form&>(*this), static_cast<PickListPane&>(*this)) {
   FillLeftSide = [this] { FillKindGrid(PRHELP, 1, "", Text1.Tag); };
-  ItemsListed = [this] { ShowStock(); };
+  BesideItems = [this] { return StockBeside(); };
   AddLeftSideStops({&Check1, &DTPicker1[0], &DTPicker1[1], &PRHELP});
 }
 

@@ -22,11 +22,9 @@ std::string BarcodeBeginsWith(const std::string& text) {
   return Splice(" PR_BCODE  like '{text}%'", "text"_a = text);
 }
 
-std::string PickRowOfItem() {
-  std::string row = ItemText(item::Code);
-  row.append("\t\t\t").append(ItemText(item::Barcode)).append("\t");
-  row.append(ItemText(item::Name)).append("\t").append(ItemText(item::Standard));
-  return row;
+std::vector<std::string> PickRowOfItem(const Recordset& items, std::uint32_t row) {
+  const auto text = [&](int field) { return std::string(items.TextOfRow(row, field)); };
+  return {text(item::Code), "", "", text(item::Barcode), text(item::Name), text(item::Standard)};
 }
 
 std::vector<GridColumn> HiddenPickColumns() {

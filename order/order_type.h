@@ -1,9 +1,11 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <vector>
 
 #include "forms/grid.h"
+#include "gateway/recordset.h"
 
 namespace store {
 
@@ -55,8 +57,8 @@ struct OrderTypeChoices {
 
   std::vector<GridColumn> PickGrid;
   int PickEntry;  ///< Column of the pick list that takes a quantity.
-  /// The pick list's cells of the current item, tab-joined.
-  std::string (*PickRow)();
+  /// The pick list's cells of the item in a row of the item list, from the left.
+  std::vector<std::string> (*PickRow)(const Recordset& items, std::uint32_t row);
   /// What follows an edit in a row of the pick list; it tells the person what it refuses.
   EntryVerdict (*JudgeEntry)(Grid& picks, int row);
 };
@@ -71,8 +73,8 @@ std::string StatePastConfirmation(int button);
 /// Scanned text is the beginning of a barcode.
 std::string BarcodeBeginsWith(const std::string& text);
 
-/// Code, barcode, name and standard of the current item, in the columns of `pick`.
-std::string PickRowOfItem();
+/// Code, barcode, name and standard of an item, in the columns of `pick`.
+std::vector<std::string> PickRowOfItem(const Recordset& items, std::uint32_t row);
 
 /// Columns of pick lists: code, mark and category, out of view; a count; the quantity to order.
 std::vector<GridColumn> HiddenPickColumns();

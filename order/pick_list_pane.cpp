@@ -17,8 +17,16 @@ PickListPane::PickListPane(Form& form, const OrderTypeChoices& choices)
 
 void PickListPane::FillPickGrid() {
   FLEX2.SetRows(1);
-  ForEachRow(SlotC, [&] { FLEX2.AddItem(choices_.PickRow()); });
-  if (ItemsListed) ItemsListed();
+  std::vector<std::uint32_t> hits;
+  ForEachRow(SlotC, [&hits] { hits.push_back(SlotC->CurrentRow()); });
+  const auto count = static_cast<int>(hits.size());
+  FLEX2.SetRowsMadeLater(
+      count, [items = SlotC, hits = std::move(hits), cellsOf = choices_.PickRow,
+              complete = BesideItems ? BesideItems() : PickRowCompletion()](int row) {
+        std::vector<std::string> cells = cellsOf(*items, hits[static_cast<size_t>(row)]);
+        if (complete) complete(cells);
+        return cells;
+      });
 }
 
 void PickListPane::WalkToPickList() {

@@ -2,12 +2,16 @@
 
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "forms/form.h"
 #include "forms/grid.h"
 #include "order/order_type.h"
 
 namespace store {
+
+/// Puts what is known of an item beside it, into the cells of its row.
+using PickRowCompletion = std::function<void(std::vector<std::string>& cells)>;
 
 /// The pick list: items of a search, a category or a proposal, with a quantity to type.
 class PickListPane {
@@ -23,7 +27,8 @@ class PickListPane {
   void FLEX2_RowColChange();
   void FLEX2_KeyDown(Key key);
 
-  /// Lists the items that the filter of `SlotC` lets pass.
+  /// Lists the items that the filter of `SlotC` lets pass. Their cells are made when they are
+  /// looked at, of what has been read up to now.
   void FillPickGrid();
   /// Leads the keyboard into the list, to its first item unless one is current.
   void WalkToPickList();
@@ -31,8 +36,8 @@ class PickListPane {
  protected:
   ~PickListPane() = default;
 
-  /// The list has been filled from the item list.
-  std::function<void()> ItemsListed;
+  /// Reads what a type shows beside the items that are about to be listed.
+  std::function<PickRowCompletion()> BesideItems;
   /// A quantity was typed beside an item.
   std::function<void(const std::string& code, const std::string& quantity)> QuantityEntered;
   /// An item is to be ordered no more.

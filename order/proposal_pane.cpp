@@ -58,6 +58,16 @@ std::string SafetyStatement(const std::string& condition) {
       "store"_a = Session.StoreCode, "condition"_a = condition);
 }
 
+/// The cells of the current record of `SlotA`, tab-joined.
+std::string ProposalRow(const ItemSums& stockOfItems) {
+  std::string row;
+  for (int field = 0; field < proposal::Stock; ++field) row += FieldText(SlotA, field) + "\t";
+  const std::string base = FieldText(SlotA, proposal::Base);
+  const std::string stock = stockOfItems.Of(FieldText(SlotA, pick::Code)).value_or("0");
+  const std::string shortage = NumberText(ParseNumber(base) - ParseNumber(stock));
+  return row.append(stock).append("\t").append(shortage).append("\t").append(base);
+}
+
 double ValueAt(const Grid& grid, int row, int col) {
   return ParseGrouped(grid.TextMatrix(row, col));
 }
@@ -170,26 +180,16 @@ std::string ProposalPane::SafetyProposal() const {
 void ProposalPane::FillProposal(const std::string& statement) {
   SqlText = statement;
   OpenRecordset(SlotA, SqlText);
-  OpenStock();
+  const ItemSums stock = ReadStock();
   picks_.Redraw = false;
   progress_.ShowProgress(RecordCountOf(SlotA));
   ForEachRow(SlotA, [&] {
     progress_.StepProgress();
-    picks_.AddItem(ProposalRow());
+    picks_.AddItem(ProposalRow(stock));
   });
   progress_.HideProgress();
   picks_.Redraw = true;
   CloseRecordset(SlotA);
-  CloseStock();
-}
-
-std::string ProposalPane::ProposalRow() {
-  std::string row;
-  for (int field = 0; field < proposal::Stock; ++field) row += FieldText(SlotA, field) + "\t";
-  const std::string base = FieldText(SlotA, proposal::Base);
-  const std::string stock = FindStock(FieldText(SlotA, pick::Code)) ? StockFound() : "0";
-  const std::string shortage = NumberText(ParseNumber(base) - ParseNumber(stock));
-  return row.append(stock).append("\t").append(shortage).append("\t").append(base);
 }
 
 void RecalcShortage(Grid& picks, int row) {

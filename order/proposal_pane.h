@@ -61,7 +61,6 @@ class ProposalPane {
   std::string DaysDivisor() const;
   std::string PeriodOrSupplier() const;
   void FillProposal(const std::string& statement);
-  static std::string ProposalRow();
 
   const SupplierPane& supplier_;
   Grid& picks_;

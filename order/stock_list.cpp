@@ -14,15 +14,6 @@ std::string StockStatement() {
 
 }  // namespace
 
-void OpenStock() { OpenRecordset(SlotB, StockStatement()); }
-
-bool FindStock(const std::string& productCode) {
-  SetFilter(SlotB, Splice(" PR_CODE = '{code}'", "code"_a = productCode));
-  return !AtEof(SlotB);
-}
-
-std::string StockFound() { return FieldText(SlotB, 1); }
-
-void CloseStock() { CloseRecordset(SlotB); }
+ItemSums ReadStock() { return {SlotB, StockStatement()}; }
 
 }  // namespace store

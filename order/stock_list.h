@@ -1,17 +1,10 @@
 #pragma once
 
-#include <string>
+#include "order/item_sums.h"
 
 namespace store {
 
-/// The store's stock, an item's over all depots (IV: BSQTY + INQTY - OTQTY), read once into
-/// `SlotB` and matched item by item.
-void OpenStock();
-
-/// Whether the store has a stock row of the item; `StockFound` is then its sum.
-bool FindStock(const std::string& productCode);
-std::string StockFound();
-
-void CloseStock();
+/// The store's stock, an item's over all depots (IV: BSQTY + INQTY - OTQTY). Read through `SlotB`.
+ItemSums ReadStock();
 
 }  // namespace store

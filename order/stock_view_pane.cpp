@@ -19,6 +19,14 @@ std::string SalesStatement(const std::string& from, const std::string& to) {
       "store"_a = Session.StoreCode, "from"_a = from, "to"_a = to);
 }
 
+void PutStock(std::vector<std::string>& cells, const ItemSums& stockOfItems) {
+  const std::optional<std::string> stock = stockOfItems.Of(cells[pick::Code]);
+  if (!stock) return;
+  const double shortage = ParseNumber(cells[stock_view::Safety]) - ParseNumber(*stock);
+  cells[stock_view::Stock] = *stock;
+  cells[stock_view::Shortage] = shortage < 0 ? "" : NumberText(shortage);
+}
+
 }  // namespace
 
 StockViewPane::StockViewPane(Form& form, PickListPane& pickList) : picks_(pickList.FLEX2) {
@@ -34,32 +42,17 @@ std::string StockViewPane::SalesOfPeriod() const {
                         FormatDateText(DTPicker1[1].Value(), "YYYYMMDD"));
 }
 
-void StockViewPane::ShowStock() {
+PickRowCompletion StockViewPane::StockBeside() {
   const Hourglass waiting;
   const bool withSales = Check1.Value != 0;
-  OpenStock();
   picks_.SetTextMatrix(0, stock_view::Sales, withSales ? "판매" : "규격");
-  if (withSales) OpenRecordset(SlotA, SalesOfPeriod());
-  for (int row = 1; row < picks_.Rows(); ++row) {
-    ShowStockOf(row);
-    if (withSales) ShowSalesOf(row);
-  }
-  if (withSales) CloseRecordset(SlotA);
-  CloseStock();
-}
-
-void StockViewPane::ShowStockOf(int row) {
-  if (!FindStock(picks_.TextMatrix(row, pick::Code))) return;
-  const std::string stock = StockFound();
-  const double shortage =
-      ParseNumber(picks_.TextMatrix(row, stock_view::Safety)) - ParseNumber(stock);
-  picks_.SetTextMatrix(row, stock_view::Stock, stock);
-  picks_.SetTextMatrix(row, stock_view::Shortage, shortage < 0 ? "" : NumberText(shortage));
-}
-
-void StockViewPane::ShowSalesOf(int row) {
-  SetFilter(SlotA, Splice(" PKEY = '{code}'", "code"_a = picks_.TextMatrix(row, pick::Code)));
-  picks_.SetTextMatrix(row, stock_view::Sales, AtEof(SlotA) ? "0" : FieldText(SlotA, 1));
+  const ItemSums stock = ReadStock();
+  if (!withSales) return [stock](std::vector<std::string>& cells) { PutStock(cells, stock); };
+  const ItemSums sales(SlotA, SalesOfPeriod());
+  return [stock, sales](std::vector<std::string>& cells) {
+    PutStock(cells, stock);
+    cells[stock_view::Sales] = sales.Of(cells[pick::Code]).value_or("0");
+  };
 }
 
 }  // namespace store

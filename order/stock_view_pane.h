@@ -30,16 +30,14 @@ class StockViewPane {
   Label Label4{"판매기간"};
   std::array<DatePicker, 2> DTPicker1;
 
-  /// To be called when the pick list has been filled.
-  void ShowStock();
+  /// Reads stock and sales for the items that are about to be listed.
+  PickRowCompletion StockBeside();
 
  protected:
   ~StockViewPane() = default;
 
  private:
   std::string SalesOfPeriod() const;
-  void ShowStockOf(int row);
-  void ShowSalesOf(int row);
 
   Grid& picks_;
 };
