@@ -9,6 +9,7 @@
 #include "forms/host.h"
 #include "forms/open_forms.h"
 #include "gateway/gateway.h"
+#include "slips/handheld_runs.h"
 
 namespace store {
 namespace {
@@ -57,6 +58,7 @@ void frm_Start::PublishControls() {
   Publish("Image3", Image3);
   Publish("Label4", Label4);
   Publish("Label5", Label5);
+  Publish("HandheldMenu", HandheldMenu);
   Publish("Image5", Image5);
   Publish("LaCT", LaCT);
   Publish("LaPM", LaPM);
@@ -93,6 +95,12 @@ void frm_Start::ConnectEvents() {
   Label4.Click = [this] { Label4_Click(); };
   Label5[0].Click = [this] { Label5_Click(0); };
   Label5[1].Click = [this] { Label5_Click(1); };
+  for (const HandheldRun& run : HandheldRuns()) HandheldMenu.Entries.emplace_back(run.MenuText);
+  HandheldMenu.Click = [this](int entry) { HandheldMenu_Click(entry); };
+}
+
+void frm_Start::HandheldMenu_Click(int entry) {
+  OpenHandheldRun(HandheldRuns().at(static_cast<size_t>(entry)));
 }
 
 void frm_Start::SetUpGrids() {

@@ -45,10 +45,11 @@ class frm_Start : public MainWindow {
   Label LaCaption;              ///< The store.
   // Buttons: 0 and 1 new order, 3 refresh, 4 delete or revert; 2 has no picture.
   std::array<Label, 5> Image1;
-  Label Image3;                 ///< Closes the notice pane.
-  Label Label4;                 ///< The web page.
-  std::array<Label, 2> Label5;  ///< 0 closes the window, 1 makes it small.
-  Label Image5;                 ///< "[F4]": Details of the selected slip.
+  Label Image3;                     ///< Closes the notice pane.
+  Label Label4;                     ///< The web page.
+  std::array<Label, 2> Label5;      ///< 0 closes the window, 1 makes it small.
+  Menu HandheldMenu{"핸디터미널"};  ///< The runs of the handheld terminal's path.
+  Label Image5;                     ///< "[F4]": Details of the selected slip.
   // Details.
   std::array<Label, 11> LaCT;  ///< The partner.
   std::array<Label, 8> LaPM;   ///< The order's conditions.
@@ -68,6 +69,7 @@ class frm_Start : public MainWindow {
   void Image5_Click();
   void Label4_Click();
   void Label5_Click(int index);
+  void HandheldMenu_Click(int entry);
   void FLEX0_RowColChange();
   void FLEX0_DblClick();
   void FLEX1_Click();

@@ -164,6 +164,17 @@ class TabStrip : public Control {
   std::function<void(int tab)> Click;
 };
 
+/// A button that opens a list of things to do.
+class Menu : public Control {
+ public:
+  Menu() = default;
+  explicit Menu(std::string caption) : Caption(std::move(caption)) {}
+  std::string Caption;
+  std::vector<std::string> Entries;  ///< An empty one parts those before it from those behind it.
+  /// The user has chosen an entry, counted from 0 with the empty ones.
+  std::function<void(int entry)> Click;
+};
+
 /// Fires every `Interval` milliseconds while it is enabled and the interval is not 0.
 class Timer : public Control {
  public:

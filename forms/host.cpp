@@ -25,6 +25,7 @@ HostDoor EmptyHost() {
   };
   host.SaveSetting = [](const std::string&, const std::string&, const std::string&,
                         const std::string&) {};
+  host.MakeSerialPort = [] { return std::unique_ptr<SerialPort>(); };
   host.PreviousInstance = [] { return false; };
   return host;
 }

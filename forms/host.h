@@ -1,10 +1,12 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <string>
 
 #include "basics/dates.h"
 #include "forms/form.h"
+#include "forms/serial_port.h"
 
 namespace store {
 
@@ -81,6 +83,10 @@ struct HostDoor {
   std::function<void(const std::string& application, const std::string& section,
                      const std::string& key, const std::string& value)>
       SaveSetting;
+
+  /// A serial port of the workstation, closed and with its first settings. Nothing where there is
+  /// no such thing.
+  std::function<std::unique_ptr<SerialPort>()> MakeSerialPort;
 
   /// True when another instance of this program file is running on the workstation.
   std::function<bool()> PreviousInstance;

@@ -2,6 +2,7 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QMenu>
 #include <QProgressBar>
 #include <QTimer>
 #include <QToolButton>
@@ -52,6 +53,30 @@ class PressBinding : public Binding {
   const Pressed& control_;
   KeyButton& button_;
   SeenText seen_;
+};
+
+/// A button below which the entries open. Each has a number or letter that chooses it.
+class MenuBinding : public Binding {
+ public:
+  MenuBinding(FormWindow& window, Menu& menu, KeyButton& button) : Binding(menu, button) {
+    button.setText(ToQt(menu.Caption));
+    auto* list = new QMenu(&button);
+    for (int entry = 0; entry < static_cast<int>(menu.Entries.size()); ++entry) {
+      const std::string& text = menu.Entries[static_cast<size_t>(entry)];
+      if (text.empty()) {
+        list->addSeparator();
+        continue;
+      }
+      const QAction* action = list->addAction(
+          QString("&%1  %2").arg(QString::number(entry + 1, 36).toUpper(), ToQt(text)));
+      QObject::connect(action, &QAction::triggered, &window,
+                       [&window, &menu, entry] { window.Act([&] { menu.Click(entry); }); });
+    }
+    window.OnPress(button, [list, &button] {
+      list->popup(button.mapToGlobal(button.rect().bottomLeft()));
+      list->setActiveAction(list->actions().constFirst());
+    });
+  }
 };
 
 /// A button for each tab in a row; none is down before the first press.
@@ -143,6 +168,9 @@ std::unique_ptr<Binding> Bind(FormWindow& window, Control& control, QWidget& wid
   }
   if (button != nullptr && pressed != nullptr) {
     return std::make_unique<PressBinding<Button>>(window, *button, *pressed);
+  }
+  if (auto* menu = dynamic_cast<Menu*>(&control); menu != nullptr && pressed != nullptr) {
+    return std::make_unique<MenuBinding>(window, *menu, *pressed);
   }
   if (auto* text = qobject_cast<QLabel*>(&widget); label != nullptr && text != nullptr) {
     return std::make_unique<LabelBinding>(*label, *text);

@@ -1,0 +1,9 @@
+#include "handheld/handheld_forms.h"
+
+#include "forms/open_forms.h"
+
+namespace store {
+
+void RegisterHandheldForms() {}
+
+}  // namespace store
