@@ -23,6 +23,8 @@ std::string DirectoryServer() {
 
 std::string WebHost() { return FromEnvironment("STORE_WEB_HOST", STORE_WEB_HOST); }
 
+std::string TransferToolPath() { return FromEnvironment("STORE_TRANSFER_TOOL", ""); }
+
 std::chrono::seconds ConnectTimeout() { return SecondsFromEnvironment("STORE_CONNECT_TIMEOUT", 5); }
 std::chrono::seconds LockWait() { return SecondsFromEnvironment("STORE_LOCK_WAIT", 10); }
 std::chrono::seconds ReadLimit() { return SecondsFromEnvironment("STORE_READ_LIMIT", 30); }

@@ -15,6 +15,10 @@ std::string DirectoryServer();
 /// Where the product's web pages stand, with the slash at the end. Variable STORE_WEB_HOST.
 std::string WebHost();
 
+/// The program that sends the master file to the terminal's cradle; empty for the one under the
+/// program's folder. Variable STORE_TRANSFER_TOOL.
+std::string TransferToolPath();
+
 /// How long the data tier waits; each variable is a number of seconds.
 std::chrono::seconds ConnectTimeout();  ///< For a server that does not answer a login: 5 seconds.
                                         ///< Variable STORE_CONNECT_TIMEOUT.

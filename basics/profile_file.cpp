@@ -1,18 +1,11 @@
 #include "basics/profile_file.h"
 
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
 #include <algorithm>
-#include <cerrno>
-#include <cstdio>
-#include <filesystem>
 #include <string_view>
-#include <utility>
 #include <vector>
 
 #include "basics/text.h"
+#include "basics/whole_file.h"
 
 namespace store {
 namespace {
@@ -21,72 +14,6 @@ constexpr size_t kLongestValue = 254;
 constexpr std::string_view kLineEnd = "\r\n";
 
 using Lines = std::vector<std::string>;  // as in the file, each with its own line end
-
-// An open file that closes itself.
-class File {
- public:
-  File(const std::string& path, int flags)
-      : handle_(::open(path.c_str(), flags | O_CLOEXEC, 0644)) {}
-  ~File() { Close(); }
-  File(const File&) = delete;
-  File& operator=(const File&) = delete;
-
-  bool IsOpen() const { return handle_ >= 0; }
-  int Handle() const { return handle_; }
-
-  bool ReadAll(std::string& bytes) const {
-    char buffer[4096];
-    ssize_t got = 0;
-    while ((got = ::read(handle_, buffer, sizeof buffer)) > 0)
-      bytes.append(buffer, static_cast<size_t>(got));
-    return got == 0;
-  }
-
-  bool WriteAll(std::string_view bytes) const {
-    while (!bytes.empty()) {
-      const ssize_t put = ::write(handle_, bytes.data(), bytes.size());
-      if (put < 0) return false;
-      bytes.remove_prefix(static_cast<size_t>(put));
-    }
-    return ::fsync(handle_) == 0;
-  }
-
-  bool Close() {
-    const int handle = std::exchange(handle_, -1);
-    return handle < 0 || ::close(handle) == 0;
-  }
-
- private:
-  int handle_;
-};
-
-// A file that is not there has no bytes; false is a file that is there and cannot be read.
-bool ReadFile(const std::string& path, std::string& bytes) {
-  const File file(path, O_RDONLY);
-  return file.IsOpen() ? file.ReadAll(bytes) : errno == ENOENT;
-}
-
-void SyncFolderOf(const std::string& path) {
-  const std::string folder = std::filesystem::path(path).parent_path().string();
-  const File handle(folder.empty() ? "." : folder, O_RDONLY | O_DIRECTORY);
-  if (handle.IsOpen()) ::fsync(handle.Handle());
-}
-
-bool ReplaceFile(const std::string& path, const std::string& bytes) {
-  const std::string fresh = path + ".new";
-  File file(fresh, O_WRONLY | O_CREAT | O_TRUNC);
-  if (!file.IsOpen()) return false;
-  struct stat old {};
-  const bool sameRights =
-      ::stat(path.c_str(), &old) != 0 || ::fchmod(file.Handle(), old.st_mode) == 0;
-  if (!sameRights || !file.WriteAll(bytes) || !file.Close() ||
-      std::rename(fresh.c_str(), path.c_str()) != 0) {
-    std::remove(fresh.c_str());
-    return false;
-  }
-  SyncFolderOf(path);
-  return true;
-}
 
 Lines SplitLines(std::string_view bytes) {
   Lines lines;
@@ -186,7 +113,7 @@ void AddKey(Lines& lines, SectionRange range, const std::string& section,
 std::string ReadProfileValue(const std::string& path, const std::string& section,
                              const std::string& key) {
   std::string bytes;
-  if (!ReadFile(path, bytes)) return {};
+  if (!ReadWholeFile(path, bytes)) return {};
   const Lines lines = SplitLines(bytes);
   const SectionRange range = FindSection(lines, section);
   const size_t at = FindKey(lines, range, key);
@@ -199,7 +126,7 @@ std::string ReadProfileValue(const std::string& path, const std::string& section
 bool WriteProfileValue(const std::string& path, const std::string& section, const std::string& key,
                        const std::string& value) {
   std::string bytes;
-  if (!ReadFile(path, bytes)) return false;
+  if (!ReadWholeFile(path, bytes)) return false;
   Lines lines = SplitLines(bytes);
   const SectionRange range = FindSection(lines, section);
   const size_t at = FindKey(lines, range, key);
@@ -212,7 +139,7 @@ bool WriteProfileValue(const std::string& path, const std::string& section, cons
   }
   std::string all;
   for (const std::string& line : lines) all += line;
-  return ReplaceFile(path, all);
+  return ReplaceFile(path, all).empty();
 }
 
 }  // namespace store

@@ -19,7 +19,9 @@ HostDoor EmptyHost() {
   host.Now = [] { return ClockTime{2000, 1, 1, 0, 0, 0}; };
   host.Sleep = [](int) {};
   host.OpenAddress = [](const std::string&) { return false; };
-  host.StartProgram = [](const std::string&, const std::string&, WindowState) { return false; };
+  host.StartProgram = [](const std::string&, const std::string&, WindowState) {
+    return std::string();
+  };
   host.GetSetting = [](const std::string&, const std::string&, const std::string&) {
     return std::string();
   };

@@ -72,8 +72,9 @@ struct HostDoor {
   /// Opens an address or a file with the desktop's own program. False when that cannot be done.
   std::function<bool(const std::string& address)> OpenAddress;
   /// Starts a program without waiting, its window in the state asked for where the platform lets
-  /// one ask. False when it cannot be started.
-  std::function<bool(const std::string& path, const std::string& arguments, WindowState state)>
+  /// one ask. Empty when it was started, else what the platform says.
+  std::function<std::string(const std::string& path, const std::string& arguments,
+                            WindowState state)>
       StartProgram;
 
   /// The per-user settings store. A missing key reads as an empty text.

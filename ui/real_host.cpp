@@ -3,11 +3,14 @@
 #include <QApplication>
 #include <QDateTime>
 #include <QDesktopServices>
+#include <QFileInfo>
 #include <QProcess>
 #include <QScreen>
 #include <QSettings>
 #include <QThread>
 #include <QUrl>
+#include <cerrno>
+#include <cstring>
 #include <memory>
 
 #include "forms/host.h"
@@ -47,8 +50,15 @@ bool OpenAddress(const std::string& address) {
 
 // A desktop of X11 or Wayland lets no program say how another one's window opens, so the state that
 // a form asks for has nowhere to go.
-bool StartProgram(const std::string& path, const std::string& arguments, WindowState /*state*/) {
-  return QProcess::startDetached(ToQt(path), QProcess::splitCommand(ToQt(arguments)));
+std::string StartProgram(const std::string& path, const std::string& arguments,
+                         WindowState /*state*/) {
+  QProcess program;
+  program.setProgram(ToQt(path));
+  program.setArguments(QProcess::splitCommand(ToQt(arguments)));
+  if (program.startDetached()) return {};
+  // Why a detached start failed is not kept; that the file cannot be run is what it nearly always
+  // is.
+  return std::strerror(QFileInfo(ToQt(path)).exists() ? EACCES : ENOENT);
 }
 
 QSettings SettingsOf(const std::string& application) {

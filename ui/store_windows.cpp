@@ -1,6 +1,7 @@
 #include "ui/store_windows.h"
 
 #include "board/frm_Start.h"
+#include "handheld/FRM_CRDIMP.h"
 #include "lookup/NEW_PR.h"
 #include "lookup/lookup_form.h"
 #include "order/frm_OrderPLU.h"
@@ -10,6 +11,7 @@
 #include "start/frmOptions.h"
 #include "start/frmSplash.h"
 #include "ui/board_window.h"
+#include "ui/cradle_window.h"
 #include "ui/login_window.h"
 #include "ui/lookup_window.h"
 #include "ui/new_product_window.h"
@@ -33,6 +35,7 @@ void RegisterStoreWindows() {
   }
   RegisterWindow("frm_OrderPLU", MakerOf<QuickPickWindow, frm_OrderPLU>());
   RegisterWindow("NEW_PR", MakerOf<NewProductWindow, NEW_PR>());
+  RegisterWindow("FRM_CRDIMP", MakerOf<CradleWindow, FRM_CRDIMP>());
   for (const char* lookup :
        {"HELP_CT", "HELP_RCT", "HELP_HCT", "HELP_ST", "HELP_CTM", "HELP_BPR"}) {
     RegisterWindow(lookup, MakerOf<LookupWindow, LookupForm>());

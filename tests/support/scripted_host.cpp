@@ -90,7 +90,7 @@ void ScriptedHost::FillWorkstation() {
   Host.StartProgram = [this](const std::string& path, const std::string& arguments,
                              WindowState state) {
     Programs.push_back({path, arguments, state});
-    return StartsPrograms;
+    return ProgramRefusal;
   };
   Host.GetSetting = [this](const std::string& application, const std::string& section,
                            const std::string& key) {

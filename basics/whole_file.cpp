@@ -1,0 +1,88 @@
+#include "basics/whole_file.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <filesystem>
+#include <string_view>
+#include <utility>
+
+namespace store {
+namespace {
+
+// An open file that closes itself.
+class File {
+ public:
+  File(const std::string& path, int flags)
+      : handle_(::open(path.c_str(), flags | O_CLOEXEC, 0644)) {}
+  ~File() { Close(); }
+  File(const File&) = delete;
+  File& operator=(const File&) = delete;
+
+  bool IsOpen() const { return handle_ >= 0; }
+  int Handle() const { return handle_; }
+
+  bool ReadAll(std::string& bytes) const {
+    char buffer[4096];
+    ssize_t got = 0;
+    while ((got = ::read(handle_, buffer, sizeof buffer)) > 0)
+      bytes.append(buffer, static_cast<size_t>(got));
+    return got == 0;
+  }
+
+  bool WriteAll(std::string_view bytes) const {
+    while (!bytes.empty()) {
+      const ssize_t put = ::write(handle_, bytes.data(), bytes.size());
+      if (put < 0) return false;
+      bytes.remove_prefix(static_cast<size_t>(put));
+    }
+    return ::fsync(handle_) == 0;
+  }
+
+  bool Close() {
+    const int handle = std::exchange(handle_, -1);
+    return handle < 0 || ::close(handle) == 0;
+  }
+
+ private:
+  int handle_;
+};
+
+void SyncFolderOf(const std::string& path) {
+  const std::string folder = std::filesystem::path(path).parent_path().string();
+  const File handle(folder.empty() ? "." : folder, O_RDONLY | O_DIRECTORY);
+  if (handle.IsOpen()) ::fsync(handle.Handle());
+}
+
+bool WriteFresh(const std::string& fresh, const std::string& path, const std::string& bytes) {
+  File file(fresh, O_WRONLY | O_CREAT | O_TRUNC);
+  if (!file.IsOpen()) return false;
+  struct stat old {};
+  const bool sameRights =
+      ::stat(path.c_str(), &old) != 0 || ::fchmod(file.Handle(), old.st_mode) == 0;
+  return sameRights && file.WriteAll(bytes) && file.Close();
+}
+
+}  // namespace
+
+bool ReadWholeFile(const std::string& path, std::string& bytes) {
+  const File file(path, O_RDONLY);
+  return file.IsOpen() ? file.ReadAll(bytes) : errno == ENOENT;
+}
+
+std::string ReplaceFile(const std::string& path, const std::string& bytes) {
+  const std::string fresh = path + ".new";
+  if (!WriteFresh(fresh, path, bytes) || std::rename(fresh.c_str(), path.c_str()) != 0) {
+    const std::string refusal = std::strerror(errno);
+    std::remove(fresh.c_str());
+    return refusal;
+  }
+  SyncFolderOf(path);
+  return {};
+}
+
+}  // namespace store
