@@ -1,6 +1,9 @@
 // From the board into the order and receipt forms.
+#include <map>
+
 #include "basics/records.h"
 #include "forms/host.h"
+#include "slips/handheld_runs.h"
 #include "tests/board/board_test.h"
 
 namespace store {
@@ -144,6 +147,47 @@ TEST_F(BoardOpens, NoSlipForANumberThatIsNone) {
     EXPECT_EQ(board.SelectedSlipId, "");
   }
   EXPECT_EQ(host.FormsShown, Texts{});
+}
+
+// Each entry of the menu tells its form what it runs for.
+TEST_F(BoardTest, TheTerminalsFormsOpenForTheirRun) {
+  struct Seen : HandheldForm {
+    using HandheldForm::HandheldForm;
+  };
+  for (const char* name : {"DT9RECEV", "FRM_DT900_01", "FRM_CRDIMP"}) {
+    RegisterForm(name, [name] { return std::make_unique<Seen>(name); });
+  }
+  const std::map<std::string, std::string> runs = {
+      {"매입 수신", "DT9RECEV 매    입/23/"},
+      {"매입반품 수신", "DT9RECEV 매입반품 (반품)/23/R"},
+      {"매출 수신", "DT9RECEV 매    출/13/"},
+      {"매출반품 수신", "DT9RECEV 매출반품 (반품)/13/R"},
+      {"가맹점출고 수신", "DT9RECEV 매    출/14/"},
+      {"재고조사 수신", "DT9RECEV 재고조사/82/"},
+      {"상품관리 수신", "DT9RECEV 상품관리/66/"},
+      {"매입 처리", "FRM_DT900_01 /23/"},
+      {"매입반품 처리", "FRM_DT900_01 /23/R"},
+      {"매출 처리", "FRM_DT900_01 /13/"},
+      {"매출반품 처리", "FRM_DT900_01 /13/R"},
+      {"가맹점출고 처리", "FRM_DT900_01 /14/"},
+      {"재고조사 처리", "FRM_DT900_01 /82/"},
+      {"상품관리 처리", "FRM_DT900_01 /66/"},
+      {"크래들 IMPORT", "FRM_CRDIMP //"},
+  };
+  ShowBoard();
+  std::map<std::string, std::string> seen;
+  for (size_t entry = 0; entry < board.HandheldMenu.Entries.size(); ++entry) {
+    const std::string& text = board.HandheldMenu.Entries[entry];
+    const auto note = [&](Form& shown) {
+      const auto& form = dynamic_cast<const HandheldForm&>(shown);
+      seen[text] =
+          form.Name + " " + form.KindCaption + "/" + form.ModuleCode + "/" + form.ReturnMark;
+    };
+    host.OnModal(HandheldRuns()[entry].FormName, note);
+    board.HandheldMenu.Click(static_cast<int>(entry));
+    ReleaseDroppedForms();
+  }
+  EXPECT_EQ(seen, runs);
 }
 
 }  // namespace
