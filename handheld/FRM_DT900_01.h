@@ -20,9 +20,9 @@ class FRM_DT900_01 : public HandheldForm, public StagedRowsPane, public Handheld
  public:
   FRM_DT900_01();
 
-  Label LaRun;           ///< Which run of the form this is, as the menu names it.
-  DatePicker DTPicker1;  ///< Date of the slips.
-  Button Command2;       ///< Partner lookup.
+  Label LaRun;              ///< Which run of the form this is, as the menu names it.
+  DatePicker DTPicker1;     ///< Date of the slips.
+  Button Command2{"찾기"};  ///< Partner lookup.
   /// 0 lists, 1 closes, 3 makes the slips, 4 deletes; 2 has no action.
   std::array<Button, 5> Command1 = {Button("보기"), Button("닫기"), Button("인쇄"),
                                     Button("전표구성하기"), Button("삭제")};

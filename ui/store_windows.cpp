@@ -1,6 +1,7 @@
 #include "ui/store_windows.h"
 
 #include "board/frm_Start.h"
+#include "handheld/FRM_DT900_01.h"
 #include "lookup/NEW_PR.h"
 #include "lookup/lookup_form.h"
 #include "order/frm_OrderPLU.h"
@@ -9,6 +10,7 @@
 #include "start/frmLogin.h"
 #include "start/frmOptions.h"
 #include "start/frmSplash.h"
+#include "ui/batch_window.h"
 #include "ui/board_window.h"
 #include "ui/login_window.h"
 #include "ui/lookup_window.h"
@@ -32,6 +34,7 @@ void RegisterStoreWindows() {
     RegisterWindow(order, MakerOf<OrderWindow, OrderForm>());
   }
   RegisterWindow("frm_OrderPLU", MakerOf<QuickPickWindow, frm_OrderPLU>());
+  RegisterWindow("FRM_DT900_01", MakerOf<BatchWindow, FRM_DT900_01>());
   RegisterWindow("NEW_PR", MakerOf<NewProductWindow, NEW_PR>());
   for (const char* lookup :
        {"HELP_CT", "HELP_RCT", "HELP_HCT", "HELP_ST", "HELP_CTM", "HELP_BPR"}) {

@@ -6,6 +6,7 @@
 #include "basics/records.h"
 #include "board/frm_Start.h"
 #include "forms/host.h"
+#include "handheld/FRM_DT900_01.h"
 #include "lookup/HELP_BPR.h"
 #include "lookup/NEW_PR.h"
 #include "lookup/party_lookups.h"
@@ -48,6 +49,7 @@ TEST_F(WindowsTest, EveryControlThatAFormPublishesHasItsWidget) {
   forms.push_back(std::make_unique<frm_Order03>());
   forms.push_back(std::make_unique<frm_OrderPLU>());
   forms.push_back(std::make_unique<frm_PE_UNIT>());
+  forms.push_back(std::make_unique<FRM_DT900_01>());
   forms.push_back(std::make_unique<HELP_CT>());
   forms.push_back(std::make_unique<HELP_HCT>());
   forms.push_back(std::make_unique<HELP_BPR>());
