@@ -18,7 +18,7 @@ struct GridColumn {
   Align Alignment = Align::General;
   std::string Format = {};  ///< A number mask for what is shown; the cell keeps its text.
   bool Hidden = false;
-  bool CheckBox = false;  ///< Cells hold "-1" when ticked, anything else when not.
+  bool CheckBox = false;  ///< A cell whose number is not 0 is ticked; ticking puts in "-1" or "0".
   bool Editable = false;  ///< The window may open an editor in its cells, or tick them.
   int BackColor = -1;     ///< 0xRRGGBB behind its data cells, -1 for the grid's own.
 };

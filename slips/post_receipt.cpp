@@ -1,10 +1,11 @@
 #include "slips/post_receipt.h"
 
-#include "basics/dates.h"
 #include "basics/numbers.h"
 #include "forms/host.h"
 #include "gateway/gateway.h"
+#include "slips/posted_lines.h"
 #include "slips/slip_statements.h"
+#include "slips/stock_balance.h"
 
 namespace store {
 namespace {
@@ -12,13 +13,12 @@ namespace {
 /// What the header table decides.
 struct Direction {
   std::string lines;
-  std::string stockColumn;
-  std::string balanceColumn;
+  Movement movement;
 };
 
 Direction DirectionOf(const std::string& table) {
-  if (table == "PES13") return {"PSS13", "OTQTY", "CM_M13"};
-  return {"PSM23", "INQTY", "CM_M23"};
+  if (table == "PES13") return {"PSS13", {.StockColumn = "OTQTY", .BalanceColumn = "CM_M13"}};
+  return {"PSM23", {.StockColumn = "INQTY", .BalanceColumn = "CM_M23"}};
 }
 
 std::string ProgramVersion() {
@@ -42,102 +42,19 @@ std::string CloseOrderStatement(const HeadFields& head) {
   return Splice(" UPDATE PEM22 SET PE_CK = '4' , PE_LINK = '{H0}' WHERE PE_ID = '{H20}'", head);
 }
 
-std::string LineStatement(const LineFields& fields, const std::string& lines) {
-  return Splice(
-      " INSERT INTO {lines} (PE_ID,PS_NO,PS_DATE, PR_CODE,PR_NAME,PR_STD,PS_TAXGU,PS_UNT, PS_SQTY,"
-      "PS_EQTY,PS_COST,PS_UP,PS_AMT,PS_TAX, ST_CODE,PS_TYPE,PS_MEMO,PS_HCTCODE,PS_HCTNAME,PS_INCK,"
-      "PS_TMID) VALUES  ( '{L0}',{L1},'{L2}',    '{L3}','{L4}','{L5}', '{L6}','{L7}',    "
-      "{L8},{L9},{L10},"
-      "{L11},{L12},{L13},    '{L14}','{L15}','{L16}','{L17}','{L18}','{L19}','{L21}' ) ",
-      fields, "lines"_a = lines);
-}
-
-std::string StockCountStatement(const LineFields& fields, const std::string& store) {
-  return Splice(
-      "select count(*) from IV where RCT_CODE='{store}' and HCT_CODE='{L17}' and PR_CODE='{L3}' ",
-      fields, "store"_a = store);
-}
-
-std::string StockUpdateStatement(const LineFields& fields, const std::string& store,
-                                 const std::string& column) {
-  return Splice(
-      "UPDATE IV SET {column} = {column} + {L8} WHERE  RCT_CODE='{store}' AND HCT_CODE='{L17}' AND "
-      "PR_CODE='{L3}'",
-      fields, "store"_a = store, "column"_a = column);
-}
-
-std::string StockInsertStatement(const LineFields& fields, const std::string& store,
-                                 const std::string& column) {
-  return Splice(
-      "INSERT INTO IV (RCT_CODE, HCT_CODE, PR_CODE, PR_NAME, PR_STD, PR_UNT, PR_BCODE, {column}) "
-      "values  ('{store}','{L17}','{L3}','{L4}','{L5} ','{L7}','',{L8})",
-      fields, "store"_a = store, "column"_a = column);
-}
-
-std::string BalanceCountStatement(const HeadFields& fields, const std::string& month) {
-  return Splice(
-      "select count(*) from CMM where CM_FCTCODE='{H4}' and CM_TCTCODE='{H6}' and CM_MGU='C' and "
-      "CM_MM='{month}'",
-      fields, "month"_a = month);
-}
-
-std::string BalanceUpdateStatement(const HeadFields& fields, const std::string& month,
-                                   const std::string& column) {
-  return Splice(
-      " update CMM set {column} = {column} + {H10} where  CM_FCTCODE='{H4}' and CM_TCTCODE='{H6}' "
-      "and "
-      "CM_MGU='C' and CM_MM='{month}' ",
-      fields, "month"_a = month, "column"_a = column);
-}
-
-std::string BalanceInsertStatement(const HeadFields& fields, const std::string& month,
-                                   const std::string& column) {
-  return Splice(
-      " insert into CMM (CM_FCTCODE, CM_TCTCODE, CM_MGU, CM_MM, {column}, CM_CK) values   "
-      "('{H4}','{H6}','C','{month}',{H10},'0')",
-      fields, "month"_a = month, "column"_a = column);
-}
-
-/// Exactly one row is there to be raised. With none, or with several, a further one is inserted:
-/// every reader sums, and nobody can tell which of several to raise.
-bool CountsOne(const std::string& statement) {
-  OpenRecordset(SlotA, statement);
-  const bool one = ParseNumber(FieldText(SlotA, 0)) == 1;
-  CloseRecordset(SlotA);
-  return one;
-}
-
-void AddStock(const LineFields& fields, const std::string& store, const std::string& column) {
-  AddToBatch(CountsOne(StockCountStatement(fields, store))
-                 ? StockUpdateStatement(fields, store, column)
-                 : StockInsertStatement(fields, store, column));
-}
-
-void AddBalance(const HeadFields& fields, const std::string& column) {
-  const std::string month = FormatDateText(fields.Field(head::Date), "YYYYMM");
-  AddToBatch(CountsOne(BalanceCountStatement(fields, month))
-                 ? BalanceUpdateStatement(fields, month, column)
-                 : BalanceInsertStatement(fields, month, column));
-}
-
 }  // namespace
 
 std::int16_t PostReceipt(const HeadArray& headValues, const StringTable& lineValues,
                          const std::string& table) {
-  const Hourglass waiting;  // a round trip a line, before the batch
+  const Hourglass waiting;
   const Direction direction = DirectionOf(table);
   const HeadFields head(headValues, head::Supply, head::Discount);
   StartBatch();
   AddToBatch(HeaderStatement(head, table));
   AddToBatch(CloseOrderStatement(head));
-  ForEachLine(lineValues, [&](const LineFields& fields) {
-    AddToBatch(LineStatement(fields, direction.lines));
-  });
+  AddPostedLines(lineValues, direction.lines, line::TerminalId);
   if (ParseNumber(headValues[head::State]) != 0) {
-    ForEachLine(lineValues, [&](const LineFields& fields) {
-      AddStock(fields, headValues[head::FromCode], direction.stockColumn);
-    });
-    AddBalance(head, direction.balanceColumn);
+    AddMovement(head, LinesOf(lineValues), direction.movement);
   }
   return ExecuteBatch(SqlBatch);
 }

@@ -14,6 +14,7 @@ std::string SlipKeyPrefix;
 namespace {
 
 constexpr const char* kNumberMask = "0000";
+constexpr const char* kNoKey = "0001";  // what stands for a key that could not be made
 
 std::string SlipIdStatement(const std::string& table) {
   return Splice(
@@ -45,21 +46,24 @@ std::string NextSlipId(const std::string& table) {
   std::int32_t rows = 0;
   std::int32_t highestColumn = 0;
   QueryRows(SlipIdStatement(table), found, rows, highestColumn);
-  if (rows == 0) return "0001";
+  if (rows == 0) return kNoKey;
   const double number = ParseNumber(found.At(1, 1));
   ToInt16(number, SlipSeqCounter);
   SlipKeyPrefix = found.At(1, 0);
   return SlipKeyPrefix + Session.UserCode + kind + FormatNumber(number, kNumberMask);
 }
 
-std::string NextStockCountId() {
+std::string NextStockCountId(int before) {
   StringTable found;
   std::int32_t rows = 0;
   std::int32_t highestColumn = 0;
   QueryRows(StockCountIdStatement(), found, rows, highestColumn);
-  if (rows == 0) return "0001";
-  return found.At(1, 0) + Session.UserCode + FormatNumber(ParseNumber(found.At(1, 1)), kNumberMask);
+  if (rows == 0) return kNoKey;
+  return found.At(1, 0) + Session.UserCode +
+         FormatNumber(ParseNumber(found.At(1, 1)) + before, kNumberMask);
 }
+
+bool IsWholeKey(const std::string& slipId) { return !slipId.empty() && slipId != kNoKey; }
 
 bool DateFitsKey(const std::string& date, const std::string& slipId) {
   const auto digits = [&](int start, int length) {

@@ -20,8 +20,12 @@ extern std::string SlipKeyPrefix;
 std::string NextSlipId(const std::string& table);
 
 /// A key for the stock-count header ME. It always reads the database and leaves the counter alone;
-/// it carries no kind.
-std::string NextStockCountId();
+/// it carries no kind. `before` is how many keys the batch in hand has taken, of which the database
+/// does not know yet. "0001" when the database cannot be read.
+std::string NextStockCountId(int before = 0);
+
+/// Whether a key was made from the database's date, and not in place of one that could not be read.
+bool IsWholeKey(const std::string& slipId);
 
 /// Whether a document date, "YYYY-MM-DD", lies within a month on either side of the date in a slip
 /// key, bounds included. The key's date is the database's day, so a workstation's wrong clock does

@@ -23,6 +23,12 @@ LineFields::LineFields(const StringTable& lineValues, int row) {
   }
 }
 
+std::vector<LineFields> LinesOf(const StringTable& lineValues) {
+  std::vector<LineFields> lines;
+  ForEachLine(lineValues, [&](const LineFields& fields) { lines.push_back(fields); });
+  return lines;
+}
+
 void ForEachLine(const StringTable& lineValues,
                  const std::function<void(const LineFields&)>& work) {
   for (int row = 1; row <= lineValues.LastRow(); ++row) {

@@ -42,6 +42,9 @@ class LineFields {
   std::vector<std::string> texts_;
 };
 
+/// The rows that are lines, from row 1 on.
+std::vector<LineFields> LinesOf(const StringTable& lineValues);
+
 /// Runs `work` for each row that is a line, from row 1 on.
 void ForEachLine(const StringTable& lineValues, const std::function<void(const LineFields&)>& work);
 

@@ -2,6 +2,7 @@
 
 #include "board/frm_Start.h"
 #include "handheld/FRM_CRDIMP.h"
+#include "handheld/FRM_DT900_01.h"
 #include "lookup/NEW_PR.h"
 #include "lookup/lookup_form.h"
 #include "order/frm_OrderPLU.h"
@@ -10,6 +11,7 @@
 #include "start/frmLogin.h"
 #include "start/frmOptions.h"
 #include "start/frmSplash.h"
+#include "ui/batch_window.h"
 #include "ui/board_window.h"
 #include "ui/cradle_window.h"
 #include "ui/login_window.h"
@@ -34,6 +36,7 @@ void RegisterStoreWindows() {
     RegisterWindow(order, MakerOf<OrderWindow, OrderForm>());
   }
   RegisterWindow("frm_OrderPLU", MakerOf<QuickPickWindow, frm_OrderPLU>());
+  RegisterWindow("FRM_DT900_01", MakerOf<BatchWindow, FRM_DT900_01>());
   RegisterWindow("NEW_PR", MakerOf<NewProductWindow, NEW_PR>());
   RegisterWindow("FRM_CRDIMP", MakerOf<CradleWindow, FRM_CRDIMP>());
   for (const char* lookup :

@@ -96,6 +96,28 @@ TEST_F(PostReceiptTest, AddsAFurtherRowWhereStockHasNoSingleRow) {
   EXPECT_EQ(Stock("P0003"), "0/4/0,0/5/0,0/30/0");
 }
 
+TEST_F(PostReceiptTest, HoldsEachCountAgainstItsOwnLine) {
+  // Of 40 products each third has one row, each fifth two.
+  std::vector<std::vector<std::string>> lines;
+  std::string wanted;
+  for (int i = 1; i <= 40; ++i) {
+    const std::string product = "Q" + std::to_string(100 + i);
+    const int rows = i % 3 == 0 ? 1 : i % 5 == 0 ? 2 : 0;
+    for (int row = 0; row < rows; ++row) {
+      Sql("INSERT INTO IV (RCT_CODE,HCT_CODE,PR_CODE,INQTY) VALUES ('1001','100101','" + product +
+          "',1000)");
+    }
+    lines.push_back(ReceiptLine(std::to_string(i), product, std::to_string(i)));
+    const std::string raised = std::to_string(1000 + i);
+    const std::string added = std::to_string(i);
+    wanted += (i > 1 ? "," : "") + (rows == 1 ? raised : rows == 2 ? added + ",1000,1000" : added);
+  }
+  EXPECT_EQ(Post(ReceiptHead(), lines), -1);
+  EXPECT_EQ(Value("SELECT GROUP_CONCAT(INQTY+0e0 ORDER BY PR_CODE,INQTY) FROM IV WHERE PR_CODE "
+                  "LIKE 'Q%'"),
+            wanted);
+}
+
 TEST_F(PostReceiptTest, AddsTheTotalToTheMonthOfTheDocument) {
   const struct {
     const char* date;

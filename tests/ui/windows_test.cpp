@@ -7,6 +7,7 @@
 #include "board/frm_Start.h"
 #include "forms/host.h"
 #include "handheld/FRM_CRDIMP.h"
+#include "handheld/FRM_DT900_01.h"
 #include "lookup/HELP_BPR.h"
 #include "lookup/NEW_PR.h"
 #include "lookup/party_lookups.h"
@@ -50,6 +51,7 @@ TEST_F(WindowsTest, EveryControlThatAFormPublishesHasItsWidget) {
   forms.push_back(std::make_unique<frm_OrderPLU>());
   forms.push_back(std::make_unique<frm_PE_UNIT>());
   forms.push_back(std::make_unique<FRM_CRDIMP>());
+  forms.push_back(std::make_unique<FRM_DT900_01>());
   forms.push_back(std::make_unique<HELP_CT>());
   forms.push_back(std::make_unique<HELP_HCT>());
   forms.push_back(std::make_unique<HELP_BPR>());

@@ -15,6 +15,7 @@
 #include "ui/desk.h"
 #include "ui/qt_text.h"
 #include "ui/run_store.h"
+#include "ui/shots/batch_shots.h"
 #include "ui/shots/director.h"
 #include "ui/shots/order_shots.h"
 
@@ -169,6 +170,7 @@ int main(int argc, char** argv) {
   store::ShootOrderTypes(director);
   store::ShootQuickPick(director);
   store::ShootStoredSlips(director);
+  store::ShootBatch(director);
   store::ShootLookups(director);
   store::ShootNewProduct(director);
   store::ShootBoxes(director);

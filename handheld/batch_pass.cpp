@@ -1,0 +1,212 @@
+// A pass: the ticked rows become slips, or new prices, and leave the staging table with them.
+#include <algorithm>
+#include <set>
+
+#include "basics/numbers.h"
+#include "basics/records.h"
+#include "basics/text.h"
+#include "forms/host.h"
+#include "gateway/gateway.h"
+#include "handheld/FRM_DT900_01.h"
+#include "slips/slip_checks.h"
+#include "slips/slip_keys.h"
+
+namespace store {
+namespace {
+
+std::string QuotedList(const std::vector<std::string>& ids) {
+  std::string list;
+  for (const std::string& id : ids) {
+    list += Splice("{comma}'{id}'", "comma"_a = list.empty() ? "" : ",", "id"_a = id);
+  }
+  return list;
+}
+
+std::string DeleteStatement(const std::vector<std::string>& ids) {
+  return Splice(" DELETE FROM DT900 WHERE PE_ID  IN ( {ids})", "ids"_a = QuotedList(ids));
+}
+
+std::string StillStagedStatement(const std::vector<std::string>& ids) {
+  return Splice(" SELECT DISTINCT PE_ID FROM DT900 WHERE PE_ID IN ( {ids})",
+                "ids"_a = QuotedList(ids));
+}
+
+std::string PriceStatement(const std::string& product, double price) {
+  return Splice("  UPDATE PR SET PR_OP1 = {price} WHERE PR_CODE = '{product}'",
+                "price"_a = NumberText(price), "product"_a = product);
+}
+
+void TellNothingToDo() { Host.MsgBox("처리할 자료가 없습니다.", box::Critical, "확인"); }
+
+constexpr const char* kStored = "저장이 완료되었습니다.";
+constexpr const char* kRowsGone =
+    "이미 처리되었거나 삭제된 자료가 있어 저장하지 않았습니다.\r목록을 다시 확인하시기 바랍니다.";
+
+}  // namespace
+
+void FRM_DT900_01::MakeSlips() {
+  if (!MayMakeSlips() || !ConfirmLeftOver()) return;
+  pass_ = {};
+  SlipSeqCounter = 0;
+  SlipKeyPrefix.clear();
+  StartBatch();
+  Sent sent = Sent::Failed;
+  {
+    const Hourglass waiting;
+    if (ModuleCode == handheld_module::Prices) {
+      AddPriceUpdates();
+    } else if (!BuildSlips()) {
+      return;
+    }
+    if (!pass_.BatchRows.empty()) sent = SendBatch(pass_.BatchRows);
+  }
+  if (ModuleCode == handheld_module::Shipment) {
+    ReportShipments();
+  } else if (!pass_.BatchRows.empty()) {
+    Report(sent);
+  }
+}
+
+bool FRM_DT900_01::MayMakeSlips() {
+  if (FLEX.Rows() == FLEX.FixedRows()) {
+    TellNothingToDo();
+    return false;
+  }
+  if (Combo1.Text().empty()) {
+    Host.MsgBox("하치장명은 필수입력입니다.        ", box::Critical, "하치장입력");
+    return false;
+  }
+  if (BaseSettings.MaxSlipLines < 1 && ModuleCode != handheld_module::Prices) {
+    Host.MsgBox("최대전표건수가 설정되지 않았습니다. 본사에 문의바랍니다.", box::Critical,
+                "전표구성");
+    return false;
+  }
+  return true;
+}
+
+/// What will not go into the partner's one slip is told before anything is written.
+bool FRM_DT900_01::ConfirmLeftOver() {
+  CollectTickedIds();
+  int postable = 0;
+  for (int row = FLEX.FixedRows(); row < FLEX.Rows(); ++row) postable += IsPostable(row) ? 1 : 0;
+  const int withoutCode = static_cast<int>(TickedIds.size()) - postable;
+  const int over = ModuleCode == handheld_module::Prices ? 0 : RowsOverLimit();
+  std::string text;
+  if (withoutCode > 0) {
+    text +=
+        "품목코드가 없는 자료 " + std::to_string(withoutCode) + "건은 처리하지 않고 남겨 둡니다.\r";
+  }
+  if (over > 0) {
+    text += "전표의 최대행수(" + std::to_string(BaseSettings.MaxSlipLines) + ")를 넘는 자료 " +
+            std::to_string(over) + "건은 같은 거래처의 다음 전표로 나눕니다.\r";
+  }
+  if (!text.empty() &&
+      Host.MsgBox(text + "\r계속하시겠습니까?", box::Question + box::YesNo, "확인") != box::Yes) {
+    return false;
+  }
+  if (postable == 0) TellNothingToDo();
+  return postable > 0;
+}
+
+int FRM_DT900_01::RowsOverLimit() const {
+  int over = 0;
+  int ofPartner = 0;
+  std::string partner;
+  for (int row = FLEX.FixedRows(); row < FLEX.Rows(); ++row) {
+    if (!IsPostable(row)) continue;
+    const std::string& code = FLEX.TextMatrix(row, staged::PartnerCode);
+    if (code != partner) ofPartner = 0;
+    partner = code;
+    if (++ofPartner > BaseSettings.MaxSlipLines) ++over;
+  }
+  return over;
+}
+
+void FRM_DT900_01::AddPriceUpdates() {
+  for (int row = FLEX.FixedRows(); row < FLEX.Rows(); ++row) {
+    if (!IsPostable(row)) continue;
+    AddToBatch(PriceStatement(ProductCode(row), ParseGrouped(FLEX.TextMatrix(row, staged::Price))));
+    pass_.BatchRows.push_back(FLEX.TextMatrix(row, staged::RowId));
+  }
+}
+
+/// Rows that another workstation has turned into slips meanwhile must not become goods twice.
+FRM_DT900_01::Sent FRM_DT900_01::SendBatch(const std::vector<std::string>& rowIds) {
+  const RecordsetSlot staged = FetchRecordset(StillStagedStatement(rowIds));
+  if (!staged) return Sent::Failed;
+  std::set<std::string> there;
+  ForEachRow(staged, [&] { there.insert(FieldText(staged, 0)); });
+  if (!std::all_of(rowIds.begin(), rowIds.end(),
+                   [&](const std::string& id) { return there.contains(id); })) {
+    return Sent::RowsGone;
+  }
+  AddToBatch(DeleteStatement(rowIds));
+  return ExecuteBatch(SqlBatch) != 0 ? Sent::Stored : Sent::Failed;
+}
+
+/// A shipment's batch holds nothing but itself, so it goes as soon as it is finished.
+void FRM_DT900_01::SendShipment(bool added) {
+  const Sent sent = added ? SendBatch(slipRows_) : Sent::Failed;
+  if (sent == Sent::Stored) {
+    ++pass_.Shipments;
+    return;
+  }
+  pass_.NotShipped.push_back(HandheldHeader[head::ToName]);
+  pass_.LastFailure = sent;
+  pass_.FailureText = sent == Sent::RowsGone ? kRowsGone : LastErrorText;
+}
+
+void FRM_DT900_01::DeleteTicked() {
+  if (CollectTickedIds()) return;
+  StartBatch();
+  AddToBatch(DeleteStatement(TickedIds));
+  if (ExecuteBatch(SqlBatch) != 0) {
+    ReportStored(kStored);
+  } else {
+    ReportFailed(SaveFailedText());
+    LoadStagedRows();
+  }
+}
+
+void FRM_DT900_01::Report(Sent sent) {
+  switch (sent) {
+    case Sent::Stored:
+      ReportStored(kStored);
+      break;
+    case Sent::Failed:
+      ReportFailed(SaveFailedText());
+      break;
+    case Sent::RowsGone:
+      Host.MsgBox(kRowsGone, box::Critical, "확인");
+      LoadStagedRows();
+      break;
+  }
+}
+
+void FRM_DT900_01::ReportShipments() {
+  const int shipments = pass_.Shipments + static_cast<int>(pass_.NotShipped.size());
+  if (shipments == 1) return Report(pass_.NotShipped.empty() ? Sent::Stored : pass_.LastFailure);
+  if (pass_.NotShipped.empty()) {
+    return ReportStored(std::string(kStored) + " (전표 " + std::to_string(shipments) + "건)");
+  }
+  std::string stores;
+  for (const std::string& name : pass_.NotShipped) stores += (stores.empty() ? "" : ", ") + name;
+  ReportFailed("전표 " + std::to_string(shipments) + "건 중 " + std::to_string(pass_.Shipments) +
+               "건의 저장이 완료되었습니다.\r저장이 실패한 가맹점: " + stores +
+               "\r\r MSG: " + pass_.FailureText);
+  LoadStagedRows();
+}
+
+void FRM_DT900_01::ReportStored(const std::string& text) {
+  LBL_MSG.Caption = text;
+  Host.MsgBox(text + "            ", box::Information, "처리완료");
+  LoadStagedRows();
+}
+
+void FRM_DT900_01::ReportFailed(const std::string& text) {
+  LBL_MSG.Caption = text;
+  Host.MsgBox(text, box::Question, "오류");
+  ClearStatusLater();
+}
+
+}  // namespace store

@@ -1,0 +1,104 @@
+#include "ui/batch_window.h"
+
+#include <QComboBox>
+#include <QDateEdit>
+#include <QFrame>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QRadioButton>
+#include <QVBoxLayout>
+#include <array>
+
+#include "handheld/FRM_DT900_01.h"
+#include "ui/binding.h"
+#include "ui/elided_label.h"
+#include "ui/grid_view.h"
+#include "ui/key_button.h"
+#include "ui/layout_pieces.h"
+#include "ui/style.h"
+
+namespace store {
+namespace {
+
+constexpr QSize kSize(1024, 720);
+constexpr int kMarkAlone = 1;  // a tax mark without a product code behind it
+
+}  // namespace
+
+BatchWindow::BatchWindow(FRM_DT900_01& form) : FormWindow(form), batch_(form) {
+  auto* content = Column();
+  content->addWidget(Header());
+  content->addWidget(Choice());
+  content->addWidget(Rows(), 1);
+  content->addWidget(Foot());
+  FillWindow(*this, content);
+  BindControls();
+  resize(kSize);
+}
+
+QWidget* BatchWindow::Header() {
+  auto* depot = Named("Combo1", new QComboBox);
+  depot->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+  depot->setMinimumContentsLength(8);
+  auto* row = Row();
+  row->addWidget(HeadingLabel("핸디터미널처리"));
+  row->addWidget(Named("LaRun", HeadingLabel({})));
+  row->addStretch();
+  row->addWidget(CaptionLabel("하치장"));
+  row->addWidget(depot, 2);
+  row->addWidget(CaptionLabel("일자"));
+  row->addWidget(Named("DTPicker1", new QDateEdit));
+  row->addWidget(Named("Command1_1", new KeyButton({}, Qt::Key_Escape)));
+  return Group("card", row);
+}
+
+QWidget* BatchWindow::Choice() {
+  auto* partner = Named("Text1_1", new QLineEdit);
+  partner->setPlaceholderText("상호   /전화   Enter");
+  auto* row = Row();
+  const std::array<const char*, 3> letters = {"1", "2", "3"};
+  for (int i = 0; i < 3; ++i) {
+    auto* option = Named(QString("Option1_%1").arg(i), new QRadioButton);
+    option->setProperty(kLetterProperty, letters[static_cast<size_t>(i)]);
+    option->setFocusPolicy(Qt::NoFocus);
+    row->addWidget(option);
+  }
+  row->addWidget(CaptionLabel("Space 선택"));
+  row->addStretch();
+  row->addWidget(CaptionLabel("거래처"));
+  row->addWidget(partner, 2);
+  row->addWidget(Named("Command2", new KeyButton({}, Qt::Key_F1)));
+  row->addWidget(Named("Command1_0", new KeyButton({}, Qt::Key_F5)));
+  row->addWidget(CaptionLabel("메모"));
+  row->addWidget(Named("Text1_0", new QLineEdit), 2);
+  return Group("card", row);
+}
+
+QWidget* BatchWindow::Rows() {
+  auto* rows = Named("FLEX", new GridView(batch_.FLEX));
+  rows->Tint = [](int column, const QString& text) {
+    return column == staged::Product && text.trimmed().size() <= kMarkAlone ? Softened(0xFFC080)
+                                                                            : QColor();
+  };
+  return rows;
+}
+
+QWidget* BatchWindow::Foot() {
+  auto* message = Named("LBL_MSG", new ElidedLabel);
+  auto* row = Row();
+  row->addWidget(message, 1);
+  const std::array<const char*, 3> captions = {"선택 건수", "공급가액", "부가세"};
+  for (int i = 0; i < 3; ++i) {
+    row->addWidget(CaptionLabel(captions[static_cast<size_t>(i)]));
+    row->addWidget(Named(QString("Label2_%1").arg(i), new QLabel));
+  }
+  auto* remove = Named("Command1_4", new KeyButton({}, QKeySequence(Qt::CTRL | Qt::Key_Delete)));
+  auto* make = Named("Command1_3", new KeyButton({}, Qt::Key_F9));
+  make->MarkMain();
+  row->addWidget(remove);
+  row->addWidget(make);
+  return Group("totals", row);
+}
+
+}  // namespace store
