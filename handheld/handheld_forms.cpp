@@ -1,9 +1,18 @@
 #include "handheld/handheld_forms.h"
 
+#include <memory>
+
 #include "forms/open_forms.h"
+#include "handheld/DT9RECEV.h"
+#include "handheld/FRM_NAMECHK.h"
+#include "handheld/frmProperties.h"
 
 namespace store {
 
-void RegisterHandheldForms() {}
+void RegisterHandheldForms() {
+  RegisterForm("DT9RECEV", [] { return std::make_unique<DT9RECEV>(); });
+  RegisterForm("frmProperties", [] { return std::make_unique<frmProperties>(); });
+  RegisterForm("FRM_NAMECHK", [] { return std::make_unique<FRM_NAMECHK>(); });
+}
 
 }  // namespace store
