@@ -64,6 +64,8 @@ class DT9RECEV : public HandheldForm {
   void FLEX_DblClick();
   void Timer1_Timer();
 
+  /// Opens or closes the port; what has arrived is forgotten. A refusal is told in a box.
+  void SetPortOpen(bool open);
   /// Something has happened on the line, by its code (`comm`).
   void OnCommEvent(int code);
   /// Takes what the line has brought. What arrives while an earlier piece is being answered waits
@@ -83,7 +85,6 @@ class DT9RECEV : public HandheldForm {
   // Transfer: receive_transfer.cpp.
   bool AskInspector();
   void StartOrStop();
-  void SetPortOpen(bool open);
   void ShowIdle();
   void ShowReceiving();
   void InTurn(std::function<void()> work);

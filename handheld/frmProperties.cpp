@@ -16,11 +16,12 @@ constexpr std::string_view kParityLetters = "eonms";  // in the order of the lis
 
 DT9RECEV* Receiver() { return dynamic_cast<DT9RECEV*>(OpenForm("DT9RECEV")); }
 
-/// Opens the port's new number. False, with the old one in force, when it is refused.
-bool ChangePort(SerialPort& port, int number) {
+/// Gives the port its new number. False, with the old one in force, when it is refused.
+bool ChangePort(DT9RECEV& receiver, int number) {
+  SerialPort& port = *receiver.MSComm1;
   const int old = port.CommPort();
   if (number == old) return true;
-  if (port.PortOpen()) port.SetPortOpen(false);
+  if (port.PortOpen()) receiver.SetPortOpen(false);
   if (!TellRefusal(port.SetCommPort(number))) return true;
   port.SetCommPort(old);
   return false;
@@ -128,7 +129,7 @@ void frmProperties::ApplyPortSettings() {
   DT9RECEV* receiver = Receiver();
   if (receiver == nullptr) return;
   SerialPort& port = *receiver->MSComm1;
-  if (!ChangePort(port, cboPort.ListIndex() + 1)) return;
+  if (!ChangePort(*receiver, cboPort.ListIndex() + 1)) return;
   TellRefusal(port.SetSettings(ChosenSettings()));
   TellRefusal(port.SetHandshaking(flow_));
   StorePortSettings(port);
