@@ -15,6 +15,10 @@ std::string DirectoryServer();
 /// Where the product's web pages stand, with the slash at the end. Variable STORE_WEB_HOST.
 std::string WebHost();
 
+/// The device behind "Com1" to "Com4": "COM1" and so on under Windows, elsewhere "/dev/ttyS0" and
+/// so on. Variables STORE_COM1 to STORE_COM4. Empty for any other number.
+std::string SerialDevice(int port);
+
 /// How long the data tier waits; each variable is a number of seconds.
 std::chrono::seconds ConnectTimeout();  ///< For a server that does not answer a login: 5 seconds.
                                         ///< Variable STORE_CONNECT_TIMEOUT.

@@ -9,6 +9,7 @@
 #include "board/frm_Start.h"
 #include "forms/host.h"
 #include "forms/open_forms.h"
+#include "handheld/handheld_forms.h"
 #include "lookup/NEW_PR.h"
 #include "order/order_form.h"
 #include "receipt/frm_PE_UNIT.h"
@@ -78,6 +79,7 @@ void PrepareStore(QApplication& application) {
   RegisterBoardForms();
   RegisterOrderForms();
   RegisterReceiptForms();
+  RegisterHandheldForms();
 }
 
 int RunStore(QApplication& application, const std::string& commandLine) {

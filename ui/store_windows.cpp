@@ -1,6 +1,9 @@
 #include "ui/store_windows.h"
 
 #include "board/frm_Start.h"
+#include "handheld/DT9RECEV.h"
+#include "handheld/FRM_NAMECHK.h"
+#include "handheld/frmProperties.h"
 #include "lookup/NEW_PR.h"
 #include "lookup/lookup_form.h"
 #include "order/frm_OrderPLU.h"
@@ -10,13 +13,16 @@
 #include "start/frmOptions.h"
 #include "start/frmSplash.h"
 #include "ui/board_window.h"
+#include "ui/inspector_window.h"
 #include "ui/login_window.h"
 #include "ui/lookup_window.h"
 #include "ui/new_product_window.h"
 #include "ui/options_window.h"
 #include "ui/order_window.h"
+#include "ui/port_settings_window.h"
 #include "ui/quick_pick_window.h"
 #include "ui/receipt_window.h"
+#include "ui/receive_window.h"
 #include "ui/splash_window.h"
 #include "ui/window_registry.h"
 
@@ -32,6 +38,9 @@ void RegisterStoreWindows() {
     RegisterWindow(order, MakerOf<OrderWindow, OrderForm>());
   }
   RegisterWindow("frm_OrderPLU", MakerOf<QuickPickWindow, frm_OrderPLU>());
+  RegisterWindow("DT9RECEV", MakerOf<ReceiveWindow, DT9RECEV>());
+  RegisterWindow("frmProperties", MakerOf<PortSettingsWindow, frmProperties>());
+  RegisterWindow("FRM_NAMECHK", MakerOf<InspectorWindow, FRM_NAMECHK>());
   RegisterWindow("NEW_PR", MakerOf<NewProductWindow, NEW_PR>());
   for (const char* lookup :
        {"HELP_CT", "HELP_RCT", "HELP_HCT", "HELP_ST", "HELP_CTM", "HELP_BPR"}) {

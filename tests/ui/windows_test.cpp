@@ -6,6 +6,9 @@
 #include "basics/records.h"
 #include "board/frm_Start.h"
 #include "forms/host.h"
+#include "handheld/DT9RECEV.h"
+#include "handheld/FRM_NAMECHK.h"
+#include "handheld/frmProperties.h"
 #include "lookup/HELP_BPR.h"
 #include "lookup/NEW_PR.h"
 #include "lookup/party_lookups.h"
@@ -48,6 +51,9 @@ TEST_F(WindowsTest, EveryControlThatAFormPublishesHasItsWidget) {
   forms.push_back(std::make_unique<frm_Order03>());
   forms.push_back(std::make_unique<frm_OrderPLU>());
   forms.push_back(std::make_unique<frm_PE_UNIT>());
+  forms.push_back(std::make_unique<DT9RECEV>());
+  forms.push_back(std::make_unique<frmProperties>());
+  forms.push_back(std::make_unique<FRM_NAMECHK>());
   forms.push_back(std::make_unique<HELP_CT>());
   forms.push_back(std::make_unique<HELP_HCT>());
   forms.push_back(std::make_unique<HELP_BPR>());

@@ -16,6 +16,7 @@
 #include "ui/qt_text.h"
 #include "ui/run_store.h"
 #include "ui/shots/director.h"
+#include "ui/shots/handheld_shots.h"
 #include "ui/shots/order_shots.h"
 
 namespace store {
@@ -171,6 +172,7 @@ int main(int argc, char** argv) {
   store::ShootStoredSlips(director);
   store::ShootLookups(director);
   store::ShootNewProduct(director);
+  store::ShootReceive(director);
   store::ShootBoxes(director);
   director.When([] { return true; }, [] { QCoreApplication::exit(); });
   bool goesOn = false;
