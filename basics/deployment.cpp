@@ -24,6 +24,15 @@ std::string DirectoryServer() {
 std::string WebHost() { return FromEnvironment("STORE_WEB_HOST", STORE_WEB_HOST); }
 
 std::string TransferToolPath() { return FromEnvironment("STORE_TRANSFER_TOOL", ""); }
+std::string SerialDevice(int port) {
+  if (port < 1 || port > 4) return {};
+#ifdef _WIN32
+  const std::string standard = "COM" + std::to_string(port);
+#else
+  const std::string standard = "/dev/ttyS" + std::to_string(port - 1);
+#endif
+  return FromEnvironment(("STORE_COM" + std::to_string(port)).c_str(), standard.c_str());
+}
 
 std::chrono::seconds ConnectTimeout() { return SecondsFromEnvironment("STORE_CONNECT_TIMEOUT", 5); }
 std::chrono::seconds LockWait() { return SecondsFromEnvironment("STORE_LOCK_WAIT", 10); }

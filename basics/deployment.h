@@ -18,6 +18,9 @@ std::string WebHost();
 /// The program that sends the master file to the terminal's cradle; empty for the one under the
 /// program's folder. Variable STORE_TRANSFER_TOOL.
 std::string TransferToolPath();
+/// The device behind "Com1" to "Com4": "COM1" and so on under Windows, elsewhere "/dev/ttyS0" and
+/// so on. Variables STORE_COM1 to STORE_COM4. Empty for any other number.
+std::string SerialDevice(int port);
 
 /// How long the data tier waits; each variable is a number of seconds.
 std::chrono::seconds ConnectTimeout();  ///< For a server that does not answer a login: 5 seconds.

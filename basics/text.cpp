@@ -82,6 +82,16 @@ std::string FromCodePage949(std::string_view bytes) {
   return out;
 }
 
+// Only a byte that may begin a letter, and that ended up as none, can be half of one.
+std::string TakeWholeLetters(std::string& bytes) {
+  std::string text = FromCodePage949(bytes);
+  const auto last = bytes.empty() ? 0 : static_cast<unsigned char>(bytes.back());
+  const bool half = last > 0x80 && last < 0xFF && text.ends_with(kReplacement);
+  if (half) text.resize(text.size() - kReplacement.size());
+  bytes.erase(0, bytes.size() - (half ? 1 : 0));
+  return text;
+}
+
 std::string ByteMid(std::string_view text, int start, int length) {
   if (start < 1 || length < 1) return {};
   const std::string bytes = ToCodePage949(text);

@@ -17,6 +17,10 @@ std::string ToCodePage949(std::string_view text);
 /// Code page 949 to UTF-8. Each byte that is part of no letter gives one U+FFFD.
 std::string FromCodePage949(std::string_view bytes);
 
+/// Takes what has arrived of a text in code page 949 out of `bytes` and decodes it. The first half of
+/// a letter at the end is left there: its other byte comes later.
+std::string TakeWholeLetters(std::string& bytes);
+
 /// `length` bytes (fewer where the text ends) of the text in code page 949 from byte `start`,
 /// counted from 1. A start before 1 or a length under 1 gives an empty text; a cut through a Korean
 /// letter leaves U+FFFD.

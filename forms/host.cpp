@@ -27,7 +27,7 @@ HostDoor EmptyHost() {
   };
   host.SaveSetting = [](const std::string&, const std::string&, const std::string&,
                         const std::string&) {};
-  host.MakeSerialPort = [] { return std::unique_ptr<SerialPort>(); };
+  host.MakeSerialPort = MakeAbsentPort;
   host.PreviousInstance = [] { return false; };
   return host;
 }

@@ -85,8 +85,8 @@ struct HostDoor {
                      const std::string& key, const std::string& value)>
       SaveSetting;
 
-  /// A serial port of the workstation, closed and with its first settings. Nothing where there is
-  /// no such thing.
+  /// A serial port of the workstation, closed and with its first settings. Where there is no such
+  /// thing it gives one that cannot be opened.
   std::function<std::unique_ptr<SerialPort>()> MakeSerialPort;
 
   /// True when another instance of this program file is running on the workstation.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <string>
 
 namespace store {
@@ -25,6 +26,7 @@ inline constexpr int ReceiveOverflow = 1008;
 inline constexpr int Parity = 1009;
 inline constexpr int SendFull = 1010;
 inline constexpr int DeviceBlock = 1011;
+inline constexpr int DeviceLost = 1099;  ///< The device is gone, and the port has closed itself.
 }  // namespace comm
 
 /// One serial line of the workstation. Everything happens on the thread of the forms. What the
@@ -59,5 +61,8 @@ class SerialPort {
   /// One of the `comm` codes has come.
   std::function<void(int code)> OnComm;
 };
+
+/// The port of a workstation that has no serial line: it keeps its settings and cannot be opened.
+std::unique_ptr<SerialPort> MakeAbsentPort();
 
 }  // namespace store

@@ -18,6 +18,7 @@
 #include "ui/instance_lock.h"
 #include "ui/message_box.h"
 #include "ui/qt_text.h"
+#include "ui/serial_port.h"
 
 namespace store {
 namespace {
@@ -104,6 +105,7 @@ void OpenWorkstation() {
                         const std::string& key, const std::string& value) {
     SettingsOf(application).setValue(SettingName(section, key), ToQt(value));
   };
+  Host.MakeSerialPort = MakeSerialPort;
   Host.PreviousInstance = PreviousInstance;
 }
 

@@ -3,6 +3,9 @@
 #include "board/frm_Start.h"
 #include "handheld/FRM_CRDIMP.h"
 #include "handheld/FRM_DT900_01.h"
+#include "handheld/DT9RECEV.h"
+#include "handheld/FRM_NAMECHK.h"
+#include "handheld/frmProperties.h"
 #include "lookup/NEW_PR.h"
 #include "lookup/lookup_form.h"
 #include "order/frm_OrderPLU.h"
@@ -14,13 +17,16 @@
 #include "ui/batch_window.h"
 #include "ui/board_window.h"
 #include "ui/cradle_window.h"
+#include "ui/inspector_window.h"
 #include "ui/login_window.h"
 #include "ui/lookup_window.h"
 #include "ui/new_product_window.h"
 #include "ui/options_window.h"
 #include "ui/order_window.h"
+#include "ui/port_settings_window.h"
 #include "ui/quick_pick_window.h"
 #include "ui/receipt_window.h"
+#include "ui/receive_window.h"
 #include "ui/splash_window.h"
 #include "ui/window_registry.h"
 
@@ -37,6 +43,9 @@ void RegisterStoreWindows() {
   }
   RegisterWindow("frm_OrderPLU", MakerOf<QuickPickWindow, frm_OrderPLU>());
   RegisterWindow("FRM_DT900_01", MakerOf<BatchWindow, FRM_DT900_01>());
+  RegisterWindow("DT9RECEV", MakerOf<ReceiveWindow, DT9RECEV>());
+  RegisterWindow("frmProperties", MakerOf<PortSettingsWindow, frmProperties>());
+  RegisterWindow("FRM_NAMECHK", MakerOf<InspectorWindow, FRM_NAMECHK>());
   RegisterWindow("NEW_PR", MakerOf<NewProductWindow, NEW_PR>());
   RegisterWindow("FRM_CRDIMP", MakerOf<CradleWindow, FRM_CRDIMP>());
   for (const char* lookup :

@@ -55,6 +55,24 @@ TEST(Text, SurvivesWhatTheCodePageLacks) {
   EXPECT_EQ(FromCodePage949(std::string("a\0b", 3)), std::string("a\0b", 3));
 }
 
+// A line brings a text in any pieces.
+TEST(Text, ArrivingInTwoPiecesReadsTheSame) {
+  const std::string bytes =
+      ToCodePage949("가A나뷁") + "\xB0 \xFF\x80z\xB0\x03" + ToCodePage949("힣");
+  for (size_t at = 0; at <= bytes.size(); ++at) {
+    std::string arrived = bytes.substr(0, at);
+    std::string text = TakeWholeLetters(arrived);
+    EXPECT_LE(arrived.size(), 1U);
+    arrived += bytes.substr(at);
+    text += TakeWholeLetters(arrived);
+    EXPECT_EQ(text, FromCodePage949(bytes)) << at;
+    EXPECT_EQ(arrived, "") << at;
+  }
+  std::string half = "a\xB0";
+  EXPECT_EQ(TakeWholeLetters(half), "a");
+  EXPECT_EQ(half, "\xB0");
+}
+
 TEST(Text, PositionsOfCharactersCountLetters) {
   const std::string text = "한글ab";
   EXPECT_EQ(CharLength(text), 4);

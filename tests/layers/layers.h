@@ -14,6 +14,8 @@ struct LayerFolder {
   std::set<std::string> Links;  ///< Folders that it links.
   /// Folders that it includes from, each with the first include found: "board/a.cpp: order/b.h".
   std::map<std::string, std::string> Includes;
+  /// Includes that a folder within it, such as handheld/wire, keeps out.
+  std::vector<std::string> RoomFaults;
   std::vector<std::string> ToolkitIncludes;  ///< "board/a.cpp: <QString>"
 };
 

@@ -67,9 +67,16 @@ TEST_F(MadeUpProgram, EveryKindOfFaultIsNamed) {
   Library("strange", "");
   Library("demo", "");
   File("ui/b.cpp", "#include \"demo/franchise.h\"\n");
+  Library("handheld", "store_basics store_gateway");
+  File("handheld/form.cpp", "#include \"gateway/gateway.h\"\n");
+  File("handheld/wire/line.cpp",
+       "#include \"handheld/wire/line.h\"\n#include \"basics/text.h\"\n"
+       "#include \"gateway/gateway.h\"\n#include \"handheld/form.h\"\n");
   EXPECT_EQ(Faults(),
             (Texts{"basics/up.h: gateway/gateway.h is against the layers",
                    "gateway/text.cpp: <QString> is of the toolkit",
+                   "handheld/wire/line.cpp: gateway/gateway.h does not belong into handheld/wire",
+                   "handheld/wire/line.cpp: handheld/form.h does not belong into handheld/wire",
                    "order/aside.cpp: board/deep/board.h is against the layers",
                    "receipt/unlinked.cpp: gateway/gateway.h is of a folder that receipt does not "
                    "link",

@@ -77,7 +77,10 @@ void ScriptedHost::FillWindows() {
   };
   Host.SetPointer = [this](int pointer) { Pointers.push_back(pointer); };
   Host.Beep = [this] { ++Beeps; };
-  Host.DoEvents = [this] { ++EventRounds; };
+  Host.DoEvents = [this] {
+    ++EventRounds;
+    if (DuringEvents) DuringEvents();
+  };
 }
 
 void ScriptedHost::FillWorkstation() {
@@ -100,6 +103,11 @@ void ScriptedHost::FillWorkstation() {
   Host.SaveSetting = [this](const std::string& application, const std::string& section,
                             const std::string& key, const std::string& value) {
     Settings[{application, section, key}] = value;
+  };
+  Host.MakeSerialPort = [this] {
+    auto port = std::make_unique<ScriptedPort>();
+    Port = port.get();
+    return port;
   };
   Host.PreviousInstance = [this] { return OtherInstance; };
 }

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "forms/host.h"
+#include "tests/support/scripted_port.h"
 
 namespace store {
 
@@ -48,6 +49,8 @@ class ScriptedHost {
   std::vector<int> Pointers;  ///< Every pointer set, in order.
   int Beeps = 0;
   int EventRounds = 0;  ///< How often pending events were let run.
+  /// What happens while pending events run.
+  std::function<void()> DuringEvents;
   bool Ended = false;
   std::vector<int> Sleeps;
   std::vector<std::string> Addresses;  ///< Opened addresses and files.
@@ -64,6 +67,8 @@ class ScriptedHost {
   ClockTime Clock{2024, 5, 17, 10, 20, 30};  ///< Moves only when the test moves it.
   int ScreenWidth = 1024;
   int ScreenHeight = 768;
+  /// The serial port that was made last. It belongs to the form that asked for it.
+  ScriptedPort* Port = nullptr;
   /// The per-user settings store: application, section, key.
   std::map<std::tuple<std::string, std::string, std::string>, std::string> Settings;
 

@@ -8,6 +8,9 @@
 #include "forms/host.h"
 #include "handheld/FRM_CRDIMP.h"
 #include "handheld/FRM_DT900_01.h"
+#include "handheld/DT9RECEV.h"
+#include "handheld/FRM_NAMECHK.h"
+#include "handheld/frmProperties.h"
 #include "lookup/HELP_BPR.h"
 #include "lookup/NEW_PR.h"
 #include "lookup/party_lookups.h"
@@ -52,6 +55,9 @@ TEST_F(WindowsTest, EveryControlThatAFormPublishesHasItsWidget) {
   forms.push_back(std::make_unique<frm_PE_UNIT>());
   forms.push_back(std::make_unique<FRM_CRDIMP>());
   forms.push_back(std::make_unique<FRM_DT900_01>());
+  forms.push_back(std::make_unique<DT9RECEV>());
+  forms.push_back(std::make_unique<frmProperties>());
+  forms.push_back(std::make_unique<FRM_NAMECHK>());
   forms.push_back(std::make_unique<HELP_CT>());
   forms.push_back(std::make_unique<HELP_HCT>());
   forms.push_back(std::make_unique<HELP_BPR>());

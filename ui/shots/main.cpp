@@ -17,6 +17,7 @@
 #include "ui/run_store.h"
 #include "ui/shots/batch_shots.h"
 #include "ui/shots/director.h"
+#include "ui/shots/handheld_shots.h"
 #include "ui/shots/order_shots.h"
 
 namespace store {
@@ -173,6 +174,7 @@ int main(int argc, char** argv) {
   store::ShootBatch(director);
   store::ShootLookups(director);
   store::ShootNewProduct(director);
+  store::ShootReceive(director);
   store::ShootBoxes(director);
   director.When([] { return true; }, [] { QCoreApplication::exit(); });
   bool goesOn = false;

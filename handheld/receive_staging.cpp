@@ -1,0 +1,119 @@
+// The way of the reviewed rows into the staging table.
+#include <cmath>
+
+#include "basics/formats.h"
+#include "basics/numbers.h"
+#include "basics/records.h"
+#include "basics/text.h"
+#include "forms/host.h"
+#include "handheld/DT9RECEV.h"
+#include "handheld/first_match.h"
+#include "slips/unit_price.h"
+
+namespace store {
+namespace {
+
+/// What a row without a product holds in the product's fields.
+constexpr const char* kBlank = " ";
+
+constexpr const char* kSaved = "저장이 완료되었습니다.                  ";
+constexpr const char* kNotSaved = "저장이 실패하였습니다.                  ";
+
+std::string ProductsStatement(const std::string& taxColumn) {
+  return Splice(" SELECT PR_PTNO,{tax},PR_CODE,PR_NAME,PR_STD,PR_UNT,PR_BCODE  FROM   PR  ",
+                "tax"_a = taxColumn);
+}
+
+void Tell(bool saved) {
+  Host.MsgBox(saved ? kSaved : kNotSaved, saved ? box::Information : box::Critical, "확인");
+}
+
+}  // namespace
+
+// A broken transfer may have left the rows without an inspector; rows that nobody has checked are
+// not staged.
+void DT9RECEV::Save() {
+  if (Trim(Label7.Caption).empty() && !AskInspector()) return;
+  contractFlag_ =
+      ModuleCode == "14" && Host.MsgBox("판매자료를 계약가형태로 저장하시겠습니까?   ",
+                                        box::YesNo + box::Question, "계약가 적용유무") == box::Yes;
+  Host.SetPointer(PointerHourglass);
+  const bool saved = SaveToStaging();
+  Host.SetPointer(PointerNormal);
+  if (saved) Close();
+}
+
+bool DT9RECEV::SaveToStaging() {
+  if (FLEX.Rows() < 2) return false;
+  // Without the products every row would be staged as one that nobody can turn into a slip.
+  const RecordsetSlot products = FetchRecordset(ProductsStatement(taxColumn_));
+  if (products == nullptr) {
+    Tell(false);
+    return false;
+  }
+  std::vector<std::string> statements(1);
+  const std::string transfer = FormatDateValue(Host.Now(), "YYYYMMDDHHNNSS") + Trim(Label7.Caption);
+  int unknownProducts = 0;
+  for (int row = FLEX.FixedRows(); row < FLEX.Rows(); ++row) {
+    if (!StagesPartnerOf(row)) return false;
+    StagedRow staged = RowToStage(row, transfer);
+    if (!TakeProduct(row, products, staged)) ++unknownProducts;
+    staged.Price = StagedPrice(row, staged);
+    statements.push_back(StagedRowStatement(staged));
+  }
+  const bool saved = ExecuteBatch(statements) != 0;
+  Tell(saved);
+  if (unknownProducts > 0) {
+    Host.MsgBox(std::to_string(unknownProducts) + "건의 품목전환 오류", box::Critical, "품목오류");
+  }
+  return saved;
+}
+
+// A row of a wrong kind has a remark where the code stands.
+bool DT9RECEV::StagesPartnerOf(int row) {
+  if (!IsWrongKind(row) && !Trim(FLEX.TextMatrix(row, received::Code)).empty()) return true;
+  FLEX.Select(row, received::Code);
+  Host.MsgBox(" 거래처코드는 필수입니다.            ", box::Critical, "확인");
+  return false;
+}
+
+StagedRow DT9RECEV::RowToStage(int row, const std::string& transfer) const {
+  const double quantity = ParseNumber(FLEX.TextMatrix(row, received::Quantity));
+  StagedRow staged;
+  staged.Row = row - FLEX.FixedRows() + 1;
+  staged.Id = StagedRowId(transfer, staged.Row);
+  staged.Date = FormatDateValue(Today(), "YYYY-MM-DD");
+  staged.Quantity = NumberText(ReturnMark == "R" ? std::abs(quantity) : quantity);
+  staged.ReturnMark = ReturnMark;
+  staged.UserCode = Session.UserCode;
+  staged.PartyCode = FLEX.TextMatrix(row, received::Code);
+  staged.PartyName = FLEX.TextMatrix(row, received::Party);
+  staged.Inspector = Label7.Caption;
+  staged.ModuleCode = ModuleCode;
+  return staged;
+}
+
+// Products without a barcode exist; a record without one is not theirs.
+bool DT9RECEV::TakeProduct(int row, const RecordsetSlot& products, StagedRow& staged) const {
+  const std::string& barcode = FLEX.TextMatrix(row, received::Barcode);
+  const bool found = !barcode.empty() &&
+                     GoToFirst(products, Splice(" PR_BCODE  = '{barcode}'", "barcode"_a = barcode));
+  const auto field = [&](int number) { return found ? FieldText(products, number) : kBlank; };
+  staged.ShortCode = field(0);
+  staged.TaxMark = TaxMarkOf(field(1));
+  staged.ProductCode = field(2);
+  staged.ProductName = field(3);
+  staged.Standard = field(4);
+  staged.Unit = field(5);
+  return found;
+}
+
+// Returns go with a positive quantity and a negative price.
+std::string DT9RECEV::StagedPrice(int row, const StagedRow& staged) const {
+  const double price = contractFlag_
+                           ? ResolveStorePrice(staged.PartyCode, staged.ProductCode, staged.Date)
+                           : ParseNumber(FLEX.TextMatrix(row, received::Price));
+  return NumberText(ReturnMark == "R" ? -std::abs(price) : price);
+}
+
+}  // namespace store

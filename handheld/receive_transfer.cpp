@@ -1,0 +1,191 @@
+// The terminal's line while a transfer runs.
+#include "basics/numbers.h"
+#include "basics/text.h"
+#include "forms/host.h"
+#include "forms/open_forms.h"
+#include "handheld/DT9RECEV.h"
+#include "handheld/FRM_NAMECHK.h"
+#include "handheld/port_settings.h"
+#include "handheld/wire/replies.h"
+
+namespace store {
+namespace {
+
+constexpr const char* kStart = "수신 시작";
+constexpr const char* kStop = "수신 종료";
+
+// The terminal wants to be left alone for so long on both sides of the reply that opens a transfer.
+constexpr int kBeforeOpening = 400;
+constexpr int kAfterOpening = 200;
+constexpr int kSlice = 20;
+
+/// Holds the work, not the painting.
+void Wait(int milliseconds) {
+  for (int waited = 0; waited < milliseconds; waited += kSlice) {
+    Host.Sleep(kSlice);
+    Host.DoEvents();
+  }
+}
+
+/// What the operator reads about a code; nothing for a notice.
+const char* ErrorText(int code) {
+  switch (code) {
+    case comm::Send:
+    case comm::CtsChanged:
+    case comm::DsrChanged:
+    case comm::CarrierChanged:
+    case comm::Ring:
+    case comm::EndOfFile:
+      return nullptr;
+    case comm::Break:
+      return "중단 신호 수신";
+    case comm::CtsTimeout:
+      return "CTS 시간 초과";
+    case comm::DsrTimeout:
+      return "DSR 시간 초과";
+    case comm::Framing:
+      return "프레이밍 오류";
+    case comm::Overrun:  // a lost byte reads like a wrong one
+    case comm::Parity:
+      return "패리티 오류";
+    case comm::CarrierTimeout:
+      return "반송파 검출 시간 초과";
+    case comm::ReceiveOverflow:
+      return "수신 버퍼 초과";
+    case comm::SendFull:
+      return "전송 버퍼에 여유가 없음";
+    case comm::DeviceBlock:
+      return "DCB 검색 오류";
+    default:
+      return "알 수 없는 오류 또는 이벤트";
+  }
+}
+
+}  // namespace
+
+bool DT9RECEV::AskInspector() {
+  auto* check = dynamic_cast<FRM_NAMECHK*>(TheForm("FRM_NAMECHK"));
+  if (check == nullptr) return false;
+  Host.ShowModal(*check);
+  Label7.Caption = check->InspectorCode;
+  return !Trim(Label7.Caption).empty();
+}
+
+void DT9RECEV::StartOrStop() {
+  if (Command1[1].Caption == kStart) {
+    if (!AskInspector()) return;
+  } else {
+    Label7.Caption.clear();
+  }
+  ResetGrid();
+  Host.SetPointer(PointerArrowHourglass);
+  SetPortOpen(!MSComm1->PortOpen());
+  if (MSComm1->PortOpen()) {
+    ShowReceiving();
+  } else {
+    ShowIdle();
+  }
+  Host.SetPointer(PointerArrow);
+}
+
+// What has arrived belongs to the transfer that it came with.
+void DT9RECEV::SetPortOpen(bool open) {
+  receiver_.Clear();
+  waiting_.clear();
+  TellRefusal(MSComm1->SetPortOpen(open));
+}
+
+void DT9RECEV::ShowIdle() {
+  Command1[1].Caption = kStart;
+  Command1[0].Enabled = true;
+  Command1[2].Enabled = true;
+  Command1[3].Enabled = false;
+}
+
+void DT9RECEV::ShowReceiving() {
+  Command1[1].Caption = kStop;
+  lastRecordValid_ = true;
+  Label1.Caption = FourDigits(0);
+  for (const size_t button : {0, 2, 3}) Command1[button].Enabled = false;
+}
+
+void DT9RECEV::OnCommEvent(int code) {
+  if (code == comm::Receive) {
+    OnHandheldChunk(MSComm1->Input());
+  } else if (ErrorText(code) != nullptr) {
+    InTurn([this, code] { ReportError(code); });
+  }
+}
+
+void DT9RECEV::ReportError(int code) {
+  Host.Beep();
+  const int answer =
+      Host.MsgBox(ErrorText(code), box::Critical + box::OkCancel, "취소후 다시 전송하세요");
+  if (answer == box::Cancel && MSComm1->PortOpen()) SetPortOpen(false);
+}
+
+void DT9RECEV::OnHandheldChunk(const std::string& text) {
+  InTurn([this, text] {
+    Host.DoEvents();
+    Answer(receiver_.Take(text));
+  });
+}
+
+void DT9RECEV::InTurn(std::function<void()> work) {
+  waiting_.push_back(std::move(work));
+  if (busy_) return;
+  busy_ = true;
+  while (!waiting_.empty()) {
+    const std::function<void()> next = std::move(waiting_.front());
+    waiting_.pop_front();
+    next();
+  }
+  busy_ = false;
+}
+
+void DT9RECEV::Answer(const LineMessage& message) {
+  switch (message.Step) {
+    case LineStep::Wait:
+      return;
+    case LineStep::Opening:
+      return AcceptTransfer();
+    case LineStep::Record:
+      return AcceptReceived(message.Record);
+    case LineStep::Closing:
+      return EndTransfer();
+    case LineStep::Reject:
+      return MSComm1->Output(Reject(ackCounter_));
+  }
+}
+
+// The opening is answered with 1, so that the first record gets 2.
+void DT9RECEV::AcceptTransfer() {
+  Wait(kBeforeOpening);
+  MSComm1->Output(AcceptOpening());
+  ackCounter_ = 2;
+  Wait(kAfterOpening);
+}
+
+// A record of a wrong kind is accepted as well, so that the terminal comes to its end.
+void DT9RECEV::AcceptReceived(const std::string& record) {
+  lastRecordValid_ = ParseHandheldRecord(record);
+  MSComm1->Output(AcceptRecord(ackCounter_));
+  Label1.Caption = FourDigits(ackCounter_ - 1);
+  ++ackCounter_;
+}
+
+// The last record decides about the whole transfer.
+void DT9RECEV::EndTransfer() {
+  ShowIdle();
+  if (MSComm1->PortOpen()) SetPortOpen(false);
+  if (!lastRecordValid_) {
+    ResetGrid();
+    Label1.Caption = FourDigits(0);
+  } else if (ParseNumber(Label1.Caption) > 0) {
+    Command1[3].Enabled = true;
+    FillPartnerNames();
+    MarkNewProducts();
+  }
+}
+
+}  // namespace store

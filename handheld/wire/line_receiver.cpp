@@ -1,0 +1,99 @@
+#include "handheld/wire/line_receiver.h"
+
+#include "basics/text.h"
+#include "handheld/wire/replies.h"
+
+namespace store {
+namespace {
+
+constexpr size_t kAbsent = std::string_view::npos;
+
+/// Where a text's character begins as a text of two bytes a character, from 1; 0 when absent. The
+/// cuts below are made at these positions.
+int WidePosition(std::string_view text, size_t at) {
+  return at == kAbsent ? 0 : 2 * CharLength(text.substr(0, at)) + 1;
+}
+
+/// A frame of the buffer: from its STX to its ETX, or to the end while that has not come.
+struct Frame {
+  size_t begin = kAbsent;
+  size_t end = kAbsent;
+
+  bool Holds(size_t at) const { return begin != kAbsent && at > begin && at < end; }
+};
+
+Frame FrameIn(std::string_view buffer) {
+  Frame frame;
+  frame.begin = buffer.find(control::Stx);
+  if (frame.begin != kAbsent) frame.end = buffer.find(control::Etx, frame.begin);
+  return frame;
+}
+
+/// A control byte inside a frame is content.
+bool HasOutside(const Frame& frame, std::string_view buffer, char sought) {
+  size_t at = buffer.find(sought);
+  while (at != kAbsent && frame.Holds(at)) at = buffer.find(sought, at + 1);
+  return at != kAbsent;
+}
+
+bool BeginsMessage(char byte) {
+  return byte == control::Enq || byte == control::Stx || byte == control::Eot;
+}
+
+/// The candidate without its STX and its last three bytes: two that nobody looks at, and the ETX.
+/// Empty when there is no more to it than those.
+std::string RecordOf(std::string_view candidate) {
+  return ByteMid(candidate, 2, ByteLen(candidate) - 4);
+}
+
+}  // namespace
+
+void LineReceiver::Clear() {
+  buffer_.clear();
+  inNoise_ = false;
+}
+
+LineMessage LineReceiver::Take(std::string_view chunk) {
+  buffer_ += chunk;
+  if (buffer_.empty()) return {};
+  // A frame too long to be measured has lost its end.
+  if (!BeginsMessage(buffer_[0]) || ByteLen(buffer_) == 0) return Reject();
+  const std::string candidate = Candidate();
+  if (candidate.empty()) return {};
+  Clear();
+  switch (candidate[0]) {
+    case control::Enq:
+      return {LineStep::Opening, {}};
+    case control::Stx:
+      return {LineStep::Record, RecordOf(candidate)};
+    case control::Eot:
+      return {LineStep::Closing, {}};
+    default:
+      return {LineStep::Reject, {}};
+  }
+}
+
+// A frame that has lost its beginning comes in as many pieces as the line likes. It is told once,
+// or the terminal would take the further rejects for those of what it sends next.
+LineMessage LineReceiver::Reject() {
+  const bool told = inNoise_;
+  const bool ends = buffer_.find(control::Etx) != kAbsent;
+  buffer_.clear();
+  inNoise_ = !ends;
+  if (told) return {};
+  return {LineStep::Reject, {}};
+}
+
+std::string LineReceiver::Candidate() const {
+  const Frame frame = FrameIn(buffer_);
+  if (HasOutside(frame, buffer_, control::Eot)) return ByteMid(buffer_, 1, 1);
+  if (frame.begin == kAbsent) {
+    return HasOutside(frame, buffer_, control::Enq) ? ByteMid(buffer_, 1, 1) : std::string();
+  }
+  // The wide position of the ETX serves as the length: none while the frame is incomplete, and
+  // always more than what is left once it is whole.
+  return ByteMid(buffer_, WidePosition(buffer_, frame.begin),
+                 WidePosition(buffer_, buffer_.find(control::Etx)));
+}
+
+}  // namespace store

@@ -1,0 +1,141 @@
+#include "ui/shots/handheld_shots.h"
+
+#include <fcntl.h>
+#include <pty.h>
+#include <termios.h>
+#include <unistd.h>
+
+#include <array>
+
+#include "basics/text.h"
+#include "forms/host.h"
+#include "gateway/gateway.h"
+#include "handheld/wire/replies.h"
+#include "slips/handheld_runs.h"
+#include "ui/desk.h"
+
+namespace store {
+namespace {
+
+/// The other end of "Com1".
+class Terminal {
+ public:
+  Terminal() {
+    int device = -1;
+    std::array<char, 64> name{};
+    termios raw{};
+    cfmakeraw(&raw);
+    if (openpty(&line_, &device, name.data(), &raw, nullptr) != 0)
+      Director::Fail("no pseudo-terminal");
+    fcntl(line_, F_SETFL, O_NONBLOCK);
+    close(device);
+    qputenv("STORE_COM1", name.data());
+  }
+  void Send(const std::string& text) const {
+    const std::string bytes = ToCodePage949(text);
+    if (write(line_, bytes.data(), bytes.size()) < 0) Director::Fail("the line takes nothing");
+  }
+  /// Whether the program has answered since the last time.
+  bool Answered() const {
+    std::array<char, 64> reply{};
+    return read(line_, reply.data(), reply.size()) > 0;
+  }
+
+ private:
+  int line_ = -1;
+};
+
+std::string Field(const std::string& text, int width) {
+  const std::string cut = ByteLen(text) > width ? ByteMid(text, 1, width) : text;
+  return cut + std::string(static_cast<size_t>(width - ByteLen(cut)), ' ');
+}
+
+struct Scanned {
+  std::string partner;
+  std::string barcode;
+  std::string name;
+  std::string quantity;
+  std::string price;
+};
+
+std::string FrameOf(const Scanned& scanned, int number) {
+  const std::string record = FourDigits(number) + "0" + Field(scanned.partner, 12) +
+                             Field(scanned.barcode, 15) + Field(scanned.name, 20) +
+                             Field(scanned.quantity, 5) + Field(scanned.price, 7);
+  return control::Stx + record + "00" + control::Etx;
+}
+
+/// Goods of the demo franchise, one that the terminal does not know, and one of an unknown partner.
+std::vector<Scanned> Goods() {
+  StringTable rows;
+  std::int32_t count = 0;
+  std::int32_t highest = 0;
+  QueryRows(
+      " SELECT PR_BCTCODE,PR_BCODE,PR_NAME,PR_OP0 FROM PR WHERE PR_BCODE <> '' ORDER BY PR_CODE "
+      "LIMIT 12 ",
+      rows, count, highest);
+  std::vector<Scanned> goods;
+  for (int row = 1; row <= count; ++row) {
+    goods.push_back({rows.At(row, 0), rows.At(row, 1), rows.At(row, 2),
+                     std::to_string(6 + 5 * (row % 4)), rows.At(row, 3)});
+  }
+  if (goods.size() < 4) Director::Fail("no goods to scan");
+  goods[2].name = "신규상품";
+  goods[2].barcode = "8809990000011";
+  goods[3].partner = "999999";
+  return goods;
+}
+
+}  // namespace
+
+void ShootReceive(Director& director) {
+  // The user's own settings of the port are neither read nor written.
+  director.WhenShown("frm_Start", [](FormWindow&) {
+    Host.GetSetting = EmptyHost().GetSetting;
+    Host.SaveSetting = EmptyHost().SaveSetting;
+    OpenHandheldRun(HandheldRuns().front());
+  });
+  director.WhenShown("DT9RECEV", [](FormWindow& window) { Press(window, Qt::Key_F3); });
+  director.WhenShown("frmProperties", [&](FormWindow& window) {
+    Press(window, Qt::Key_F9);
+    director.Save(window, "handheld_port");
+    Press(window, Qt::Key_Escape);
+  });
+  static const Terminal terminal;
+  director.WhenShown("DT9RECEV", [](FormWindow& window) { Press(window, Qt::Key_F5); });
+  director.WhenShown("FRM_NAMECHK", [&](FormWindow& window) {
+    Type(window, "u01");
+    director.Save(window, "handheld_inspector");
+    Press(window, Qt::Key_Enter);
+  });
+  director.WhenShown("DT9RECEV", [&](FormWindow& window) {
+    director.Fit(window);
+    terminal.Send(std::string(1, control::Enq));
+  });
+  constexpr int kScanned = 12;
+  for (int number = 1; number <= kScanned; ++number) {
+    director.When(
+        [] { return terminal.Answered(); },
+        [number] { terminal.Send(FrameOf(Goods().at(static_cast<size_t>(number - 1)), number)); });
+  }
+  director.When([] { return terminal.Answered(); },
+                [&director] {
+                  FormWindow& window = *TheDesk().WindowNamed("DT9RECEV");
+                  director.Save(window, "handheld_receiving");
+                  terminal.Send(std::string(1, control::Eot));
+                });
+  director.When(
+      [] {
+        const FormWindow* window = TheDesk().WindowNamed("DT9RECEV");
+        auto* save = window->findChild<QAbstractButton*>("Command1_3");
+        return save != nullptr && save->isEnabled();
+      },
+      [&director] {
+        FormWindow& window = *TheDesk().WindowNamed("DT9RECEV");
+        GoTo(window, "FLEX", 2, 5);
+        director.Save(window, "handheld_review");
+        Press(window, Qt::Key_Escape);
+      });
+}
+
+}  // namespace store
