@@ -13,6 +13,8 @@ void BenchFilters(RatioTable& table);
 /// How reads and filters grow with the number of items: a database of each size, up to `items`.
 void BenchGrowth(BenchServer& server, int items);
 void BenchPosting(BenchServer& server, RatioTable& table);
+/// Changes the stock of the database that is loaded.
+void BenchHandheldPost(BenchServer& server, RatioTable& table);
 void BenchSmallRead(RatioTable& table);
 void BenchWalk(RatioTable& table);
 // At the real windows; these need `PrepareDesk`.

@@ -71,7 +71,8 @@ void StageDeliveries(ClientLibrary& client) {
       "PS_rctNAME,DT_CHECK,DT_GU) SELECT CONCAT('20260105101500u01',n),'-',PR_CODE,PR_NAME,PR_STD,"
       "PR_UNT,12,PR_OP0,CONCAT('bench',n DIV " +
       std::to_string(kRowsAPartner) +
-      "),CONCAT('거래처',n DIV 100),'검품','23' FROM (SELECT ROW_NUMBER() OVER (ORDER BY PR_CODE)-1 "
+      "),CONCAT('거래처',n DIV 100),'검품','23' FROM (SELECT ROW_NUMBER() OVER (ORDER BY "
+      "PR_CODE)-1 "
       "n,PR.* FROM PR ORDER BY PR_CODE LIMIT " +
       std::to_string(kPartners * kRowsAPartner) + ") p");
 }
@@ -106,19 +107,34 @@ Duel DeliveriesDuel(ClientLibrary& maker, int port, int rounds) {
 }
 
 HeadArray ReceiptHead(const std::string& key) {
-  return {key,      "1",         "2026-01-05", "",  "1001", "성수역점", kSupplier, "참나무커피",
-          "100000", "10000",     "110000",     "0", "0",    "0",        "E005",    " ",
-          " ",      " ",         "u01",        " ", " ",    ""};
+  return {key,      "1",     "2026-01-05", "",  "1001", "성수역점", kSupplier, "참나무커피",
+          "100000", "10000", "110000",     "0", "0",    "0",        "E005",    " ",
+          " ",      " ",     "u01",        " ", " ",    ""};
 }
 
 StringTable ReceiptLines(const std::string& key, const std::vector<std::string>& products) {
   StringTable lines;
   lines.Redim(kLines, line::PostedLast);
   for (int i = 1; i <= kLines; ++i) {
-    const std::vector<std::string> row = {
-        key,  std::to_string(i), "2026-01-05", products[static_cast<size_t>(i - 1)],
-        "고운 신선한 사이다", "1.5L*12", "0", "EA", "2", "2", "0", "500", "1000", "100", "u01", "0",
-        "", "100101", "매장창고"};
+    const std::vector<std::string> row = {key,
+                                          std::to_string(i),
+                                          "2026-01-05",
+                                          products[static_cast<size_t>(i - 1)],
+                                          "고운 신선한 사이다",
+                                          "1.5L*12",
+                                          "0",
+                                          "EA",
+                                          "2",
+                                          "2",
+                                          "0",
+                                          "500",
+                                          "1000",
+                                          "100",
+                                          "u01",
+                                          "0",
+                                          "",
+                                          "100101",
+                                          "매장창고"};
     for (size_t column = 0; column < row.size(); ++column) {
       lines.Set(i, static_cast<int>(column), row[column]);
     }

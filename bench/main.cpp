@@ -30,6 +30,7 @@ void BenchWindows(BenchServer& server, RatioTable& table, int saleLines) {
   BenchCategoryView(server, table);
   BenchBoard(server, table);
   BenchProposal(server, table, saleLines);
+  BenchHandheldPost(server, table);
 }
 
 }  // namespace

@@ -29,6 +29,7 @@ void WriteFranchise(std::ostream& out, const Franchise& franchise, const std::st
   Use(out, database);
   WriteMasters(out, franchise);
   WriteTrade(out, franchise);
+  WriteStaged(out, franchise);
   Use(out, "master");
   out << "DELETE FROM COMPANY WHERE COM_ID = " << Quoted(database) << ";\n";
   TableWriter(out, "COMPANY", "COM_ID,DB_HostnameIP,DB_Database,DB_User")

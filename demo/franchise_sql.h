@@ -11,8 +11,10 @@ namespace store::demo {
 /// the directory database "master", which must hold its table too. `database` is the company id.
 void WriteFranchise(std::ostream& out, const Franchise& franchise, const std::string& database);
 
-/// The two halves of it: what head office maintains, and what the stores wrote.
+/// The parts of it: what head office maintains, what the stores wrote, and what a terminal has
+/// sent.
 void WriteMasters(std::ostream& out, const Franchise& franchise);
 void WriteTrade(std::ostream& out, const Franchise& franchise);
+void WriteStaged(std::ostream& out, const Franchise& franchise);
 
 }  // namespace store::demo

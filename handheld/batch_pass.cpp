@@ -187,7 +187,7 @@ void FRM_DT900_01::ReportShipments() {
   const int shipments = pass_.Shipments + static_cast<int>(pass_.NotShipped.size());
   if (shipments == 1) return Report(pass_.NotShipped.empty() ? Sent::Stored : pass_.LastFailure);
   if (pass_.NotShipped.empty()) {
-    return ReportStored(std::string(kStored) + " (전표 " + std::to_string(shipments) + "건)");
+    return ReportStored("전표 " + std::to_string(shipments) + "건의 저장이 완료되었습니다.");
   }
   std::string stores;
   for (const std::string& name : pass_.NotShipped) stores += (stores.empty() ? "" : ", ") + name;

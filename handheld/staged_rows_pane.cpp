@@ -51,7 +51,7 @@ std::string StockStatement(const std::string& depot) {
 }
 
 std::string ProductCriteria(const std::string& code) {
-  return Splice(" PR_CODE = '{code}' ", "code"_a = code);
+  return Splice(" PR_CODE = '{code}'", "code"_a = code);
 }
 
 std::string FirstWord(const std::string& text) {
@@ -171,6 +171,7 @@ void StagedRowsPane::ShowRows(const StringTable& rows, std::int32_t count) {
     if (IsSurvey()) ShowStock(stock, row, onFile);
     RecalcRow(row);
   }
+  FLEX.Select(FLEX.FixedRows(), staged::Tick);
   ShowTicked();
 }
 
@@ -250,9 +251,10 @@ void StagedRowsPane::ShowTicked() {
     supply += ParseGrouped(FLEX.TextMatrix(row, staged::Supply));
     tax += ParseGrouped(FLEX.TextMatrix(row, staged::Tax));
   }
-  Label2[0].Caption = std::to_string(count);
-  Label2[1].Caption = FormatNumber(supply, FormatAmount);
-  Label2[2].Caption = FormatNumber(tax, FormatAmount);
+  Label2[0].Caption = "선택 " + std::to_string(count) + "건";
+  if (IsSurvey()) return;
+  Label2[1].Caption = "공급가액 " + FormatNumber(supply, FormatAmount);
+  Label2[2].Caption = "부가세 " + FormatNumber(tax, FormatAmount);
 }
 
 void StagedRowsPane::ClearStatusLater() {

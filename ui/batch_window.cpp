@@ -22,6 +22,8 @@ namespace store {
 namespace {
 
 constexpr QSize kSize(1024, 720);
+constexpr int kDepotLetters = 16;
+constexpr int kGap = 12;
 constexpr int kMarkAlone = 1;  // a tax mark without a product code behind it
 
 }  // namespace
@@ -40,13 +42,13 @@ BatchWindow::BatchWindow(FRM_DT900_01& form) : FormWindow(form), batch_(form) {
 QWidget* BatchWindow::Header() {
   auto* depot = Named("Combo1", new QComboBox);
   depot->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-  depot->setMinimumContentsLength(8);
+  depot->setMinimumContentsLength(kDepotLetters);
   auto* row = Row();
   row->addWidget(HeadingLabel("핸디터미널처리"));
   row->addWidget(Named("LaRun", HeadingLabel({})));
   row->addStretch();
   row->addWidget(CaptionLabel("하치장"));
-  row->addWidget(depot, 2);
+  row->addWidget(depot);
   row->addWidget(CaptionLabel("일자"));
   row->addWidget(Named("DTPicker1", new QDateEdit));
   row->addWidget(Named("Command1_1", new KeyButton({}, Qt::Key_Escape)));
@@ -88,10 +90,9 @@ QWidget* BatchWindow::Foot() {
   auto* message = Named("LBL_MSG", new ElidedLabel);
   auto* row = Row();
   row->addWidget(message, 1);
-  const std::array<const char*, 3> captions = {"선택 건수", "공급가액", "부가세"};
   for (int i = 0; i < 3; ++i) {
-    row->addWidget(CaptionLabel(captions[static_cast<size_t>(i)]));
     row->addWidget(Named(QString("Label2_%1").arg(i), new QLabel));
+    row->addSpacing(kGap);
   }
   auto* remove = Named("Command1_4", new KeyButton({}, QKeySequence(Qt::CTRL | Qt::Key_Delete)));
   auto* make = Named("Command1_3", new KeyButton({}, Qt::Key_F9));

@@ -104,7 +104,7 @@ TEST_F(BatchPass, NeverGivesTwoSurveysOneKey) {
 TEST_F(BatchPass, SendsEachStoreItsShipmentInABatchOfItsOwn) {
   StageTwoStores();
   Open("14");
-  host.ExpectBox("저장이 완료되었습니다. (전표 2건)");
+  host.ExpectBox("전표 2건의 저장이 완료되었습니다.");
   MakeSlips();
   EXPECT_EQ(Slips("PEM13", "PSM13"), "0001 1000 2 1840,0003 1002 1 3850");
   EXPECT_EQ(Value("SELECT GROUP_CONCAT(RIGHT(PE_ID,4),' ',PE_FCTCODE ORDER BY PE_ID) FROM PES23"),

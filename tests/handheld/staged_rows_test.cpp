@@ -43,7 +43,7 @@ TEST_F(StagedRows, AreTickedByHandOrAllTogether) {
   Tick(2, false);
   EXPECT_EQ(ticks(), "1,0,1");
   EXPECT_EQ(form.Label2[0].Caption + " " + form.Label2[1].Caption + " " + form.Label2[2].Caption,
-            "2 9,800 980");
+            "선택 2건 공급가액 9,800 부가세 980");
   form.Option1_Click(1);
   EXPECT_EQ(ticks(), "0,1,0");
   EXPECT_FALSE(form.CollectTickedIds());
