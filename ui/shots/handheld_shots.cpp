@@ -107,10 +107,13 @@ void ShootReceive(Director& director) {
     director.Fit(window);
     terminal.Send(std::string(1, control::Enq));
   });
-  int number = 0;
-  for (const Scanned& scanned : Goods()) {
+  constexpr int kRecords = 24;
+  for (int number = 1; number <= kRecords; ++number) {
     director.When([] { return terminal.Answered(); },
-                  [scanned, sequence = ++number] { terminal.Send(FrameOf(scanned, sequence)); });
+                  [number] {
+                    const size_t at = static_cast<size_t>(number - 1) % Goods().size();
+                    terminal.Send(FrameOf(Goods()[at], number));
+                  });
   }
   director.When([] { return terminal.Answered(); },
                 [&director] {
