@@ -51,6 +51,10 @@ class DT9RECEV : public HandheldForm {
   /// The terminal's line. Never nothing.
   std::unique_ptr<SerialPort> MSComm1;
 
+  int AckCounter = 0;            ///< The number of the next reply; set when a transfer opens.
+  bool LastRecordValid = false;  ///< Whether the last record was of the kind of this run.
+  bool ContractFlag = false;     ///< This save takes the contract prices.
+
   void Load() override;
   void Activate() override;
   bool QueryUnload() override;
@@ -112,10 +116,7 @@ class DT9RECEV : public HandheldForm {
   LineReceiver receiver_;
   std::deque<std::function<void()>> waiting_;  // what the line has brought meanwhile
   bool busy_ = false;                          // a piece of it is being worked at
-  int ackCounter_ = 0;                         // the number of the next reply
-  bool lastRecordValid_ = false;
-  bool contractFlag_ = false;  // this save takes the contract prices
-  std::string taxColumn_;      // of the product table, for this run
+  std::string taxColumn_;                      // of the product table, for this run
 };
 
 }  // namespace store

@@ -34,7 +34,7 @@ void Tell(bool saved) {
 // not staged.
 void DT9RECEV::Save() {
   if (Trim(Label7.Caption).empty() && !AskInspector()) return;
-  contractFlag_ =
+  ContractFlag =
       ModuleCode == "14" && Host.MsgBox("판매자료를 계약가형태로 저장하시겠습니까?   ",
                                         box::YesNo + box::Question, "계약가 적용유무") == box::Yes;
   Host.SetPointer(PointerHourglass);
@@ -110,7 +110,7 @@ bool DT9RECEV::TakeProduct(int row, const RecordsetSlot& products, StagedRow& st
 
 // Returns go with a positive quantity and a negative price.
 std::string DT9RECEV::StagedPrice(int row, const StagedRow& staged) const {
-  const double price = contractFlag_
+  const double price = ContractFlag
                            ? ResolveStorePrice(staged.PartyCode, staged.ProductCode, staged.Date)
                            : ParseNumber(FLEX.TextMatrix(row, received::Price));
   return NumberText(ReturnMark == "R" ? -std::abs(price) : price);

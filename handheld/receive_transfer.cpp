@@ -104,7 +104,7 @@ void DT9RECEV::ShowIdle() {
 
 void DT9RECEV::ShowReceiving() {
   Command1[1].Caption = kStop;
-  lastRecordValid_ = true;
+  LastRecordValid = true;
   Label1.Caption = FourDigits(0);
   for (const size_t button : {0, 2, 3}) Command1[button].Enabled = false;
 }
@@ -119,8 +119,7 @@ void DT9RECEV::OnCommEvent(int code) {
 
 void DT9RECEV::ReportError(int code) {
   Host.Beep();
-  const int answer =
-      Host.MsgBox(ErrorText(code), box::Critical + box::OkCancel, "취소후 다시 전송하세요");
+  const int answer = Host.MsgBox(ErrorText(code), box::OkCancel, "취소후 다시 전송하세요");
   if (answer == box::Cancel && MSComm1->PortOpen()) SetPortOpen(false);
 }
 
@@ -154,7 +153,7 @@ void DT9RECEV::Answer(const LineMessage& message) {
     case LineStep::Closing:
       return EndTransfer();
     case LineStep::Reject:
-      return MSComm1->Output(Reject(ackCounter_));
+      return MSComm1->Output(Reject(AckCounter));
   }
 }
 
@@ -162,23 +161,25 @@ void DT9RECEV::Answer(const LineMessage& message) {
 void DT9RECEV::AcceptTransfer() {
   Wait(kBeforeOpening);
   MSComm1->Output(AcceptOpening());
-  ackCounter_ = 2;
+  AckCounter = 2;
   Wait(kAfterOpening);
 }
 
 // A record of a wrong kind is accepted as well, so that the terminal comes to its end.
 void DT9RECEV::AcceptReceived(const std::string& record) {
-  lastRecordValid_ = ParseHandheldRecord(record);
-  MSComm1->Output(AcceptRecord(ackCounter_));
-  Label1.Caption = FourDigits(ackCounter_ - 1);
-  ++ackCounter_;
+  LastRecordValid = ParseHandheldRecord(record);
+  FLEX.SetTopRow(FLEX.Rows());  // the newest row stays in view
+  MSComm1->Output(AcceptRecord(AckCounter));
+  Label1.Caption = FourDigits(AckCounter - 1);
+  ++AckCounter;
 }
 
 // The last record decides about the whole transfer.
 void DT9RECEV::EndTransfer() {
   ShowIdle();
   if (MSComm1->PortOpen()) SetPortOpen(false);
-  if (!lastRecordValid_) {
+  FLEX.SetTopRow(0);
+  if (!LastRecordValid) {
     ResetGrid();
     Label1.Caption = FourDigits(0);
   } else if (ParseNumber(Label1.Caption) > 0) {

@@ -29,7 +29,9 @@ TEST_F(ReceiveTransfer, ATransferIsAnsweredAndShown) {
   host.Port->Arrive(FrameOf(Trade("0001", "C0001", "8801000", "00012", "0000480")));
   EXPECT_EQ(form.Label1.Caption, "0001");
   host.Port->Arrive(FrameOf(TradeRecord('0', "0002", "C0002", "99", "신규상품", "3", "150")));
+  EXPECT_EQ(form.FLEX.TopRow(), 1) << "the newest row is in view";
   host.Port->Arrive(kClosing);
+  EXPECT_EQ(form.FLEX.TopRow(), 0);
 
   EXPECT_EQ(host.Port->Sent, (Texts{AckText("0001"), AckText("0002"), AckText("0003")}));
   EXPECT_FALSE(host.Port->PortOpen());
@@ -188,7 +190,7 @@ TEST_F(ReceiveTransfer, ErrorsOfTheLineAreTold) {
     host.ExpectBox("취소후 다시 전송하세요", box::Ok);
     host.Port->OnComm(code);
     EXPECT_EQ(host.Boxes.back().Text, text) << code;
-    EXPECT_TRUE((host.Boxes.back().Style & box::OkCancel) != 0);
+    EXPECT_EQ(host.Boxes.back().Style, box::OkCancel);
   }
   EXPECT_EQ(host.Beeps, static_cast<int>(errors.size()));
   for (const int notice : {1, 3, 4, 5, 6, 7}) host.Port->OnComm(notice);

@@ -165,8 +165,9 @@ class RealTransfer : public ReceiveDesk {
   RealTransfer() {
     Host.MakeSerialPort = MakeSerialPort;
     Host.DoEvents = [] { QCoreApplication::processEvents(); };
-    Host.Sleep = [](int milliseconds) {
+    Host.Sleep = [this](int milliseconds) {
       QThread::msleep(static_cast<unsigned long>(milliseconds));
+      if (DuringWait) DuringWait();
     };
     terminal.emplace();
     setenv("STORE_COM1", terminal->Device().c_str(), 1);
@@ -197,15 +198,24 @@ class RealTransfer : public ReceiveDesk {
   }
 
   std::optional<PseudoTerminal> terminal;
+  std::function<void()> DuringWait;
 };
 
 TEST_F(RealTransfer, ComesOverTheLine) {
   DT9RECEV& form = Open();
   Start(form);
-  EXPECT_EQ(ReplyTo(kOpening, false), AckText("0001"));
   const std::string first = TradeRecord('0', "0001", "C0001", "8801000", "맑은생수", "12", "480");
-  // The terminal does not wait until the pause behind its opening is over.
-  EXPECT_EQ(ReplyTo(FrameOf(first), false), AckText("0002"));
+  // The terminal does not wait until the pause behind the reply is over.
+  std::string opened;
+  DuringWait = [&] {
+    opened += terminal->Take();
+    if (opened != AckText("0001")) return;
+    terminal->Send(FrameOf(first));
+    opened += "!";
+  };
+  EXPECT_EQ(ReplyTo(kOpening, false), AckText("0002"));
+  EXPECT_EQ(opened, AckText("0001") + "!");
+  DuringWait = nullptr;
   const std::string second = TradeRecord('0', "0002", "C0002", "88010004", "참기름", "3", "5500");
   EXPECT_EQ(ReplyTo(FrameOf(second), true), AckText("0003"));
   terminal->Send(kClosing);

@@ -6,10 +6,10 @@
 #include <unistd.h>
 
 #include <array>
+#include <vector>
 
 #include "basics/text.h"
 #include "forms/host.h"
-#include "gateway/gateway.h"
 #include "handheld/wire/replies.h"
 #include "slips/handheld_runs.h"
 #include "ui/desk.h"
@@ -65,24 +65,19 @@ std::string FrameOf(const Scanned& scanned, int number) {
   return control::Stx + record + "00" + control::Etx;
 }
 
-/// Goods of the demo franchise, one that the terminal does not know, and one of an unknown partner.
-std::vector<Scanned> Goods() {
-  StringTable rows;
-  std::int32_t count = 0;
-  std::int32_t highest = 0;
-  QueryRows(
-      " SELECT PR_BCTCODE,PR_BCODE,PR_NAME,PR_OP0 FROM PR WHERE PR_BCODE <> '' ORDER BY PR_CODE "
-      "LIMIT 12 ",
-      rows, count, highest);
-  std::vector<Scanned> goods;
-  for (int row = 1; row <= count; ++row) {
-    goods.push_back({rows.At(row, 0), rows.At(row, 1), rows.At(row, 2),
-                     std::to_string(6 + 5 * (row % 4)), rows.At(row, 3)});
-  }
-  if (goods.size() < 4) Director::Fail("no goods to scan");
-  goods[2].name = "신규상품";
-  goods[2].barcode = "8809990000011";
-  goods[3].partner = "999999";
+/// Goods from partners of the demo franchise, one that the terminal does not know, and one of a
+/// partner that nobody knows.
+const std::vector<Scanned>& Goods() {
+  static const std::vector<Scanned> goods = {
+      {"10018", "8801043953016", "토담 유기농 된장찌개", "12", "24260"},
+      {"10018", "8805948539818", "ECO 튼튼한 수세미", "24", "1850"},
+      {"10018", "8809990000011", "신규상품", "6", "3200"},
+      {"999999", "8806012148615", "자연숲 우유 XL", "10", "2500"},
+      {"10010", "8808665145195", "수제 감자스틱", "48", "810"},
+      {"10010", "8803633340794", "골드 초코우유", "3", "51300"},
+      {"10010", "8802475741288", "국산 수정과 라이트", "5", "29700"},
+      {"10011", "8807443936888", "순한 치약 혼합", "30", "2240"},
+  };
   return goods;
 }
 
@@ -112,11 +107,13 @@ void ShootReceive(Director& director) {
     director.Fit(window);
     terminal.Send(std::string(1, control::Enq));
   });
-  constexpr int kScanned = 12;
-  for (int number = 1; number <= kScanned; ++number) {
-    director.When(
-        [] { return terminal.Answered(); },
-        [number] { terminal.Send(FrameOf(Goods().at(static_cast<size_t>(number - 1)), number)); });
+  constexpr int kRecords = 24;
+  for (int number = 1; number <= kRecords; ++number) {
+    director.When([] { return terminal.Answered(); },
+                  [number] {
+                    const size_t at = static_cast<size_t>(number - 1) % Goods().size();
+                    terminal.Send(FrameOf(Goods()[at], number));
+                  });
   }
   director.When([] { return terminal.Answered(); },
                 [&director] {
