@@ -15,6 +15,8 @@ void BenchGrowth(BenchServer& server, int items);
 void BenchPosting(BenchServer& server, RatioTable& table);
 /// Changes the stock of the database that is loaded.
 void BenchHandheldPost(BenchServer& server, RatioTable& table);
+/// From the terminal's line to the staging table, and the products to its cradle.
+void BenchHandheld(RatioTable& table);
 void BenchSmallRead(RatioTable& table);
 void BenchWalk(RatioTable& table);
 // At the real windows; these need `PrepareDesk`.

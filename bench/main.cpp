@@ -57,6 +57,7 @@ int main(int argc, char** argv) {
   BenchSmallRead(table);
   BenchPosting(server, table);
   BenchWalk(table);
+  BenchHandheld(table);
   BenchWindows(server, table, quick ? 100000 : 1000000);
   server.Load(kDemo, 3000, 200);
   BenchStart(server, table);

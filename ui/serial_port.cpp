@@ -22,12 +22,13 @@ constexpr bool kHasOneAndHalfStop = true;
 constexpr bool kHasOneAndHalfStop = false;
 #endif
 
+/// At first as the platform's layer begins.
 struct LineSettings {
-  qint32 speed = 0;
+  qint32 speed = 9600;
   char parity = 'n';
   QSerialPort::Parity parityKind = QSerialPort::NoParity;
   QSerialPort::DataBits dataBits = QSerialPort::Data8;
-  QString stopBits;
+  QString stopBits = "1";
   QSerialPort::StopBits stopKind = QSerialPort::OneStop;
 };
 
@@ -88,7 +89,6 @@ class RealSerialPort : public SerialPort {
     QObject::connect(&line_, &QSerialPort::readyRead, &line_, [this] { TakeArrived(); });
     QObject::connect(&line_, &QSerialPort::errorOccurred, &line_,
                      [this](QSerialPort::SerialPortError error) { NoteError(error); });
-    SetSettings("9600,n,8,1");
   }
 
   int CommPort() const override { return port_; }

@@ -56,8 +56,9 @@ void LineReceiver::Clear() {
 LineMessage LineReceiver::Take(std::string_view chunk) {
   buffer_ += chunk;
   if (buffer_.empty()) return {};
-  // A frame too long to be measured has lost its end.
-  if (!BeginsMessage(buffer_[0]) || ByteLen(buffer_) == 0) return Reject();
+  if (!BeginsMessage(buffer_[0])) return Reject();
+  inNoise_ = false;
+  if (ByteLen(buffer_) == 0) return Reject();  // too long to be measured: it has lost its end
   const std::string candidate = Candidate();
   if (candidate.empty()) return {};
   Clear();

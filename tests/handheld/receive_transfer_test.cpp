@@ -84,6 +84,21 @@ TEST_F(ReceiveTransfer, WithoutAKindEveryRecordIsWrong) {
   EXPECT_FALSE(form.ParseHandheldRecord(Trade("0001", "C0001", "8801000", "1", "1")));
 }
 
+TEST_F(ReceiveTransfer, EveryRunTakesAKindOfTheTerminal) {
+  int runs = 0;
+  for (const HandheldRun& run : HandheldRuns()) {
+    if (std::string(run.FormName) != "DT9RECEV") continue;
+    DT9RECEV& form = Open(run.KindCaption, run.ModuleCode, run.ReturnMark);
+    int taken = 0;
+    for (const char kind : std::string("0123456"))
+      taken += form.ParseHandheldRecord(Trade("1", "", "1", "1", "1", kind)) ? 1 : 0;
+    EXPECT_EQ(taken, 1) << run.MenuText;
+    form.Close();
+    ++runs;
+  }
+  EXPECT_EQ(runs, 7);
+}
+
 TEST_F(ReceiveTransfer, RejectsDoNotCount) {
   DT9RECEV& form = Open();
   Inspector("u02");
