@@ -39,6 +39,8 @@ TEST(GridModel, ShowsByFormatAndHoldsTheText) {
   EXPECT_EQ(model.index(0, 2).data(Qt::CheckStateRole).toInt(), Qt::Checked);
   EXPECT_EQ(model.index(1, 2).data(Qt::CheckStateRole).toInt(), Qt::Unchecked);
   EXPECT_FALSE(model.index(0, 0).data(Qt::CheckStateRole).isValid());
+  grid.SetTextMatrix(2, 2, "1");
+  EXPECT_EQ(model.index(1, 2).data(Qt::CheckStateRole).toInt(), Qt::Checked);
   EXPECT_EQ(grid.TextMatrix(1, 1), "1234.5");
 }
 
