@@ -18,7 +18,7 @@ constexpr int kPartners = 20;
 constexpr int kRowsAPartner = 100;
 constexpr int kLines = 100;
 
-bool IsCount(const std::string& statement) { return statement.find("count(*)") < 12; }
+bool IsCount(const std::string& statement) { return statement.starts_with("select count(*)"); }
 
 /// Sends what a poster sends, but each statement by itself over one connection: the counts first,
 /// then everything that writes, in one transaction.
@@ -54,7 +54,7 @@ std::vector<std::string> Joined(std::vector<std::string> first,
   return first;
 }
 
-/// Sums `count` products of the database, each with a row of stock in the depot.
+/// The store holds so many products, each with one row of stock in its depot.
 void GiveStock(ClientLibrary& client, int count) {
   client.Run("DELETE FROM IV WHERE RCT_CODE='1001' AND HCT_CODE='100101'");
   client.Run(

@@ -91,6 +91,7 @@ void AddMovement(const HeadFields& head, const std::vector<LineFields>& lines,
   const std::string month = FormatDateText(head.Field(head::Date), "YYYYMM");
   const std::string& kind = movement.PartyKind;
   std::vector<std::string> counts;
+  counts.reserve(lines.size() + 1);
   for (const LineFields& line : lines) counts.push_back(StockCountStatement(line, store));
   if (movesBalance) counts.push_back(BalanceCountStatement(head, kind, month));
   const std::vector<bool> ones = CountOne(counts);
