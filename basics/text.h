@@ -17,8 +17,8 @@ std::string ToCodePage949(std::string_view text);
 /// Code page 949 to UTF-8. Each byte that is part of no letter gives one U+FFFD.
 std::string FromCodePage949(std::string_view bytes);
 
-/// Takes what has arrived of a text in code page 949 out of `bytes` and decodes it. The first half of
-/// a letter at the end is left there: its other byte comes later.
+/// Takes what has arrived of a text in code page 949 out of `bytes` and decodes it. The first half
+/// of a letter at the end is left there: its other byte comes later.
 std::string TakeWholeLetters(std::string& bytes);
 
 /// `length` bytes (fewer where the text ends) of the text in code page 949 from byte `start`,

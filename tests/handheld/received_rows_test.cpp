@@ -78,7 +78,7 @@ TEST_F(ReceivedRows, TheNewPartnerIsLookedUp) {
     host.OnModal(window,
                  [&](Form& lookup) { dynamic_cast<LookupForm&>(lookup).ResultCode = code; });
     form.Press(Key::F1);
-    const std::string text = form.Text1[1].Text();
+    std::string text = form.Text1[1].Text();
     form.Close();
     return text;
   };
