@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QPixmap>
 #include <QTableView>
 #include <QTextStream>
 #include <QTimer>
@@ -29,7 +30,11 @@ void Director::WhenShown(const std::string& form, std::function<void(FormWindow&
 
 void Director::Save(QWidget& window, const QString& name) {
   Settle();
-  if (!window.grab().save(folder_.filePath(name + ".png"))) Fail("cannot write " + name);
+  Keep(window.grab(), name);
+}
+
+void Director::Keep(const QPixmap& picture, const QString& name) {
+  if (!picture.save(folder_.filePath(name + ".png"))) Fail("cannot write " + name);
   QTextStream(stdout) << name << Qt::endl;
 }
 

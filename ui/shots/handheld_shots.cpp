@@ -5,6 +5,8 @@
 #include <termios.h>
 #include <unistd.h>
 
+#include <QApplication>
+#include <QPainter>
 #include <array>
 #include <vector>
 
@@ -133,6 +135,25 @@ void ShootReceive(Director& director) {
         director.Save(window, "handheld_review");
         Press(window, Qt::Key_Escape);
       });
+}
+
+void ShootCradle(Director& director) {
+  director.WhenShown("frm_Start", [](FormWindow& window) { Press(window, Qt::Key_F7); });
+  director.When([] { return QApplication::activePopupWidget() != nullptr; },
+                [&director] {
+                  // The menu is a window of its own; a person sees both.
+                  FormWindow& window = *TheDesk().WindowNamed("frm_Start");
+                  QWidget& menu = *QApplication::activePopupWidget();
+                  QPixmap both = window.grab();
+                  QPainter(&both).drawPixmap(window.mapFromGlobal(menu.pos()), menu.grab());
+                  director.Keep(both, "handheld_menu");
+                  menu.close();
+                  Dispatch([] { OpenHandheldRun(HandheldRuns().back()); });
+                });
+  director.WhenShown("FRM_CRDIMP", [&](FormWindow& window) {
+    director.Save(window, "handheld_cradle");
+    Press(window, Qt::Key_Escape);
+  });
 }
 
 }  // namespace store

@@ -175,6 +175,7 @@ int main(int argc, char** argv) {
   store::ShootLookups(director);
   store::ShootNewProduct(director);
   store::ShootReceive(director);
+  store::ShootCradle(director);
   store::ShootBoxes(director);
   director.When([] { return true; }, [] { QCoreApplication::exit(); });
   bool goesOn = false;
