@@ -38,11 +38,13 @@ std::string TextOf(const std::filesystem::path& path) {
 /// Notes an include, "lookup/NEW_PR.h" of the folder "lookup", that a file's room does not allow.
 void HoldToRoom(const std::string& include, const std::string& other, const std::string& shownAs,
                 LayerFolder& folder) {
-  for (const auto& [room, allowed] : kRooms) {
-    if (!shownAs.starts_with(room + "/")) continue;
-    if (!allowed.contains(other) && !include.starts_with(room + "/"))
-      folder.RoomFaults.push_back(shownAs + ": " + include + " does not belong into " + room);
-  }
+  const auto room = std::find_if(kRooms.begin(), kRooms.end(), [&](const auto& each) {
+    return shownAs.starts_with(each.first + "/");
+  });
+  if (room == kRooms.end()) return;
+  const auto& [name, allowed] = *room;
+  if (allowed.contains(other) || include.starts_with(name + "/")) return;
+  folder.RoomFaults.push_back(shownAs + ": " + include + " does not belong into " + name);
 }
 
 void ReadIncludes(const std::filesystem::path& file, const std::string& shownAs,
