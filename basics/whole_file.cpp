@@ -78,7 +78,7 @@ std::string ReplaceFile(const std::string& path, const std::string& bytes) {
   const std::string fresh = path + ".new";
   if (!WriteFresh(fresh, path, bytes) || std::rename(fresh.c_str(), path.c_str()) != 0) {
     const std::string refusal = std::strerror(errno);
-    std::remove(fresh.c_str());
+    ::unlink(fresh.c_str());
     return refusal;
   }
   SyncFolderOf(path);
