@@ -1,5 +1,8 @@
 #include "handheld/wire/line_receiver.h"
 
+#include <cstdint>
+#include <limits>
+
 #include "basics/text.h"
 #include "handheld/wire/replies.h"
 
@@ -40,6 +43,12 @@ bool BeginsMessage(char byte) {
   return byte == control::Enq || byte == control::Stx || byte == control::Eot;
 }
 
+/// No text has more bytes in the code page than it has here, so that a short one, which comes with
+/// every byte of the line, is not converted for this.
+bool IsTooLongToMeasure(std::string_view buffer) {
+  return buffer.size() > std::numeric_limits<std::int16_t>::max() && ByteLen(buffer) == 0;
+}
+
 /// The candidate without its STX and its last three bytes: two that nobody looks at, and the ETX.
 /// Empty when there is no more to it than those.
 std::string RecordOf(std::string_view candidate) {
@@ -58,7 +67,7 @@ LineMessage LineReceiver::Take(std::string_view chunk) {
   if (buffer_.empty()) return {};
   if (!BeginsMessage(buffer_[0])) return Reject();
   inNoise_ = false;
-  if (ByteLen(buffer_) == 0) return Reject();  // too long to be measured: it has lost its end
+  if (IsTooLongToMeasure(buffer_)) return Reject();  // it has lost its end
   const std::string candidate = Candidate();
   if (candidate.empty()) return {};
   Clear();
