@@ -1,10 +1,14 @@
 // The real port on a real device of the system, by itself and under the receive form.
 #include "ui/serial_port.h"
 
+#include <linux/capability.h>
 #include <stdlib.h>
+#include <sys/syscall.h>
 #include <termios.h>
+#include <unistd.h>
 
 #include <QtTest>
+#include <array>
 #include <optional>
 
 #include "tests/handheld/pseudo_terminal.h"
@@ -102,6 +106,34 @@ TEST_F(RealPort, TellsWhyItCannotBeOpened) {
   EXPECT_NE(port->SetCommPort(2), "") << "an open one keeps its number";
   QTest::qWait(20);
   EXPECT_EQ(codes, std::vector<int>()) << "a refusal is no event";
+}
+
+/// While it lives, this program is refused what an administrator of the machine is not.
+class OrdinaryRights {
+ public:
+  OrdinaryRights() {
+    EXPECT_EQ(syscall(SYS_capget, &header_, all_.data()), 0);
+    auto fewer = all_;
+    fewer[0].effective &= ~(1U << CAP_SYS_ADMIN);
+    EXPECT_EQ(syscall(SYS_capset, &header_, fewer.data()), 0);
+  }
+  ~OrdinaryRights() { EXPECT_EQ(syscall(SYS_capset, &header_, all_.data()), 0); }
+  OrdinaryRights(const OrdinaryRights&) = delete;
+  OrdinaryRights& operator=(const OrdinaryRights&) = delete;
+
+ private:
+  __user_cap_header_struct header_{_LINUX_CAPABILITY_VERSION_3, 0};
+  std::array<__user_cap_data_struct, 2> all_{};
+};
+
+TEST_F(RealPort, OneProgramHasItAtATime) {
+  const OrdinaryRights rights;
+  const std::unique_ptr<SerialPort> other = MakeSerialPort();
+  ASSERT_EQ(other->SetPortOpen(true), "");
+  EXPECT_NE(port->SetPortOpen(true), "");
+  EXPECT_FALSE(port->PortOpen());
+  ASSERT_EQ(other->SetPortOpen(false), "");
+  EXPECT_EQ(port->SetPortOpen(true), "");
 }
 
 TEST_F(RealPort, TakesTheSettingsOfItsPlatform) {
