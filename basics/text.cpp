@@ -10,6 +10,9 @@ namespace {
 
 constexpr std::string_view kReplacement = "\xEF\xBF\xBD";  // U+FFFD
 
+// No letter, like some others, but the one that the system's table takes before it stops at it.
+constexpr std::string_view kLostPair = "\xA2\xE8";
+
 bool IsContinuation(char byte) { return (static_cast<unsigned char>(byte) & 0xC0) == 0x80; }
 
 bool IsAscii(std::string_view text) {
@@ -26,8 +29,8 @@ class Converter {
   Converter& operator=(const Converter&) = delete;
 
   // Converts as far as possible and drops what was converted from `rest`. `out` is grown as needed,
-  // at most by `perByte` bytes for each byte of `rest`.
-  void Convert(std::string_view& rest, std::string& out, size_t perByte) {
+  // at most by `perByte` bytes for each byte of `rest`. False when it had to stop.
+  bool Convert(std::string_view& rest, std::string& out, size_t perByte) {
     const size_t before = out.size();
     out.resize(before + rest.size() * perByte);
     char* from = const_cast<char*>(rest.data());  // iconv's signature; it does not write there
@@ -35,9 +38,10 @@ class Converter {
     size_t fromLeft = rest.size();
     size_t toLeft = out.size() - before;
     iconv(descriptor_, nullptr, nullptr, nullptr, nullptr);
-    iconv(descriptor_, &from, &fromLeft, &to, &toLeft);
+    const size_t result = iconv(descriptor_, &from, &fromLeft, &to, &toLeft);
     out.resize(out.size() - toLeft);
     rest.remove_prefix(rest.size() - fromLeft);
+    return result != static_cast<size_t>(-1);
   }
 
  private:
@@ -60,9 +64,7 @@ std::string ToCodePage949(std::string_view text) {
   if (IsAscii(text)) return std::string(text);
   static Converter converter("CP949", "UTF-8");
   std::string out;
-  while (!text.empty()) {
-    converter.Convert(text, out, 1);
-    if (text.empty()) break;
+  while (!converter.Convert(text, out, 1)) {
     out += '?';
     text.remove_prefix(SkipChars(text, 0, 1));
   }
@@ -73,11 +75,12 @@ std::string FromCodePage949(std::string_view bytes) {
   if (IsAscii(bytes)) return std::string(bytes);
   static Converter converter("UTF-8", "CP949");
   std::string out;
-  while (!bytes.empty()) {
-    converter.Convert(bytes, out, 3);
-    if (bytes.empty()) break;
+  std::string_view rest = bytes;
+  while (!converter.Convert(rest, out, 3)) {
+    const std::string_view taken = bytes.substr(0, bytes.size() - rest.size());
+    if (taken.ends_with(kLostPair)) rest = bytes.substr(taken.size() - kLostPair.size());
     out += kReplacement;
-    bytes.remove_prefix(1);
+    rest.remove_prefix(1);
   }
   return out;
 }

@@ -51,6 +51,7 @@ TEST(Text, SurvivesWhatTheCodePageLacks) {
   EXPECT_EQ(ToCodePage949("가\xEA\xB0"), "\xB0\xA1?");  // a letter that breaks off
   EXPECT_EQ(FromCodePage949("\xB0\xA1\xB0"), "가" + kLone);
   EXPECT_EQ(FromCodePage949("\xB0 x"), kLone + " x");
+  EXPECT_EQ(FromCodePage949("a\xA2\xE8z\xA2\xE8"), "a" + kLone + kLone + "z" + kLone + kLone);
   EXPECT_EQ(FromCodePage949(ToCodePage949("한글과 ASCII, 뷁")), "한글과 ASCII, 뷁");
   EXPECT_EQ(FromCodePage949(std::string("a\0b", 3)), std::string("a\0b", 3));
 }
@@ -58,7 +59,7 @@ TEST(Text, SurvivesWhatTheCodePageLacks) {
 // A line brings a text in any pieces.
 TEST(Text, ArrivingInTwoPiecesReadsTheSame) {
   const std::string bytes =
-      ToCodePage949("가A나뷁") + "\xB0 \xFF\x80z\xB0\x03" + ToCodePage949("힣");
+      ToCodePage949("가A나뷁") + "\xB0 \xFF\x80z\xB0\x03\xA2\xE8\xE8\xF3" + ToCodePage949("힣");
   for (size_t at = 0; at <= bytes.size(); ++at) {
     std::string arrived = bytes.substr(0, at);
     std::string text = TakeWholeLetters(arrived);
