@@ -75,12 +75,13 @@ std::string FromCodePage949(std::string_view bytes) {
   if (IsAscii(bytes)) return std::string(bytes);
   static Converter converter("UTF-8", "CP949");
   std::string out;
-  std::string_view rest = bytes;
-  while (!converter.Convert(rest, out, 3)) {
-    const std::string_view taken = bytes.substr(0, bytes.size() - rest.size());
-    if (taken.ends_with(kLostPair)) rest = bytes.substr(taken.size() - kLostPair.size());
+  std::string_view before = bytes;
+  while (!converter.Convert(bytes, out, 3)) {
+    const std::string_view taken = before.substr(0, before.size() - bytes.size());
+    if (taken.ends_with(kLostPair)) bytes = before.substr(taken.size() - kLostPair.size());
     out += kReplacement;
-    rest.remove_prefix(1);
+    bytes.remove_prefix(1);
+    before = bytes;
   }
   return out;
 }
