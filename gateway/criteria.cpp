@@ -3,6 +3,7 @@
 
 #include "gateway/byte_search.h"
 #include "gateway/recordset.h"
+#include "gateway/splice.h"
 
 namespace store {
 namespace {
@@ -73,6 +74,7 @@ TextMatch ReadPattern(std::string_view pattern) {
 }  // namespace
 
 bool Recordset::Parse(std::string_view criteria, std::vector<Condition>& conditions) const {
+  if (BrokenValue(criteria)) return false;
   CriteriaReader reader(criteria);
   do {
     Condition condition{};

@@ -20,10 +20,15 @@ class DataTier {
   virtual std::unique_ptr<Recordset> GETSQL(const std::string& statement, std::string& errorText,
                                             const std::string& connectString) = 0;
 
-  /// Runs the statements in order as one transaction, passing over empty elements. True when all
-  /// of them ran; on false none of them took effect and `errorText` holds the server's own words.
+  /// Runs the statements in order as one transaction, passing over empty elements. A SELECT must
+  /// give a row there. True when all of them ran; on false none of them took effect, unless
+  /// `InDoubt` says so, and `errorText` holds the server's own words, or the guard's.
   virtual bool PUTSQL(const std::vector<std::string>& statements, std::string& errorText,
                       const std::string& connectString) = 0;
+
+  /// Whether nobody can say if the last `PUTSQL` took effect: its answer was lost, or has not come
+  /// within the limit.
+  virtual bool InDoubt() const { return false; }
 };
 
 /// Makes data objects by name and address. A program that puts another maker into the gateway's

@@ -4,9 +4,9 @@
 #include <iterator>
 
 #include "basics/deployment.h"
-#include "gateway/byte_search.h"
 #include "gateway/direct_batch.h"
 #include "gateway/direct_reader.h"
+#include "gateway/guard.h"
 
 namespace store {
 namespace {
@@ -34,18 +34,13 @@ bool NamesItsSource(const std::string& connectString, std::string& errorText) {
   return false;
 }
 
-bool IsSelect(const std::string& statement) {
-  const size_t begin = statement.find_first_not_of(" \t\r\n(");
-  return begin != std::string::npos &&
-         SameFolded(std::string_view(statement).substr(begin, 6), "SELECT");
-}
-
 /// What a job leaves behind. It belongs to job and caller both, because a job that is overdue goes
 /// on without its caller.
 struct Answer {
   std::unique_ptr<Recordset> rows;
   bool done = false;
-  bool stale = false;  // the connection had been closed by the other side, or broke
+  bool stale = false;    // the connection had been closed by the other side, or broke
+  bool inDoubt = false;  // nobody can say whether the batch took effect
   std::string errorText;
 };
 
@@ -72,7 +67,10 @@ void Read(OdbcConnection& connection, const std::string& statement, Answer& answ
 void Write(OdbcConnection& connection, const std::vector<std::string>& statements, Answer& answer) {
   if (!connection.Alive()) return TellStale(answer);
   if (connection.GivenUp()) return;
-  answer.done = RunAsOneTransaction(connection, statements, answer.errorText);
+  BatchFailure failure;
+  answer.done = RunAsOneTransaction(connection, statements, failure);
+  answer.errorText = failure.Text;
+  answer.inDoubt = failure.InDoubt;
 }
 
 std::string OverdueText(std::chrono::seconds limit) {
@@ -101,7 +99,7 @@ bool DirectTier::Reach(const std::string& connectString, std::string& errorText)
 
 std::unique_ptr<Recordset> DirectTier::GETSQL(const std::string& statement, std::string& errorText,
                                               const std::string& connectString) {
-  if (!IsSelect(statement)) {
+  if (!IsGuard(statement)) {
     errorText = "SELECT 문만 조회할 수 있습니다.";
     return nullptr;
   }
@@ -126,6 +124,7 @@ std::unique_ptr<Recordset> DirectTier::GETSQL(const std::string& statement, std:
 
 bool DirectTier::PUTSQL(const std::vector<std::string>& statements, std::string& errorText,
                         const std::string& connectString) {
+  inDoubt_ = false;
   if (!NamesItsSource(connectString, errorText)) return false;
   std::vector<std::string> toRun;
   std::copy_if(statements.begin(), statements.end(), std::back_inserter(toRun),
@@ -138,11 +137,12 @@ bool DirectTier::PUTSQL(const std::vector<std::string>& statements, std::string&
             [answer, toRun](OdbcConnection& connection) { Write(connection, toRun, *answer); },
             BatchLimit())) {
       kept_.reset();
-      errorText = OverdueText(BatchLimit());
-      TellOutcomeUnknown(errorText);
+      inDoubt_ = true;
+      errorText = OverdueText(BatchLimit()) + kInDoubtText;
       return false;
     }
     errorText = answer->done ? std::string() : answer->errorText;
+    inDoubt_ = answer->inDoubt;
     if (!answer->stale) return answer->done;
     kept_.reset();
   }

@@ -13,12 +13,14 @@ class DirectTier : public DataTier {
                                     const std::string& connectString) override;
   bool PUTSQL(const std::vector<std::string>& statements, std::string& errorText,
               const std::string& connectString) override;
+  bool InDoubt() const override { return inDoubt_; }
 
  private:
   bool Reach(const std::string& connectString, std::string& errorText);
 
   std::unique_ptr<KeptConnection> kept_;  // nothing when the last one is no longer fit
   std::string keptString_;
+  bool inDoubt_ = false;
 };
 
 }  // namespace store

@@ -16,6 +16,7 @@ std::string SqlText;
 std::vector<std::string> SqlBatch;
 std::string ConnectString;
 std::string LastErrorText;
+bool BatchInDoubt = false;
 
 namespace {
 
@@ -34,6 +35,19 @@ void MakeServerObject() {
   LastErrorText.clear();
   if (!DataSpace) DataSpace = std::make_unique<DataSpaceObject>();
   ServerObject = DataSpace->CreateObject(kProgId, "http://" + AppOptions.BusinessServer);
+}
+
+/// A text that a value has broken is not for the server, whatever it would make of it.
+bool IsWhole(const std::string& statement) {
+  const std::optional<std::string_view> value = BrokenValue(statement);
+  if (!value) return true;
+  LastErrorText = "작은따옴표(')가 있는 값은 쓸 수 없습니다: " + std::string(*value);
+  return false;
+}
+
+RecordsetSlot Read(const std::string& statement) {
+  if (!IsWhole(statement)) return nullptr;
+  return ServerObject->GETSQL(statement, LastErrorText, ConnectString);
 }
 
 }  // namespace
@@ -67,7 +81,7 @@ void OpenRecordset(RecordsetSlot& slot, const std::string& statement) {
   MayReplace(slot);
   MakeServerObject();
   if (!ServerObject) return;
-  slot = ServerObject->GETSQL(statement, LastErrorText, ConnectString);
+  slot = Read(statement);
   if (&slot == &SlotC) ServerObject.reset();
 }
 
@@ -80,7 +94,7 @@ void CloseRecordset(RecordsetSlot& slot) {
 RecordsetSlot FetchRecordset(const std::string& statement) {
   MakeServerObject();
   if (!ServerObject) return nullptr;
-  return ServerObject->GETSQL(statement, LastErrorText, ConnectString);
+  return Read(statement);
 }
 
 void QueryRows(const std::string& statement, StringTable& table, std::int32_t& rowCount,
@@ -113,9 +127,11 @@ std::string QueryText(const std::string& statement, const std::string& otherwise
 
 std::int16_t ExecuteBatch(const std::vector<std::string>& statements) {
   MakeServerObject();
-  if (!ServerObject) return 0;
-  return ServerObject->PUTSQL(statements, LastErrorText, ConnectString) ? std::int16_t{-1}
-                                                                        : std::int16_t{0};
+  BatchInDoubt = false;
+  if (!ServerObject || !std::all_of(statements.begin(), statements.end(), IsWhole)) return 0;
+  if (ServerObject->PUTSQL(statements, LastErrorText, ConnectString)) return -1;
+  BatchInDoubt = ServerObject->InDoubt();
+  return 0;
 }
 
 void StartBatch() { SqlBatch.assign(1, std::string()); }
@@ -132,6 +148,7 @@ void ResetGateway() {
   SqlBatch.clear();
   ConnectString.clear();
   LastErrorText.clear();
+  BatchInDoubt = false;
 }
 
 }  // namespace store

@@ -28,6 +28,8 @@ extern std::string SqlText;                ///< Scratch text for a statement.
 extern std::vector<std::string> SqlBatch;  ///< Element 0 stays empty; statements from 1 on.
 extern std::string ConnectString;
 extern std::string LastErrorText;  ///< The server's words about the last call; empty if it ran.
+extern bool BatchInDoubt;  ///< Whether nobody can say if the last batch was stored: it may have
+                           ///< been, and it may still be running at the server.
 
 /// The failure model in one place: a test on a slot that holds nothing counts as passed, so the
 /// caller takes the road of found-nothing.
@@ -73,7 +75,8 @@ void QueryRows(const std::string& statement, StringTable& table, std::int32_t& r
 /// The text in row 1, column 0 of a read, or `otherwise` when it gives no row.
 std::string QueryText(const std::string& statement, const std::string& otherwise);
 
-/// Sends the list in one transaction. -1 when all statements ran, 0 otherwise.
+/// Sends the list in one transaction; a SELECT in it is a guard (gateway/guard.h). -1 when all
+/// statements ran, 0 otherwise: then none of them took effect, unless `BatchInDoubt` says so.
 std::int16_t ExecuteBatch(const std::vector<std::string>& statements);
 
 /// Empties `SqlBatch` to its element 0.

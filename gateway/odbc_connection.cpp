@@ -45,6 +45,15 @@ std::string Diagnostics(SQLSMALLINT handleType, SQLHANDLE handle) {
 
 }  // namespace
 
+SQLINTEGER ErrorNumberOf(SQLSMALLINT handleType, SQLHANDLE handle) {
+  SQLCHAR state[6] = "";
+  SQLINTEGER number = 0;
+  SQLCHAR message[2] = "";
+  SQLSMALLINT length = 0;
+  Odbc.GetDiagRec(handleType, handle, 1, state, &number, message, sizeof(message), &length);
+  return number;
+}
+
 bool Succeeded(SQLRETURN result, SQLSMALLINT handleType, SQLHANDLE handle, std::string& errorText) {
   if (SQL_SUCCEEDED(result)) return true;
   errorText = handle == SQL_NULL_HANDLE ? std::string() : Diagnostics(handleType, handle);
@@ -113,14 +122,14 @@ bool OdbcConnection::RecentlyAnswered() const {
 bool OdbcConnection::Prepare(std::string& errorText) {
   // Texts travel as UTF-8, whatever the server is set to. The driver refuses to send SET NAMES, so
   // the three variables behind it are set. The statements group by less than they select, store
-  // "0000-00-00" as a date, and quote texts with single quotes in which a backslash escapes; and
-  // nobody waits for a lock for ever.
+  // "0000-00-00" as a date, and quote texts with single quotes in which a backslash is a letter;
+  // and nobody waits for a lock for ever.
   const std::string settings =
       "SET character_set_client=utf8mb4, character_set_connection=utf8mb4, "
       "character_set_results=utf8mb4, innodb_lock_wait_timeout=" +
       std::to_string(LockWait().count()) +
-      ", sql_mode=REPLACE(REPLACE(REPLACE(REPLACE(REPLACE(@@sql_mode,'ONLY_FULL_GROUP_BY',''),"
-      "'NO_ZERO_IN_DATE',''),'NO_ZERO_DATE',''),'NO_BACKSLASH_ESCAPES',''),'ANSI_QUOTES','')";
+      ", sql_mode=CONCAT(REPLACE(REPLACE(REPLACE(REPLACE(@@sql_mode,'ONLY_FULL_GROUP_BY',''),"
+      "'NO_ZERO_IN_DATE',''),'NO_ZERO_DATE',''),'ANSI_QUOTES',''),',NO_BACKSLASH_ESCAPES')";
   if (!OdbcStatement(*this).Run(settings, errorText) || !AskWhetherMariaDb(errorText)) return false;
   if (isMariaDb_) SortWholeRows();
   return true;

@@ -55,6 +55,9 @@ class OdbcConnection {
 /// is made on another thread, as it changes the environment.
 void PointToOwnDriverList();
 
+/// The server's number of a handle's first diagnostic record; 0 without one.
+SQLINTEGER ErrorNumberOf(SQLSMALLINT handleType, SQLHANDLE handle);
+
 /// One statement handle of a connection.
 class OdbcStatement {
  public:
@@ -66,6 +69,8 @@ class OdbcStatement {
   SQLHSTMT Handle() const { return handle_; }
   /// Sends the text. False on failure, with every diagnostic record in `errorText`.
   bool Run(const std::string& text, std::string& errorText);
+  /// The server's number of what made it fail; 0 when nothing did, or not by the server's word.
+  SQLINTEGER ErrorNumber() const { return ErrorNumberOf(SQL_HANDLE_STMT, handle_); }
 
  private:
   SQLHDBC connection_;

@@ -4,6 +4,7 @@
 #include <array>
 #include <concepts>
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <type_traits>
@@ -16,10 +17,23 @@ namespace store {
 ///     Splice(" SELECT CT_NAME FROM CT WHERE CT_CODE = '{code}'", "code"_a = code)
 ///
 /// A place that no argument bears, an argument that the text never uses and a brace that opens no
-/// name do not compile. The values go in as they are: nothing is escaped, so a quote in a value
-/// breaks the statement and the server refuses it.
+/// name do not compile. The values go in as they are: nothing is escaped. A quote in a value that
+/// stands between quotes would end the text and let the rest of the value be read as a statement;
+/// such a value is marked, and no text with the mark is ever sent, nor taken as a criteria.
 
 namespace splice {
+
+/// Stands before and behind a value that breaks its text: a code point that is no letter and that
+/// Unicode keeps free for such uses.
+inline constexpr std::string_view kBroken = "\xEF\xB7\x90";
+
+/// Whether text that follows the piece stands between quotes, when `quoted` says so for its start.
+constexpr bool QuotedBehind(std::string_view piece, bool quoted) {
+  return quoted != (std::count(piece.begin(), piece.end(), '\'') % 2 == 1);
+}
+
+/// Marks the value that stands in `spliced` from `begin` on, if it has a quote.
+void MarkIfBroken(std::string& spliced, std::size_t begin);
 
 /// A name as part of a type.
 template <std::size_t kSize>
@@ -154,12 +168,20 @@ std::string Splice(splice::CheckedText<std::type_identity_t<Arguments>...> text,
   std::string_view rest = text.Text();
   std::string spliced;
   spliced.reserve(rest.size() + 32 * sizeof...(arguments));
+  bool quoted = false;
   while (!rest.empty()) {
-    spliced.append(rest.substr(0, rest.find('{')));
+    const std::string_view piece = rest.substr(0, rest.find('{'));
+    spliced.append(piece);
+    quoted = splice::QuotedBehind(piece, quoted);
+    const std::size_t begin = spliced.size();
     [[maybe_unused]] const std::string_view place = splice::TakePlace(rest);
     (splice::AppendIfBorne(spliced, place, arguments), ...);
+    if (quoted) splice::MarkIfBroken(spliced, begin);
   }
   return spliced;
 }
+
+/// The value that has broken a text, whole; nothing when none has.
+std::optional<std::string_view> BrokenValue(std::string_view text);
 
 }  // namespace store
