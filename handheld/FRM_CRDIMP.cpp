@@ -127,10 +127,18 @@ std::string FRM_CRDIMP::MasterStatement() const {
 }
 
 void FRM_CRDIMP::BuildMasterFile(std::int16_t& written) {
+  std::string refusal;
+  written = WriteProducts(refusal) ? -1 : 0;
+  if (refusal.empty()) return;
+  Host.MsgBox("MASTER 파일을 만들지 못했습니다. 이전 파일은 그대로입니다.\r\r" + refusal,
+              box::Critical, "크래들 IMPORT");
+}
+
+bool FRM_CRDIMP::WriteProducts(std::string& refusal) {
   const Hourglass waiting;
   const RecordsetSlot products = FetchRecordset(MasterStatement());
   // An empty file would take the terminal's products away.
-  if (AtEof(products)) return;
+  if (AtEof(products)) return false;
   const int count = products->RecordCount();
   PBar1.Max = count;
   PBar1.Value = 0;
@@ -141,13 +149,8 @@ void FRM_CRDIMP::BuildMasterFile(std::int16_t& written) {
   Label2[3].Caption =
       " 품목 MASTER DB 를 정리중입니다.    - 잠시대기 -                                 ";
   Host.DoEvents();
-  const std::string refusal = WriteMasterFile(text);
-  if (refusal.empty()) {
-    written = -1;
-    return;
-  }
-  Host.MsgBox("MASTER 파일을 만들지 못했습니다. 이전 파일은 그대로입니다.\r\r" + refusal,
-              box::Critical, "크래들 IMPORT");
+  refusal = WriteMasterFile(text);
+  return refusal.empty();
 }
 
 std::string FRM_CRDIMP::MasterText(const RecordsetSlot& products) {

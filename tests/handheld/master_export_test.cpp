@@ -112,7 +112,13 @@ TEST_F(MasterExport, TellsWhatStandsInItsWayAndKeepsTheOldFile) {
   std::ofstream(File()) << "old";
   std::filesystem::create_directory(File().string() + ".new");  // where the fresh one would be made
   host.ExpectBox("MASTER 파일을 만들지 못했습니다.");
+  int pointerAtBox = PointerHourglass;
+  Host.MsgBox = [&, show = Host.MsgBox](const auto& text, int style, const auto& title) {
+    pointerAtBox = host.Pointers.back();
+    return show(text, style, title);
+  };
   Open().Command1_Click(0);
+  EXPECT_EQ(pointerAtBox, PointerNormal);
   EXPECT_EQ(Written(), "old");
   std::filesystem::remove(File().string() + ".new");
 
