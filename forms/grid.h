@@ -18,7 +18,7 @@ struct GridColumn {
   Align Alignment = Align::General;
   std::string Format = {};  ///< A number mask for what is shown; the cell keeps its text.
   bool Hidden = false;
-  bool CheckBox = false;  ///< Cells hold "-1" when ticked, "" or "0" when not.
+  bool CheckBox = false;  ///< Cells hold "-1" when ticked, anything else when not.
   bool Editable = false;  ///< The window may open an editor in its cells, or tick them.
   int BackColor = -1;     ///< 0xRRGGBB behind its data cells, -1 for the grid's own.
 };

@@ -1,12 +1,12 @@
 #include "order/frm_Order.h"
 
-#include "basics/formats.h"
-#include "basics/numbers.h"
 #include "slips/item_list.h"
 
 namespace store {
 namespace {
 
+constexpr int kStock = 6;
+constexpr int kShortage = 7;
 constexpr int kEntry = 8;
 
 void ReadItems(ItemListMoment /*moment*/, const std::string& supplier) {
@@ -15,36 +15,20 @@ void ReadItems(ItemListMoment /*moment*/, const std::string& supplier) {
 
 EntryVerdict JudgeEntry(Grid& picks, int row) {
   if (RefuseLongEntry(picks, row, kEntry)) return EntryVerdict::Nothing;
-  return ParseGrouped(picks.TextMatrix(row, kEntry)) == 0 ? EntryVerdict::Nothing
-                                                          : EntryVerdict::Order;
+  return OrderUnlessZero(picks, row, kEntry);
 }
 
 std::vector<GridColumn> PickColumns() {
-  return {
-      {.Header = "품목코드", .Width = 1050, .Alignment = Align::Left, .Hidden = true},
-      {.Header = "S", .Width = 225, .Alignment = Align::Center, .Hidden = true, .CheckBox = true},
-      {.Header = "상품분류", .Width = 1215, .Alignment = Align::Left, .Hidden = true},
-      {.Header = "바코드", .Width = 1725, .Alignment = Align::Center},
-      {.Header = "품명", .Width = 2070, .Alignment = Align::Left},
-      {.Header = "규격", .Width = 1785, .Alignment = Align::Left},
-      {.Header = "현재고",
-       .Width = 930,
-       .Alignment = Align::Right,
-       .Format = kMaskWhole,
-       .Hidden = true},
-      {.Header = "부족재고",
-       .Width = 915,
-       .Alignment = Align::Right,
-       .Format = kMaskWhole,
-       .Hidden = true},
-      {.Header = "발주량",
-       .Width = 915,
-       .Alignment = Align::Right,
-       .Format = kMaskWhole,
-       .Editable = true,
-       .BackColor = kEntryYellow},
-      {.Width = 900, .Hidden = true},
-  };
+  std::vector<GridColumn> columns = HiddenPickColumns();
+  columns.push_back({.Header = "바코드", .Width = 1725, .Alignment = Align::Center});
+  columns.push_back({.Header = "품명", .Width = 2070, .Alignment = Align::Left});
+  columns.push_back({.Header = "규격", .Width = 1785, .Alignment = Align::Left});
+  columns.push_back(CountColumn("현재고", 930));
+  columns.push_back(CountColumn("부족재고", 915));
+  columns.push_back(EntryColumn("발주량", 915));
+  columns.push_back({.Width = 900, .Hidden = true});
+  columns[kStock].Hidden = columns[kShortage].Hidden = true;
+  return columns;
 }
 
 const OrderTypeChoices& Choices() {

@@ -1,6 +1,5 @@
 #include "order/frm_Order01.h"
 
-#include "basics/formats.h"
 #include "gateway/splice.h"
 #include "slips/item_list.h"
 
@@ -23,23 +22,17 @@ EntryVerdict JudgeEntry(Grid& picks, int row) {
 }
 
 std::vector<GridColumn> PickColumns() {
-  return {
-      {.Header = "품목코드", .Width = 1050, .Alignment = Align::Left, .Hidden = true},
-      {.Header = "S", .Width = 225, .Alignment = Align::Center, .CheckBox = true, .Editable = true},
-      {.Header = "상품분류", .Width = 1215, .Alignment = Align::Left},
-      {.Header = "바코드", .Width = 705, .Alignment = Align::Center, .Hidden = true},
-      {.Header = "품명", .Width = 2070, .Alignment = Align::Left},
-      {.Header = "규격", .Width = 1005, .Alignment = Align::Left},
-      {.Header = "판매량",
-       .Width = 930,
-       .Alignment = Align::Right,
-       .Format = kMaskWhole,
-       .Editable = true,
-       .BackColor = kEntryYellow},
-      {.Header = "현재고", .Width = 915, .Alignment = Align::Right, .Format = kMaskWhole},
-      {.Header = "부족재고", .Width = 915, .Alignment = Align::Right, .Format = kMaskWhole},
-      {.Width = 900, .Hidden = true},
-  };
+  std::vector<GridColumn> columns = HiddenPickColumns();
+  columns.push_back({.Header = "바코드", .Width = 705, .Alignment = Align::Center, .Hidden = true});
+  columns.push_back({.Header = "품명", .Width = 2070, .Alignment = Align::Left});
+  columns.push_back({.Header = "규격", .Width = 1005, .Alignment = Align::Left});
+  columns.push_back(EntryColumn("판매량", 930));
+  columns.push_back(CountColumn("현재고", 915));
+  columns.push_back(CountColumn("부족재고", 915));
+  columns.push_back({.Width = 900, .Hidden = true});
+  columns[pick::Mark].Hidden = columns[proposal::Kind].Hidden = false;
+  columns[pick::Mark].Editable = true;
+  return columns;
 }
 
 const OrderTypeChoices& Choices() {

@@ -1,6 +1,5 @@
 #include "order/frm_Order02.h"
 
-#include "basics/formats.h"
 #include "basics/numbers.h"
 #include "basics/records.h"
 #include "forms/host.h"
@@ -54,29 +53,20 @@ EntryVerdict JudgeEntry(Grid& picks, int row) {
   if (RefuseLongEntry(picks, row, kEntry) || RefuseBelowUnit(picks, row)) {
     return EntryVerdict::Nothing;
   }
-  return ParseGrouped(picks.TextMatrix(row, kEntry)) == 0 ? EntryVerdict::Nothing
-                                                          : EntryVerdict::Order;
+  return OrderUnlessZero(picks, row, kEntry);
 }
 
 std::vector<GridColumn> PickColumns() {
-  return {
-      {.Header = "품목코드", .Width = 1050, .Alignment = Align::Left, .Hidden = true},
-      {.Header = "S", .Width = 225, .Alignment = Align::Center, .Hidden = true, .CheckBox = true},
-      {.Header = "상품분류", .Width = 1215, .Alignment = Align::Left, .Hidden = true},
-      {.Header = "바코드", .Width = 1140, .Alignment = Align::Center},
-      {.Header = "품명", .Width = 2070, .Alignment = Align::Left},
-      {.Header = "규격", .Width = 1110, .Alignment = Align::Left},
-      {.Header = "현재고", .Width = 810, .Alignment = Align::Right, .Format = kMaskWhole},
-      {.Header = "발주단위", .Width = 795, .Alignment = Align::Right, .Format = kMaskWhole},
-      {.Header = "발주량",
-       .Width = 720,
-       .Alignment = Align::Right,
-       .Format = kMaskWhole,
-       .Editable = true,
-       .BackColor = kEntryYellow},
-      {.Width = 900, .Hidden = true},
-      {.Header = "단위", .Width = 900, .Alignment = Align::Left},
-  };
+  std::vector<GridColumn> columns = HiddenPickColumns();
+  columns.push_back({.Header = "바코드", .Width = 1140, .Alignment = Align::Center});
+  columns.push_back({.Header = "품명", .Width = 2070, .Alignment = Align::Left});
+  columns.push_back({.Header = "규격", .Width = 1110, .Alignment = Align::Left});
+  columns.push_back(CountColumn("현재고", 810));
+  columns.push_back(CountColumn("발주단위", 795));
+  columns.push_back(EntryColumn("발주량", 720));
+  columns.push_back({.Width = 900, .Hidden = true});
+  columns.push_back({.Header = "단위", .Width = 900, .Alignment = Align::Left});
+  return columns;
 }
 
 const OrderTypeChoices& Choices() {

@@ -1,6 +1,5 @@
 #include "order/frm_Order03.h"
 
-#include "basics/formats.h"
 #include "basics/numbers.h"
 #include "basics/records.h"
 #include "forms/options_file.h"
@@ -52,33 +51,19 @@ EntryVerdict JudgeEntry(Grid& picks, int row) {
 }
 
 std::vector<GridColumn> PickColumns() {
-  return {
-      {.Header = "품목코드", .Width = 1050, .Alignment = Align::Left, .Hidden = true},
-      {.Header = "S", .Width = 225, .Alignment = Align::Center, .Hidden = true, .CheckBox = true},
-      {.Header = "상품분류", .Width = 1215, .Alignment = Align::Left, .Hidden = true},
-      {.Header = "바코드", .Width = 1530, .Alignment = Align::Center},
-      {.Header = "품명", .Width = 2070, .Alignment = Align::Left},
-      {.Header = "규격", .Width = 600, .Alignment = Align::Right},
-      {.Header = "안전고", .Width = 615, .Alignment = Align::Right, .BackColor = kStockGrey},
-      {.Header = "현재고",
-       .Width = 630,
-       .Alignment = Align::Right,
-       .Format = kMaskWhole,
-       .BackColor = kStockGrey},
-      {.Header = "부족",
-       .Width = 630,
-       .Alignment = Align::Right,
-       .Format = kMaskWhole,
-       .BackColor = kStockGrey},
-      {.Header = "단위", .Width = 480, .Alignment = Align::Right, .BackColor = kStockGrey},
-      {.Header = "발주량",
-       .Width = 795,
-       .Alignment = Align::Right,
-       .Format = kMaskWhole,
-       .Editable = true,
-       .BackColor = kEntryYellow},
-      {.Width = 900, .Hidden = true},
-  };
+  std::vector<GridColumn> columns = HiddenPickColumns();
+  columns.push_back({.Header = "바코드", .Width = 1530, .Alignment = Align::Center});
+  columns.push_back({.Header = "품명", .Width = 2070, .Alignment = Align::Left});
+  columns.push_back({.Header = "규격", .Width = 600, .Alignment = Align::Right});
+  columns.push_back(
+      {.Header = "안전고", .Width = 615, .Alignment = Align::Right, .BackColor = kStockGrey});
+  columns.push_back(CountColumn("현재고", 630, kStockGrey));
+  columns.push_back(CountColumn("부족", 630, kStockGrey));
+  columns.push_back(
+      {.Header = "단위", .Width = 480, .Alignment = Align::Right, .BackColor = kStockGrey});
+  columns.push_back(EntryColumn("발주량", 795));
+  columns.push_back({.Width = 900, .Hidden = true});
+  return columns;
 }
 
 const OrderTypeChoices& Choices() {

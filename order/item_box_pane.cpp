@@ -9,6 +9,7 @@
 #include "basics/text.h"
 #include "forms/host.h"
 #include "gateway/gateway.h"
+#include "lookup/HELP_BPR.h"
 #include "slips/item_list.h"
 #include "slips/unit_price.h"
 
@@ -32,6 +33,7 @@ ItemBoxPane::ItemBoxPane(SlipForm& form, const SupplierPane& supplier, PickListP
       pickList_(pickList),
       choices_(choices) {
   SetUpLines();
+  form.Publish("ItemLookup", ItemLookup);
   form.Publish("Label6", Label6);
   form.Publish("Timer1", Timer1);
   inBox.ToolTipText = "(,) + (찾는문자열) = 품목찾기       (.) + (찾는문자열) = 규격찾기 ";
@@ -40,6 +42,7 @@ ItemBoxPane::ItemBoxPane(SlipForm& form, const SupplierPane& supplier, PickListP
     inBox_KeyPress(key);
   };
   FLEX1.KeyDown = [this](Key key) { FLEX1_KeyDown(key); };
+  ItemLookup.Click = [this] { ItemLookup_Click(); };
   Timer1.Interval = kWarningStands;
   Timer1.Tick = [this] { Timer1_Timer(); };
 }
@@ -208,6 +211,15 @@ void ItemBoxPane::RemoveLinesOf(const std::string& productCode) {
   for (int row = FLEX1.Rows() - 1; row >= 1; --row) {
     if (FLEX1.TextMatrix(row, order_line::Code) == productCode) FLEX1.RemoveItem(row);
   }
+}
+
+void ItemBoxPane::ItemLookup_Click() {
+  HELP_BPR lookup;
+  Host.ShowModal(lookup);
+  // The code stands behind its tax mark.
+  const std::string code = MidChars(lookup.Results[0], 2);
+  if (!code.empty()) AddFromCode(code);
+  form_.SetFocus(inBox);
 }
 
 void ItemBoxPane::FLEX1_KeyDown(Key key) {

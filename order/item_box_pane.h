@@ -29,7 +29,8 @@ class ItemBoxPane : public LinesPane {
   ItemBoxPane(SlipForm& form, const SupplierPane& supplier, PickListPane& pickList,
               const OrderTypeChoices& choices);
 
-  Label Label6;  ///< A line of warning that goes away by itself.
+  Button ItemLookup{"품목조회"};  ///< Opens the item lookup, from which an item is entered.
+  Label Label6;                   ///< A line of warning that goes away by itself.
   Timer Timer1;
   std::int16_t AddInProgress = 0;  ///< -1 while a routine and not a person feeds `inBox`.
   std::int16_t AddAccepted = 0;    ///< Set to 0 when an item was refused.
@@ -37,6 +38,7 @@ class ItemBoxPane : public LinesPane {
   void inBox_KeyPress(Key key);
   void FLEX1_KeyDown(Key key);
   void Timer1_Timer();
+  void ItemLookup_Click();
 
   /// Moves what stands in the box into the quantity of a row. Where orders go in units a quantity
   /// off the unit is refused with the next one that fits, and 0 takes the row out.

@@ -185,8 +185,9 @@ bool OrderForm::HoldsWork() const {
 
 void OrderForm::SetOrderEditable(std::int16_t editable) {
   const bool enabled = editable != 0;
-  for (Control* control : std::initializer_list<Control*>{&LaCTHELP, &Text1, &DTOrderDate, &Combo1,
-                                                          &inBox, &FLEX2, &LaBtn[0], &LaBtn[1]}) {
+  for (Control* control :
+       std::initializer_list<Control*>{&LaCTHELP, &Text1, &DTOrderDate, &Combo1, &inBox,
+                                       &ItemLookup, &FLEX2, &LaBtn[0], &LaBtn[1]}) {
     control->Enabled = enabled;
   }
 }

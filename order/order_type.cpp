@@ -1,5 +1,7 @@
 #include "order/order_type.h"
 
+#include "basics/formats.h"
+#include "basics/numbers.h"
 #include "basics/text.h"
 #include "forms/host.h"
 #include "gateway/splice.h"
@@ -23,6 +25,32 @@ std::string BarcodeBeginsWith(const std::string& text) {
 std::vector<std::string> PickRowOfItem(const Recordset& items, std::uint32_t row) {
   const auto text = [&](int field) { return std::string(items.TextOfRow(row, field)); };
   return {text(item::Code), "", "", text(item::Barcode), text(item::Name), text(item::Standard)};
+}
+
+std::vector<GridColumn> HiddenPickColumns() {
+  return {
+      {.Header = "품목코드", .Width = 1050, .Alignment = Align::Left, .Hidden = true},
+      {.Header = "S", .Width = 225, .Alignment = Align::Center, .Hidden = true, .CheckBox = true},
+      {.Header = "상품분류", .Width = 1215, .Alignment = Align::Left, .Hidden = true}};
+}
+
+GridColumn CountColumn(const char* header, int width, int backColor) {
+  return {.Header = header,
+          .Width = width,
+          .Alignment = Align::Right,
+          .Format = kMaskWhole,
+          .BackColor = backColor};
+}
+
+GridColumn EntryColumn(const char* header, int width) {
+  GridColumn column = CountColumn(header, width, kEntryYellow);
+  column.Editable = true;
+  return column;
+}
+
+EntryVerdict OrderUnlessZero(const Grid& picks, int row, int column) {
+  return ParseGrouped(picks.TextMatrix(row, column)) == 0 ? EntryVerdict::Nothing
+                                                          : EntryVerdict::Order;
 }
 
 bool RefuseLongEntry(Grid& picks, int row, int column) {

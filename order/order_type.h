@@ -76,6 +76,14 @@ std::string BarcodeBeginsWith(const std::string& text);
 /// Code, barcode, name and standard of an item, in the columns of `pick`.
 std::vector<std::string> PickRowOfItem(const Recordset& items, std::uint32_t row);
 
+/// Columns of pick lists: code, mark and category, out of view; a count; the quantity to order.
+std::vector<GridColumn> HiddenPickColumns();
+GridColumn CountColumn(const char* header, int width, int backColor = -1);
+GridColumn EntryColumn(const char* header, int width);
+
+/// Whether a person typed a quantity; what is no number and what is nothing is none.
+EntryVerdict OrderUnlessZero(const Grid& picks, int row, int column);
+
 /// Refuses, and empties, a quantity of seven characters or more in the entry column.
 bool RefuseLongEntry(Grid& picks, int row, int column);
 

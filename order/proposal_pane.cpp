@@ -141,6 +141,7 @@ void ProposalPane::LaEP_Click(int index) {
   picks_.SetRows(1);
   Text3.SetText("");
   Check2.Value = 0;
+  for (OptionButton& mark : Option1) mark.Value = false;  // the new rows bear no marks
   progress_.ShowWaiting();
   FillProposal(index == 0 ? SalesProposal() : SafetyProposal());
 }

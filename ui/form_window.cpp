@@ -69,8 +69,11 @@ std::vector<std::string> FormWindow::ControlsWithoutWidget() const {
 
 void FormWindow::OnPress(KeyButton& button, std::function<void()> event) {
   connect(&button, &QPushButton::clicked, this, [this, event = std::move(event)] { Act(event); });
-  // A key does no more than the button would: nothing while it is disabled.
-  if (!button.Keys().isEmpty()) OnShortcut(button.Keys(), [&button] { button.click(); });
+  // A key does no more than the button would: nothing while it is disabled or out of sight.
+  if (button.Keys().isEmpty()) return;
+  OnShortcut(button.Keys(), [&button] {
+    if (button.isVisible()) button.click();
+  });
 }
 
 void FormWindow::OnShortcut(const QKeySequence& keys, std::function<void()> event) {

@@ -10,7 +10,7 @@
 namespace store {
 namespace {
 
-bool Ticked(const std::string& cell) { return !cell.empty() && cell != "0"; }
+bool Ticked(const std::string& cell) { return cell == "-1"; }
 
 int Alignment(const GridColumn& column, const std::string& cell) {
   switch (column.Alignment) {

@@ -106,8 +106,9 @@ QWidget* OrderWindow::ItemBox() {
   row->setContentsMargins(0, 0, 0, 0);
   row->addWidget(box, 3);
   row->addWidget(Named("Image5", new KeyButton("빠른선택", QKeySequence(Qt::SHIFT | Qt::Key_F1))));
+  row->addWidget(Named("Command2", new KeyButton("보기", QKeySequence(Qt::CTRL | Qt::Key_F1))));
   row->addWidget(
-      Named("Command2", new KeyButton("빠른선택 보기", QKeySequence(Qt::CTRL | Qt::Key_F1))));
+      Named("ItemLookup", new KeyButton("품목조회", QKeySequence(Qt::CTRL | Qt::Key_I))));
   row->addWidget(warning, 4);
   auto* line = new QWidget;
   line->setLayout(row);

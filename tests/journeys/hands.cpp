@@ -55,10 +55,13 @@ Hands::Hands() {
 }
 
 void Hands::AnswerBox(const QString& fragment, Qt::Key key) {
-  announced_.push_back(
-      {"box: " + fragment,
-       [fragment] { return OpenBox() != nullptr && OpenBox()->text().contains(fragment); },
-       [this, key] { Answer(*OpenBox(), key); }});
+  announced_.push_back({"box: " + fragment,
+                        [fragment] {
+                          const QMessageBox* box = OpenBox();
+                          return box != nullptr && (box->text().contains(fragment) ||
+                                                    box->windowTitle().contains(fragment));
+                        },
+                        [this, key] { Answer(*OpenBox(), key); }});
 }
 
 void Hands::See(const std::string& formName, std::function<void(FormWindow&)> look) {

@@ -24,7 +24,7 @@ class Hands {
  public:
   Hands();
 
-  /// The next message box holds `fragment`; `key` answers it.
+  /// The next message box holds `fragment` in its text or title; `key` answers it.
   void AnswerBox(const QString& fragment, Qt::Key key);
   /// When the window of that form is on the screen, even one that nobody can work in.
   void See(const std::string& formName, std::function<void(FormWindow&)> look);

@@ -1,4 +1,5 @@
 #include "basics/records.h"
+#include "lookup/HELP_BPR.h"
 #include "tests/order/order_desk.h"
 
 namespace store {
@@ -87,6 +88,24 @@ TEST_F(OrderDesk, AnItemWithoutAPriceIsRefusedInALineThatGoesAway) {
   Enter("88010008");
   EXPECT_EQ(Lines(), "P0008x1 P0003x1 ");
   EXPECT_EQ(form.FLEX1.TextMatrix(1, 5), "0");
+}
+
+// The way to a new product, too: the lookup is where one is registered.
+TEST_F(OrderDesk, AnItemIsEnteredFromTheLookup) {
+  OrderForm& form = Open();
+  Supplier("#C0001");
+  host.OnModal("HELP_BPR", [](Form& shown) {
+    auto& lookup = dynamic_cast<HELP_BPR&>(shown);
+    lookup.Text1.SetText("참기름");  // whose code stands behind a mark of its tax
+    lookup.Command1_Click();
+    lookup.FLEX1_DblClick();
+  });
+  form.ItemLookup_Click();
+  EXPECT_EQ(Lines(), "P0004x1 ");
+  EXPECT_EQ(form.ActiveControl, &form.inBox);
+  host.OnModal("HELP_BPR");
+  form.ItemLookup_Click();
+  EXPECT_EQ(Lines(), "P0004x1 ");
 }
 
 TEST_F(OrderDesk, KeysInTheBoxWorkOnTheLines) {

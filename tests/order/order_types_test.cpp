@@ -104,6 +104,15 @@ class OrderTypes : public OrderDesk {
     }
     return seen + Order().LaAmt[0].Caption;
   }
+  std::string PickColumns() {
+    std::string columns;
+    const Grid& picks = Order().FLEX2;
+    for (int col = 0; col < picks.Cols(); ++col) {
+      const GridColumn& column = picks.Columns()[static_cast<size_t>(col)];
+      if (!column.Hidden) columns += std::to_string(col) + column.Header + " ";
+    }
+    return columns + "of " + std::to_string(picks.Cols());
+  }
   std::string EditableColumns() {
     std::string columns;
     for (int col = 0; col < Order().FLEX2.Cols(); ++col) {
@@ -200,6 +209,12 @@ TEST_F(OrderTypes, BehaveAsTheirChainsWork) {
         "P0002x17 |P0002x-5 |P0002x30 |P0002x0 |1",
         "발주단위 오류   **** 적정발주량 [20]  ****|"
         "발주단위 오류   **** 적정발주량 [10]  ****|P0002x30 ||0"}},
+      {"columns of the pick list",
+       [&] { return PickColumns(); },
+       {"3바코드 4품명 5규격 8발주량 of 10",
+        "3바코드 4품명 5규격 6현재고 7발주단위 8발주량 10단위 of 11",
+        "1S 2상품분류 4품명 5규격 6판매량 7현재고 8부족재고 of 10",
+        "3바코드 4품명 5규격 6안전고 7현재고 8부족 9단위 10발주량 of 12"}},
       {"editable columns", [&] { return EditableColumns(); }, {"8 ", "8 ", "1 6 ", "10 "}},
       {"an item gone from the list",
        [&] { return SavedWithAGoneItem(); },

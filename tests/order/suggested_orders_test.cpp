@@ -58,11 +58,13 @@ TEST_F(SuggestedOrders, WhatWasSoldIsProposedAgainstTheStock) {
     form.Check3.Value = c.ofSupplier;
     form.Text3.SetText("3");
     form.Check2.Value = 1;
+    form.Option1_Click(0);
     form.LaEP_Click(0);
     EXPECT_EQ(Proposal(form.FLEX2), c.proposal) << c.what;
     EXPECT_EQ(form.FLEX2.TextMatrix(form.FLEX2.Rows() - 1, 2), "식품") << c.what;
     EXPECT_EQ(form.Text3.Text(), "") << c.what;
     EXPECT_EQ(form.Check2.Value, 0) << c.what;
+    EXPECT_FALSE(form.Option1[0].Value) << c.what;
     EXPECT_FALSE(form.SSPanel1.Visible) << c.what;
     EXPECT_TRUE(form.FLEX2.Redraw) << c.what;
   }

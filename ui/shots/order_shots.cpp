@@ -1,8 +1,10 @@
 #include "ui/shots/order_shots.h"
 
 #include <QDateEdit>
+#include <QProgressBar>
 
 #include "basics/records.h"
+#include "forms/host.h"
 #include "forms/open_forms.h"
 #include "slips/item_list.h"
 #include "ui/qt_text.h"
@@ -67,6 +69,26 @@ void ShootCombinedOrder(Director& director) {
   });
 }
 
+/// Draws the window while the transfer's panel stands over it.
+class MiddleOfTransfer {
+ public:
+  MiddleOfTransfer(Director& director, FormWindow& window) : doEvents_(Host.DoEvents) {
+    Host.DoEvents = [this, &director, &window] {
+      doEvents_();
+      const auto& bar = Find<QProgressBar>(window, "ProgressBar1");
+      if (bar.isVisible() && bar.value() == bar.maximum() / 2) {
+        director.Save(window, "order_type2_transfer");
+      }
+    };
+  }
+  ~MiddleOfTransfer() { Host.DoEvents = doEvents_; }
+  MiddleOfTransfer(const MiddleOfTransfer&) = delete;
+  MiddleOfTransfer& operator=(const MiddleOfTransfer&) = delete;
+
+ private:
+  std::function<void()> doEvents_;
+};
+
 void ShootProposals(Director& director) {
   OpenType(director, 2);
   director.WhenShown("frm_Order01", [&](FormWindow& window) {
@@ -81,7 +103,10 @@ void ShootProposals(Director& director) {
     Press(window, Qt::Key_Enter);
     ClickOn(window, "Option1_0");
     director.Save(window, "order_type2");
-    Press(window, Qt::Key_F11);
+    {
+      const MiddleOfTransfer middle(director, window);
+      Press(window, Qt::Key_F11);
+    }
     director.Save(window, "order_type2_transferred");
     Press(window, Qt::Key_2, Qt::AltModifier);
     Press(window, Qt::Key_F7, Qt::ShiftModifier);

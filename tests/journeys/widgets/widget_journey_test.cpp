@@ -4,22 +4,15 @@
 
 #include <QApplication>
 #include <QLocale>
-#include <QTemporaryDir>
-#include <QTimer>
 #include <algorithm>
 
 #include "board/frm_Start.h"
 #include "forms/host.h"
 #include "gateway/gateway.h"
-#include "slips/process_state.h"
-#include "start/Main_Start.h"
-#include "start/options.h"
-#include "tests/journeys/hands.h"
+#include "tests/journeys/widgets/journey.h"
 #include "tests/journeys/widgets/journey_checks.h"
-#include "tests/support/private_server.h"
 #include "ui/desk.h"
 #include "ui/form_window.h"
-#include "ui/run_store.h"
 
 namespace store {
 namespace {
@@ -33,8 +26,6 @@ constexpr const char* kWater = "8808885601938";
 constexpr const char* kTomato = "8809614929071";
 
 constexpr const char* kDepot = "100101";
-constexpr int kSlipIdColumn = 8;  // hidden
-constexpr int kStateColumn = 3;
 constexpr int kTabOfSupplier = 9;  // "차"
 constexpr int kTabs = 15;
 
@@ -89,55 +80,16 @@ Row Totals(const QWidget& window) {
   return totals;
 }
 
-class WidgetJourney : public testing::Test {
+class WidgetJourney : public Journey {
  protected:
-  void SetUp() override {
-    ResetProcessState();
-    static const bool loaded = [] {
-      TestServer().LoadDemo();
-      return true;
-    }();
-    (void)loaded;
-    PrepareStore(*qApp);
-    Host.ProgramFolder = folder_.path().toStdString();
-    WriteOption("TARNWICK", "데이터서버", TestServer().ServerOption());
-    WriteOption("TARNWICK", "회사아이디", "demo");
-    WriteOption("TARNWICK", "일괄발주단가", "3");
-    WriteOption("TARNWICK", "발주타입", "0");
-  }
-  void TearDown() override {
-    EXPECT_TRUE(hands.AllDone()) << "did not come: " << hands.NextAnnounced().toStdString();
-    TheDesk().Clear();
-    ResetProcessState();
-  }
-
   void LogIn();
-  void Start(const std::string& commandLine);
-  FormWindow& Board() { return Hands::Window("frm_Start"); }
-  FormWindow& Order();
-  /// Row of a slip on the board, or -1.
-  int RowOf(const std::string& slipId) {
-    return Hands::RowWith(Board(), "FLEX1", kSlipIdColumn, slipId);
-  }
-  /// Its state word, or nothing when it is not on the board.
-  std::string StateOf(const std::string& slipId) {
-    const int row = RowOf(slipId);
-    return row < 0 ? ""
-                   : Hands::Rows(Board(), "FLEX1", {kStateColumn})[static_cast<size_t>(row)][0];
-  }
   void ExpectNotices();
   void ExpectBoard(const std::string& search);
-  void WalkTo(const std::string& slipId);
-  void Save(Qt::KeyboardModifiers modifiers);
   void ChooseSupplierFromTabs(FormWindow& order);
   std::string WriteOrder(By hand);
   void ChangeOrder(const std::string& id);
   void ConfirmAgain(const std::string& id);
   void Receive(const std::string& id, int ordered, int received, By hand);
-  void CloseBoard();
-
-  QTemporaryDir folder_;
-  Hands hands;
 };
 
 void WidgetJourney::LogIn() {
@@ -148,24 +100,6 @@ void WidgetJourney::LogIn() {
     Hands::Type(login, "1111");
     Hands::Press(login, Qt::Key_Return);
   });
-}
-
-void WidgetJourney::Start(const std::string& commandLine) {
-  if (commandLine.empty()) LogIn();
-  hands.See("frmSplash", [](FormWindow& splash) {
-    EXPECT_EQ(Hands::TextOf(splash, "lblVersion").substr(0, 8), "Version ");
-  });
-  bool goesOn = false;
-  Dispatch([&] { goesOn = Main_Start(commandLine); });
-  ASSERT_TRUE(goesOn);
-  ASSERT_TRUE(Hands::Wait([this] { return !Hands::TextOf(Board(), "Label6_0").empty(); }));
-}
-
-FormWindow& WidgetJourney::Order() {
-  FormWindow& order = Hands::Window("frm_Order");
-  // A person begins when the supplier box blinks.
-  EXPECT_TRUE(Hands::Wait([&] { return order.ShownForm().FocusRevision() > 0; }));
-  return order;
 }
 
 void WidgetJourney::ExpectNotices() {
@@ -193,24 +127,6 @@ void WidgetJourney::ExpectBoard(const std::string& search) {
             DemoRows("SELECT CONCAT(COUNT(*),'건   ',FORMAT(SUM(LINES_N),0),' 상품'),"
                      "CONCAT(FORMAT(SUM(PE_TOT),0),'원') FROM " +
                      slips)[0]);
-}
-
-/// With the arrow keys to a slip on the board.
-void WidgetJourney::WalkTo(const std::string& slipId) {
-  ASSERT_EQ(Hands::KeyboardAt(Board()), "FLEX1");
-  const int row = RowOf(slipId);
-  ASSERT_GE(row, 0);
-  const auto& board = static_cast<const frm_Start&>(Board().ShownForm());
-  const int from = board.FLEX1.Row() - board.FLEX1.FixedRows();
-  const int key = row < from ? Qt::Key_Up : Qt::Key_Down;
-  for (int step = 0; step < std::abs(row - from); ++step) Hands::Press(Board(), key);
-  EXPECT_EQ(board.SelectedSlipId, slipId);
-}
-
-void WidgetJourney::Save(Qt::KeyboardModifiers modifiers) {
-  hands.AnswerBox("발주가 정상적으로 처리되었습니다. 계속해서 발주하시겠습니까?", Qt::Key_N);
-  Hands::Press(Order(), Qt::Key_F9, modifiers);
-  ASSERT_TRUE(Hands::Wait([] { return TheDesk().WindowNamed("frm_Order") == nullptr; }));
 }
 
 /// From the far end of the tabs to the one of the supplier's first consonant.
@@ -351,19 +267,8 @@ void WidgetJourney::Receive(const std::string& id, int ordered, int received, By
   ExpectBoard(kDue);
 }
 
-/// As the program runs: closing the board is what ends it.
-void WidgetJourney::CloseBoard() {
-  hands.See("frm_Start", [](FormWindow& board) { Hands::Press(board, Qt::Key_F12); });
-  hands.AnswerBox("프로그램을 종료하시겠습니까?", Qt::Key_Y);
-  QTimer limit;
-  QObject::connect(&limit, &QTimer::timeout, [] { QApplication::exit(EXIT_FAILURE); });
-  limit.start(30000);
-  EXPECT_EQ(QApplication::exec(), EXIT_SUCCESS) << "the program did not end";
-  EXPECT_TRUE(TheDesk().Ending());
-  EXPECT_EQ(TheDesk().WindowNamed("frm_Start"), nullptr);
-}
-
 TEST_F(WidgetJourney, AnOrderGoesOutTheGoodsComeInAndStockSumMoves) {
+  LogIn();
   ASSERT_NO_FATAL_FAILURE(Start(""));
   ExpectNotices();
   ExpectBoard(kOfToday);
