@@ -53,8 +53,9 @@ bool Grid::Inside(int row, int col) const {
 void Grid::SetRowsMadeLater(int count, RowMaker make) {
   SetRows(fixedRows_);
   maker_ = std::move(make);
-  rows_.resize(static_cast<size_t>(fixedRows_ + count));
-  for (int row = 0; row < count; ++row) rows_[static_cast<size_t>(fixedRows_ + row)].later = row;
+  SetRows(fixedRows_ + count);
+  int number = 0;
+  for (auto row = rows_.begin() + fixedRows_; row != rows_.end(); ++row) row->later = number++;
 }
 
 std::vector<std::string>& Grid::Cells(int row) const {

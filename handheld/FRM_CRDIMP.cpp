@@ -20,9 +20,8 @@ std::string OwnPriceStatement() {
       " SELECT PR.PR_BCODE as 바코드,PR.PR_NAME as 품명,PR_OP0 as 입고가,PR_OP1 as 출고가,"
       "SUM(IV.BSQTY+IV.INQTY-IV.OTQTY) as 현재고,SAFEIV.SAFE_QTY as 적정재고 FROM ((PR LEFT JOIN "
       "SAFEIV ON PR.PR_CODE = SAFEIV.PR_CODE  AND SAFEIV.RCT_CODE = '{store}') LEFT JOIN IV  ON "
-      "PR.PR_CODE = IV.PR_CODE AND IV.RCT_CODE = '{store}')  WHERE   PR.PR_BCODE <> '' AND PR_END "
-      "= "
-      "'0'  GROUP BY PR.PR_BCODE ",
+      "PR.PR_CODE = IV.PR_CODE AND IV.RCT_CODE = '{store}')  WHERE   PR.PR_BCODE <> '' AND "
+      "PR_END = '0'  GROUP BY PR.PR_BCODE ",
       "store"_a = Session.StoreCode);
 }
 
@@ -128,26 +127,30 @@ std::string FRM_CRDIMP::MasterStatement() const {
 }
 
 void FRM_CRDIMP::BuildMasterFile(std::int16_t& written) {
+  std::string refusal;
+  written = WriteProducts(refusal) ? -1 : 0;
+  if (refusal.empty()) return;
+  Host.MsgBox("MASTER 파일을 만들지 못했습니다. 이전 파일은 그대로입니다.\r\r" + refusal,
+              box::Critical, "크래들 IMPORT");
+}
+
+bool FRM_CRDIMP::WriteProducts(std::string& refusal) {
   const Hourglass waiting;
   const RecordsetSlot products = FetchRecordset(MasterStatement());
-  if (!products) return;
+  // An empty file would take the terminal's products away.
+  if (AtEof(products)) return false;
   const int count = products->RecordCount();
   PBar1.Max = count;
   PBar1.Value = 0;
   LBLMsg.Caption = "☞ 품목정보 생성중입니다. 잠시만 기다리세요.";
-  Label2[3].Caption = "총 [" + std::to_string(count) + "]건중 ";
+  Label2[3].Caption = "총 [" + std::to_string(count) + "] 건중 ";
   const std::string text = MasterText(products);
   Label2[1].Caption.clear();
   Label2[3].Caption =
       " 품목 MASTER DB 를 정리중입니다.    - 잠시대기 -                                 ";
   Host.DoEvents();
-  const std::string refusal = WriteMasterFile(text);
-  if (refusal.empty()) {
-    written = -1;
-    return;
-  }
-  Host.MsgBox("MASTER 파일을 만들지 못했습니다. 이전 파일은 그대로입니다.\r\r" + refusal,
-              box::Critical, "크래들 IMPORT");
+  refusal = WriteMasterFile(text);
+  return refusal.empty();
 }
 
 std::string FRM_CRDIMP::MasterText(const RecordsetSlot& products) {

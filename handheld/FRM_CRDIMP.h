@@ -36,6 +36,8 @@ class FRM_CRDIMP : public HandheldForm {
   void PublishControls();
   void OnConfirm();
   void BuildMasterFile(std::int16_t& written);
+  /// True when the file stands. `refusal` is what the platform says against it.
+  bool WriteProducts(std::string& refusal);
   std::string MasterStatement() const;
   std::string MasterText(const RecordsetSlot& products);
 };

@@ -38,6 +38,27 @@ std::string PriceStatement(const std::string& product, double price) {
 
 void TellNothingToDo() { Host.MsgBox("처리할 자료가 없습니다.", box::Critical, "확인"); }
 
+/// A pass reads the database for its first number. That may lie below what this run has handed out
+/// to orders and receipts, whose numbers must not come again; so they go on where they stood.
+class NumbersOfPass {
+ public:
+  NumbersOfPass() {
+    SlipSeqCounter = 0;
+    SlipKeyPrefix.clear();
+  }
+  ~NumbersOfPass() {
+    if (counter_ != 0 && counter_ <= SlipSeqCounter) return;
+    SlipSeqCounter = counter_;
+    SlipKeyPrefix = prefix_;
+  }
+  NumbersOfPass(const NumbersOfPass&) = delete;
+  NumbersOfPass& operator=(const NumbersOfPass&) = delete;
+
+ private:
+  const std::int16_t counter_ = SlipSeqCounter;
+  const std::string prefix_ = SlipKeyPrefix;
+};
+
 constexpr const char* kStored = "저장이 완료되었습니다.";
 constexpr const char* kRowsGone =
     "이미 처리되었거나 삭제된 자료가 있어 저장하지 않았습니다.\r목록을 다시 확인하시기 바랍니다.";
@@ -47,12 +68,11 @@ constexpr const char* kRowsGone =
 void FRM_DT900_01::MakeSlips() {
   if (!MayMakeSlips() || !ConfirmLeftOver()) return;
   pass_ = {};
-  SlipSeqCounter = 0;
-  SlipKeyPrefix.clear();
   StartBatch();
   Sent sent = Sent::Failed;
   {
     const Hourglass waiting;
+    const NumbersOfPass numbers;
     if (ModuleCode == handheld_module::Prices) {
       AddPriceUpdates();
     } else if (!BuildSlips()) {

@@ -109,7 +109,7 @@ void frmProperties::LoadPropertySettings() {
   const std::string settings = port.Settings();
   const int length = CharLength(settings);
   const int extra = settings.find('.') == std::string::npos ? 0 : 2;
-  cboSpeed.SetText(LeftChars(settings, length - 6 - extra));
+  ShowSpeed(LeftChars(settings, length - 6 - extra));
   const std::string parity = MidChars(settings, length - 4 - extra, 1);
   const size_t entry = parity.empty() ? std::string_view::npos : kParityLetters.find(parity);
   if (entry != std::string_view::npos) cboParity.SetListIndex(static_cast<int>(entry));
@@ -118,6 +118,14 @@ void frmProperties::LoadPropertySettings() {
   cboPort.SetListIndex(port.CommPort() - 1);
   optFlow_Click(port.Handshaking());
   SetFocus(cboPort);
+}
+
+// A port may have been set up elsewhere, to a speed that the list does not offer.
+void frmProperties::ShowSpeed(const std::string& speed) {
+  cboSpeed.SetText(speed);
+  if (cboSpeed.Text() == speed) return;
+  cboSpeed.AddItem(speed);
+  cboSpeed.SetText(speed);
 }
 
 std::string frmProperties::ChosenSettings() const {

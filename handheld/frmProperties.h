@@ -39,6 +39,7 @@ class frmProperties : public Form {
 
  private:
   void PublishControls();
+  void ShowSpeed(const std::string& speed);
   std::string ChosenSettings() const;
 
   int flow_ = 0;  // the option that was chosen

@@ -3,9 +3,9 @@
 #include <memory>
 
 #include "forms/open_forms.h"
+#include "handheld/DT9RECEV.h"
 #include "handheld/FRM_CRDIMP.h"
 #include "handheld/FRM_DT900_01.h"
-#include "handheld/DT9RECEV.h"
 #include "handheld/FRM_NAMECHK.h"
 #include "handheld/frmProperties.h"
 

@@ -1,4 +1,7 @@
 // The terminal's line while a transfer runs.
+#include <array>
+#include <utility>
+
 #include "basics/numbers.h"
 #include "basics/text.h"
 #include "forms/host.h"
@@ -27,38 +30,27 @@ void Wait(int milliseconds) {
   }
 }
 
-/// What the operator reads about a code; nothing for a notice.
+/// News of the line that nobody is told.
+bool IsNotice(int code) { return code >= comm::Send && code <= comm::EndOfFile; }
+
+/// What the operator reads about an error. A lost byte reads like a wrong one.
 const char* ErrorText(int code) {
-  switch (code) {
-    case comm::Send:
-    case comm::CtsChanged:
-    case comm::DsrChanged:
-    case comm::CarrierChanged:
-    case comm::Ring:
-    case comm::EndOfFile:
-      return nullptr;
-    case comm::Break:
-      return "중단 신호 수신";
-    case comm::CtsTimeout:
-      return "CTS 시간 초과";
-    case comm::DsrTimeout:
-      return "DSR 시간 초과";
-    case comm::Framing:
-      return "프레이밍 오류";
-    case comm::Overrun:  // a lost byte reads like a wrong one
-    case comm::Parity:
-      return "패리티 오류";
-    case comm::CarrierTimeout:
-      return "반송파 검출 시간 초과";
-    case comm::ReceiveOverflow:
-      return "수신 버퍼 초과";
-    case comm::SendFull:
-      return "전송 버퍼에 여유가 없음";
-    case comm::DeviceBlock:
-      return "DCB 검색 오류";
-    default:
-      return "알 수 없는 오류 또는 이벤트";
+  static constexpr std::array<std::pair<int, const char*>, 10> texts = {{
+      {comm::Break, "중단 신호 수신"},
+      {comm::CtsTimeout, "CTS 시간 초과"},
+      {comm::DsrTimeout, "DSR 시간 초과"},
+      {comm::Framing, "프레이밍 오류"},
+      {comm::Overrun, "패리티 오류"},
+      {comm::CarrierTimeout, "반송파 검출 시간 초과"},
+      {comm::ReceiveOverflow, "수신 버퍼 초과"},
+      {comm::Parity, "패리티 오류"},
+      {comm::SendFull, "전송 버퍼에 여유가 없음"},
+      {comm::DeviceBlock, "DCB 검색 오류"},
+  }};
+  for (const auto& [error, text] : texts) {
+    if (error == code) return text;
   }
+  return "알 수 없는 오류 또는 이벤트";
 }
 
 }  // namespace
@@ -112,7 +104,7 @@ void DT9RECEV::ShowReceiving() {
 void DT9RECEV::OnCommEvent(int code) {
   if (code == comm::Receive) {
     OnHandheldChunk(MSComm1->Input());
-  } else if (ErrorText(code) != nullptr) {
+  } else if (!IsNotice(code)) {
     InTurn([this, code] { ReportError(code); });
   }
 }

@@ -21,37 +21,20 @@ std::string PartnersStatement(const std::string& module) {
   return " SELECT CT_CODE,CT_NAME  FROM   CT ";
 }
 
+/// Surveys and prices have the kind where the partner's name stands, and only one of the figures.
 std::array<std::string, received::Count> CellsOf(const HandheldRecord& record) {
+  const bool trade = record.Layout == RecordLayout::Trade;
   const std::string quantity = NumberText(record.Quantity);
   const std::string price = NumberText(record.Price);
-  switch (record.Layout) {
-    case RecordLayout::Trade:
-      return {record.Sequence, record.Kind, record.Partner, "", record.Barcode, record.Name,
-              quantity,        price,       record.Partner};
-    case RecordLayout::Survey:
-      return {record.Sequence,
-              record.Kind,
-              kProductRowsPartner,
-              record.Kind,
-              record.Barcode,
-              record.Name,
-              quantity,
-              "",
-              ""};
-    case RecordLayout::Product:
-      return {record.Sequence,
-              record.Kind,
-              kProductRowsPartner,
-              record.Kind,
-              record.Barcode,
-              record.Name,
-              "",
-              price,
-              ""};
-    case RecordLayout::None:
-      break;
-  }
-  return {};
+  return {record.Sequence,
+          record.Kind,
+          trade ? record.Partner : kProductRowsPartner,
+          trade ? "" : record.Kind,
+          record.Barcode,
+          record.Name,
+          record.Layout == RecordLayout::Product ? "" : quantity,
+          record.Layout == RecordLayout::Survey ? "" : price,
+          record.Partner};
 }
 
 }  // namespace

@@ -141,8 +141,7 @@ void StagedRowsPane::HideColumnsOfOtherModules() {
 }
 
 void StagedRowsPane::LoadStagedRows() {
-  FLEX.SetRows(FLEX.FixedRows());
-  for (Label& label : Label2) label.Caption.clear();
+  EmptyList();
   const std::string where =
       StagedCondition(form_.ModuleCode, form_.ReturnMark, FirstWord(Text1[1].Text()));
   StringTable rows;
@@ -155,6 +154,11 @@ void StagedRowsPane::LoadStagedRows() {
     ShowRows(rows, count);
   }
   ClearStatusLater();
+}
+
+void StagedRowsPane::EmptyList() {
+  FLEX.SetRows(FLEX.FixedRows());
+  for (Label& label : Label2) label.Caption.clear();
 }
 
 void StagedRowsPane::ShowRows(const StringTable& rows, std::int32_t count) {
@@ -177,7 +181,7 @@ void StagedRowsPane::ShowRows(const StringTable& rows, std::int32_t count) {
 bool StagedRowsPane::FetchStock(RecordsetSlot& stock) {
   stock = FetchRecordset(StockStatement(DepotCodeOf(Combo1)));
   if (stock) return true;
-  FLEX.SetRows(FLEX.FixedRows());
+  EmptyList();
   LBL_MSG.Caption = "전산재고를 읽지 못했습니다. 다시 보기를 눌러 주세요.";
   return false;
 }

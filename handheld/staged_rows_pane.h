@@ -78,6 +78,7 @@ class StagedRowsPane {
  private:
   void PublishControls();
   void SetUpGrid();
+  void EmptyList();
   void ShowRows(const StringTable& rows, std::int32_t count);
   bool FetchStock(RecordsetSlot& stock);
   void ShowStock(const RecordsetSlot& stock, int row, std::string& onFile);

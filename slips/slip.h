@@ -17,7 +17,7 @@ namespace head {
 inline constexpr int Id = 0;        ///< PE_ID
 inline constexpr int State = 1;     ///< PE_CK
 inline constexpr int Date = 2;      ///< PE_PDATE
-inline constexpr int Today = 3;     ///< Not stored: the database's now() is.
+inline constexpr int Today = 3;     ///< Stored by the terminal's slips; others store now().
 inline constexpr int FromCode = 4;  ///< PE_FCTCODE
 inline constexpr int FromName = 5;  ///< PE_FCTNAME
 inline constexpr int ToCode = 6;    ///< PE_TCTCODE

@@ -1,9 +1,9 @@
 #include "ui/store_windows.h"
 
 #include "board/frm_Start.h"
+#include "handheld/DT9RECEV.h"
 #include "handheld/FRM_CRDIMP.h"
 #include "handheld/FRM_DT900_01.h"
-#include "handheld/DT9RECEV.h"
 #include "handheld/FRM_NAMECHK.h"
 #include "handheld/frmProperties.h"
 #include "lookup/NEW_PR.h"

@@ -1,5 +1,6 @@
 #include "handheld/wire/line_receiver.h"
 
+#include <array>
 #include <cstdint>
 #include <limits>
 
@@ -10,6 +11,9 @@ namespace store {
 namespace {
 
 constexpr size_t kAbsent = std::string_view::npos;
+
+constexpr std::array kBeginningBytes = {control::Enq, control::Stx, control::Eot};
+constexpr std::string_view kBeginnings(kBeginningBytes.data(), kBeginningBytes.size());
 
 /// Where a text's character begins as a text of two bytes a character, from 1; 0 when absent. The
 /// cuts below are made at these positions.
@@ -39,8 +43,8 @@ bool HasOutside(const Frame& frame, std::string_view buffer, char sought) {
   return at != kAbsent;
 }
 
-bool BeginsMessage(char byte) {
-  return byte == control::Enq || byte == control::Stx || byte == control::Eot;
+bool BeginsMessage(std::string_view buffer) {
+  return !buffer.empty() && kBeginnings.find(buffer[0]) != kAbsent;
 }
 
 /// No text has more bytes in the code page than it has here, so that a short one, which comes with
@@ -64,9 +68,9 @@ void LineReceiver::Clear() {
 
 LineMessage LineReceiver::Take(std::string_view chunk) {
   buffer_ += chunk;
+  if (inNoise_) DropNoise();
   if (buffer_.empty()) return {};
-  if (!BeginsMessage(buffer_[0])) return Reject();
-  inNoise_ = false;
+  if (!BeginsMessage(buffer_)) return Reject();
   if (IsTooLongToMeasure(buffer_)) return Reject();  // it has lost its end
   const std::string candidate = Candidate();
   if (candidate.empty()) return {};
@@ -83,15 +87,19 @@ LineMessage LineReceiver::Take(std::string_view chunk) {
   }
 }
 
-// A frame that has lost its beginning comes in as many pieces as the line likes. It is told once,
-// or the terminal would take the further rejects for those of what it sends next.
 LineMessage LineReceiver::Reject() {
-  const bool told = inNoise_;
-  const bool ends = buffer_.find(control::Etx) != kAbsent;
+  inNoise_ = buffer_.find(control::Etx) == kAbsent;
   buffer_.clear();
-  inNoise_ = !ends;
-  if (told) return {};
   return {LineStep::Reject, {}};
+}
+
+// A frame that has lost its beginning comes in as many pieces as the line likes. It is told once,
+// or the terminal would take the further rejects for those of what it sends next. What stands
+// behind its end is that next message, which the terminal wants to have answered.
+void LineReceiver::DropNoise() {
+  const size_t end = BeginsMessage(buffer_) ? 0 : buffer_.find(control::Etx);
+  inNoise_ = end == kAbsent;
+  buffer_.erase(0, buffer_.find_first_of(kBeginnings, end));
 }
 
 std::string LineReceiver::Candidate() const {

@@ -34,6 +34,7 @@ class LineReceiver {
 
  private:
   LineMessage Reject();
+  void DropNoise();
   std::string Candidate() const;
 
   std::string buffer_;

@@ -61,6 +61,15 @@ TEST(LineReceiver, TakesWhatComesOutOfOrder) {
       {"a frame that has lost its beginning", {"0001" + kRecord + "ZZ\x03", kOpening}, "XO"},
       {"the same in pieces is told once", {"00", "01", "ZZ\x03", "00"}, "XWWX"},
       {"the next message ends the noise", {"00", "01", kOpening, "00"}, "XWOX"},
+      {"a message behind the end of told noise is heard",
+       {"00", "ZZ\x03" + FrameOf(kRecord), "00",
+        "ZZ\x03\x02"
+        "0002",
+        "ZZ\x03"},
+       "X[" + kRecord + "]XW[0002]"},
+      {"noise that was told takes the message of its own burst with it",
+       {"00", "01" + FrameOf(kRecord) + "\r", kOpening},
+       "XWO"},
       {"noise in front takes the message with it", {"x" + kOpening, kOpening}, "XO"},
       {"content that closes and opens",
        {"\x02"

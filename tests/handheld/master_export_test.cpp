@@ -65,7 +65,12 @@ TEST_F(MasterExport, WritesEveryProductThatIsSoldAndStartsTheTool) {
       "PR_CODE='P0009'");
   host.ExpectBox("DT900의 [8.수신]을 선택후 [확인:ENT]");
   FRM_CRDIMP& form = Open();
+  std::string told;
+  host.DuringEvents = [&] {
+    if (told.empty()) told = form.Label2[3].Caption + form.Label2[1].Caption;
+  };
   form.Command1_Click(0);
+  EXPECT_EQ(told, "총 [" + std::to_string(form.PBar1.Max) + "] 건중 1");
   EXPECT_NE(LineOf("8801000").find("    480    700   24   10"), std::string::npos)
       << "one line for a barcode on two products, the stock of each setting";
   EXPECT_NE(LineOf("88010003").find("   250    300    0    8"), std::string::npos)
@@ -107,7 +112,13 @@ TEST_F(MasterExport, TellsWhatStandsInItsWayAndKeepsTheOldFile) {
   std::ofstream(File()) << "old";
   std::filesystem::create_directory(File().string() + ".new");  // where the fresh one would be made
   host.ExpectBox("MASTER 파일을 만들지 못했습니다.");
+  int pointerAtBox = PointerHourglass;
+  Host.MsgBox = [&, show = Host.MsgBox](const auto& text, int style, const auto& title) {
+    pointerAtBox = host.Pointers.back();
+    return show(text, style, title);
+  };
   Open().Command1_Click(0);
+  EXPECT_EQ(pointerAtBox, PointerNormal);
   EXPECT_EQ(Written(), "old");
   std::filesystem::remove(File().string() + ".new");
 
@@ -117,8 +128,14 @@ TEST_F(MasterExport, TellsWhatStandsInItsWayAndKeepsTheOldFile) {
   Open().Command1_Click(0);
   EXPECT_NE(Written(), "old");
 
-  Disconnect();
+  const std::string before = Written();
+  Sql("UPDATE PR SET PR_END='1'");
   Open().Command1_Click(0);  // closes without a word
+  EXPECT_EQ(Written(), before) << "nothing to sell does not empty the terminal";
+  EXPECT_EQ(host.Programs.size(), 1U);
+
+  Disconnect();
+  Open().Command1_Click(0);
   EXPECT_EQ(OpenForm("FRM_CRDIMP"), nullptr);
   Reconnect();
 }

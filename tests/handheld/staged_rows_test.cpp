@@ -103,6 +103,7 @@ TEST_F(StagedRows, OfASurveyStandBesideTheStockOnFile) {
   Disconnect();
   form.Combo1.SetText(ListEntry("매장", "100101"));
   EXPECT_EQ(form.FLEX.Rows(), 1);
+  EXPECT_EQ(form.Label2[0].Caption, "") << "no row is ticked any more";
 }
 
 }  // namespace

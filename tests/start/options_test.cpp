@@ -8,12 +8,12 @@
 #include <sstream>
 
 #include "basics/deployment.h"
+#include "basics/profile_file.h"
 #include "basics/records.h"
 #include "basics/text.h"
 #include "forms/host.h"
 #include "gateway/gateway.h"
 #include "slips/process_state.h"
-#include "basics/profile_file.h"
 #include "tests/support/scripted_host.h"
 
 namespace store {
