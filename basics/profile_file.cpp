@@ -11,6 +11,7 @@ namespace store {
 namespace {
 
 constexpr size_t kLongestValue = 254;
+constexpr size_t kLargestFile = 1 << 20;
 constexpr std::string_view kLineEnd = "\r\n";
 
 using Lines = std::vector<std::string>;  // as in the file, each with its own line end
@@ -110,10 +111,15 @@ void AddKey(Lines& lines, SectionRange range, const std::string& section,
 
 }  // namespace
 
+std::string ProfileFault(const std::string& path) {
+  std::string bytes;
+  return ReadWholeFile(path, kLargestFile, bytes);
+}
+
 std::string ReadProfileValue(const std::string& path, const std::string& section,
                              const std::string& key) {
   std::string bytes;
-  if (!ReadWholeFile(path, bytes)) return {};
+  if (!ReadWholeFile(path, kLargestFile, bytes).empty()) return {};
   const Lines lines = SplitLines(bytes);
   const SectionRange range = FindSection(lines, section);
   const size_t at = FindKey(lines, range, key);
@@ -126,7 +132,7 @@ std::string ReadProfileValue(const std::string& path, const std::string& section
 bool WriteProfileValue(const std::string& path, const std::string& section, const std::string& key,
                        const std::string& value) {
   std::string bytes;
-  if (!ReadWholeFile(path, bytes)) return false;
+  if (!ReadWholeFile(path, kLargestFile, bytes).empty()) return false;
   Lines lines = SplitLines(bytes);
   const SectionRange range = FindSection(lines, section);
   const size_t at = FindKey(lines, range, key);

@@ -26,12 +26,18 @@ class File {
   bool IsOpen() const { return handle_ >= 0; }
   int Handle() const { return handle_; }
 
-  bool ReadAll(std::string& bytes) const {
+  /// One byte more than `most` shows that there are too many.
+  bool ReadUpTo(size_t most, std::string& bytes) const {
     char buffer[4096];
     ssize_t got = 0;
-    while ((got = ::read(handle_, buffer, sizeof buffer)) > 0)
+    while (bytes.size() <= most && (got = ::read(handle_, buffer, sizeof buffer)) > 0)
       bytes.append(buffer, static_cast<size_t>(got));
-    return got == 0;
+    return got >= 0;
+  }
+
+  bool IsRegular() const {
+    struct stat state {};
+    return ::fstat(handle_, &state) == 0 && S_ISREG(state.st_mode);
   }
 
   bool WriteAll(std::string_view bytes) const {
@@ -59,7 +65,8 @@ void SyncFolderOf(const std::string& path) {
 }
 
 bool WriteFresh(const std::string& fresh, const std::string& path, const std::string& bytes) {
-  File file(fresh, O_WRONLY | O_CREAT | O_TRUNC);
+  ::unlink(fresh.c_str());
+  File file(fresh, O_WRONLY | O_CREAT | O_EXCL);
   if (!file.IsOpen()) return false;
   struct stat old {};
   const bool sameRights =
@@ -69,9 +76,12 @@ bool WriteFresh(const std::string& fresh, const std::string& path, const std::st
 
 }  // namespace
 
-bool ReadWholeFile(const std::string& path, std::string& bytes) {
-  const File file(path, O_RDONLY);
-  return file.IsOpen() ? file.ReadAll(bytes) : errno == ENOENT;
+std::string ReadWholeFile(const std::string& path, std::size_t most, std::string& bytes) {
+  const File file(path, O_RDONLY | O_NONBLOCK);
+  if (!file.IsOpen()) return errno == ENOENT ? std::string() : std::strerror(errno);
+  if (!file.IsRegular()) return "보통 파일이 아닙니다.";
+  if (!file.ReadUpTo(most, bytes)) return std::strerror(errno);
+  return bytes.size() > most ? "파일이 너무 큽니다." : std::string();
 }
 
 std::string ReplaceFile(const std::string& path, const std::string& bytes) {

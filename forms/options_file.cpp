@@ -11,6 +11,11 @@ std::string OptionsPath() { return Host.ProgramFolder + "/OPT.ini"; }
 
 }  // namespace
 
+std::string OptionsFileFault() {
+  const std::string fault = ProfileFault(OptionsPath());
+  return fault.empty() ? std::string() : OptionsPath() + ": " + fault;
+}
+
 std::string ReadOption(const std::string& section, const std::string& key) {
   return ReadProfileValue(OptionsPath(), section, key);
 }

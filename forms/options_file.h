@@ -13,6 +13,9 @@ inline constexpr const char* kOptionSection = "TARNWICK";
 /// The key of the order type.
 inline constexpr const char* kOrderTypeKey = "발주타입";
 
+/// What is wrong with a file that is there and is passed over; empty when nothing is.
+std::string OptionsFileFault();
+
 /// The value of a key, at most 254 bytes of code page 949; empty when the key is absent.
 std::string ReadOption(const std::string& section, const std::string& key);
 

@@ -1,11 +1,15 @@
 #include "start/options.h"
 
+#include <iostream>
+
 #include "forms/host.h"
 #include "gateway/gateway.h"
 
 namespace store {
 
 void LoadOptions() {
+  const std::string fault = OptionsFileFault();
+  if (!fault.empty()) std::clog << fault << "\n";
   for (const Option& option : kOptions) {
     const std::string value = ReadOption(kOptionSection, option.Key);
     if (option.Text != nullptr) AppOptions.*option.Text = value;

@@ -2,9 +2,11 @@
 
 #include <gtest/gtest.h>
 #include <sys/resource.h>
+#include <sys/stat.h>
 
 #include <csignal>
 #include <fstream>
+#include <iostream>
 #include <sstream>
 
 #include "basics/deployment.h"
@@ -146,6 +148,45 @@ TEST_F(Options, AFailedWriteIsToldAndLeavesTheOldFile) {
   WriteOption("TARNWICK", "key", "new");
   EXPECT_TRUE(std::filesystem::is_symlink(Path()));
   EXPECT_EQ(host.Boxes.back().Style, box::Plain);
+}
+
+// What would hang the start, or never end, is as absent, and is not written over.
+TEST_F(Options, AFileThatIsNoneIsPassedOverAndNamed) {
+  const auto make = [&](const char* kind) {
+    std::filesystem::remove_all(Path());
+    const std::string name = kind;
+    if (name == "pipe") {
+      EXPECT_EQ(mkfifo(Path().c_str(), 0600), 0);
+    }
+    if (name == "folder") std::filesystem::create_directory(Path());
+    if (name == "endless") std::filesystem::create_symlink("/dev/zero", Path());
+    if (name == "large") {
+      Put("[TARNWICK]\r\n데이터서버=wrong\r\n");
+      std::filesystem::resize_file(Path(), (1 << 20) + 1);
+    }
+  };
+  for (const char* kind : {"pipe", "folder", "endless", "large"}) {
+    make(kind);
+    std::ostringstream log;
+    std::streambuf* const before = std::clog.rdbuf(log.rdbuf());
+    LoadOptions();
+    std::clog.rdbuf(before);
+    EXPECT_EQ(Loaded(), "|||kt||0|0|0|0|0") << kind;
+    EXPECT_NE(log.str().find("OPT.ini: "), std::string::npos) << kind << ": " << log.str();
+    const auto type = std::filesystem::symlink_status(Path()).type();
+    host.ExpectBox("옵션정보 기록실패");
+    WriteOption("TARNWICK", "key", "new");
+    EXPECT_EQ(std::filesystem::symlink_status(Path()).type(), type) << kind;
+  }
+  Put("[TARNWICK]\r\n데이터서버=right\r\n");
+  std::filesystem::resize_file(Path(), 1 << 20);
+  LoadOptions();
+  EXPECT_EQ(AppOptions.DataServer, "right");
+  // What a broken write left beside it is in nobody's way.
+  ASSERT_EQ(mkfifo((host.Folder / "OPT.ini.new").c_str(), 0600), 0);
+  WriteOption("TARNWICK", "데이터서버", "new");
+  EXPECT_EQ(ReadOption("TARNWICK", "데이터서버"), "new");
+  EXPECT_FALSE(std::filesystem::exists(host.Folder / "OPT.ini.new"));
 }
 
 TEST(Deployment, IsOverriddenByTheEnvironment) {
