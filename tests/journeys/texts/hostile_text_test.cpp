@@ -1,0 +1,141 @@
+// Nothing that a person types becomes a statement, whatever the box.
+#include <map>
+#include <set>
+
+#include "board/frm_Start.h"
+#include "forms/open_forms.h"
+#include "handheld/handheld_forms.h"
+#include "lookup/NEW_PR.h"
+#include "order/order_form.h"
+#include "receipt/frm_PE_UNIT.h"
+#include "slips/item_list.h"
+#include "start/Main_Start.h"
+#include "tests/support/small_store_test.h"
+
+namespace store {
+namespace {
+
+const std::string kMark = "zq7";
+
+/// A statement without its quoted texts.
+std::string Bare(const std::string& statement) {
+  std::string bare;
+  bool quoted = false;
+  for (const char c : statement) {
+    if (c == '\'') quoted = !quoted;
+    if (!quoted) bare += c;
+  }
+  return bare;
+}
+
+/// A clerk who throws one text into whatever box there is. Every box is answered, every window that
+/// comes up gets the text as well and is closed.
+class HostileText : public SmallStoreTest {
+ protected:
+  HostileText() {
+    RegisterStartForms();
+    RegisterBoardForms();
+    RegisterOrderForms();
+    RegisterReceiptForms();
+    RegisterHandheldForms();
+    RegisterLookupForms();
+    Host.MsgBox = [](const std::string&, int style, const std::string&) {
+      return (style & box::YesNo) != 0 ? box::Yes : box::Ok;
+    };
+    Host.ShowModal = [this](Form& form) {
+      form.EnsureLoaded();
+      if (form.IsClosed()) return;
+      form.Activate();
+      if (depth_++ == 0) ThrowInto(form);
+      --depth_;
+      if (!form.IsClosed()) form.Close();
+    };
+    Host.EndProgram = [] {};
+    TestServer().Sql("mysql", "SET GLOBAL log_output = 'TABLE'");
+  }
+  ~HostileText() override { TestServer().Sql("mysql", "SET GLOBAL general_log = OFF"); }
+
+  /// Opens a form afresh and throws the text into it.
+  void ThrowIntoForm(const std::string& name) {
+    DropAllForms();
+    ReleaseDroppedForms();
+    Session.UserCode = "u01";
+    Session.StoreCode = "1001";
+    auto* board = dynamic_cast<MainWindow*>(TheForm("frm_Start"));
+    Host.Show(*board);
+    Form& form = *TheForm(name);
+    if (auto* slip = dynamic_cast<SlipForm*>(&form)) {
+      slip->SlipTable = name == "frm_PE_UNIT" ? "PEM23" : "PEM22";
+      if (name == "frm_PE_UNIT") slip->SlipId = "202405151001u02220004";
+    }
+    Host.Show(form);
+    ThrowInto(form);
+    Host.Ending = false;
+  }
+
+  std::string Text;
+  std::set<std::string> Reached;  ///< The boxes from which a harmless text came into a statement.
+
+  /// The statements of the server's log that hold the text's mark.
+  static std::vector<std::string> Logged() {
+    TestServer().Sql("mysql", "SET GLOBAL general_log = OFF");
+    std::vector<std::string> statements;
+    for (const auto& row : TestServer().Rows(
+             "mysql",
+             "SELECT CONVERT(argument USING utf8mb4) FROM general_log WHERE argument LIKE "
+             "'%" +
+                 kMark + "%'")) {
+      statements.push_back(row[0]);
+    }
+    TestServer().Sql("mysql", "TRUNCATE general_log; SET GLOBAL general_log = ON");
+    return statements;
+  }
+
+ private:
+  void ThrowInto(Form& form) {
+    const auto controls = form.Controls();
+    for (const auto& [name, control] : controls) {
+      auto* box = dynamic_cast<TextBox*>(control);
+      if (box == nullptr || form.IsClosed()) continue;
+      form.TakeFocus(*box, true);
+      for (const Key key : {Key::Enter, Key::F1, Key::F6, Key::F5, Key::F9}) {
+        if (form.IsClosed()) break;
+        box->SetText(Text);
+        form.Press(key, box);
+      }
+      if (Text == kMark && !Logged().empty()) Reached.insert(form.Name + "." + name);
+    }
+  }
+
+  int depth_ = 0;
+};
+
+constexpr const char* kForms[] = {
+    "frmLogin",    "frmOptions",  "frm_Start", "frm_Order",   "frm_Order01", "frm_Order02",
+    "frm_Order03", "frm_PE_UNIT", "NEW_PR",    "HELP_CT",     "HELP_RCT",    "HELP_ST",
+    "HELP_CTM",    "HELP_BPR",    "DT9RECEV",  "FRM_NAMECHK", "FRM_DT900_01"};
+
+TEST_F(HostileText, OfNoBoxBecomesAStatement) {
+  Text = kMark;
+  Logged();
+  for (const char* form : kForms) ThrowIntoForm(form);
+  // A box that no longer reaches a statement would make the rest of this test prove nothing.
+  for (const auto& r : Reached) std::printf("%s\n", r.c_str());
+
+  for (const char* text : {"'", "' OR '1'='1", "\\", "\\' OR 1=1 -- ", "\" OR 1=1 -- ", "%_",
+                           "';DELETE FROM CT;-- ", "''; -- "}) {
+    Text = kMark + text;
+    for (const char* form : kForms) {
+      ThrowIntoForm(form);
+      for (const std::string& statement : Logged()) {
+        EXPECT_EQ(Bare(statement).find(kMark), std::string::npos)
+            << form << " with " << Text << ": " << statement;
+        EXPECT_TRUE(Text.find('\'') == std::string::npos)
+            << form << " with " << Text << ": " << statement;
+      }
+    }
+  }
+}
+
+}  // namespace
+}  // namespace store
