@@ -26,6 +26,11 @@ bool MayConfirm() {
 void OrderForm::LaBtn_Click(int index) {
   if (index != 0 && index != 1) return;
   if (index == 1 && choices_.ConfirmNeedsRights && !MayConfirm()) return;
+  // Before the checks, which would take a database that is away for a wrong supplier.
+  if (!inHand_.TriesCanBeAskedFor()) {
+    TellSaveFailed();
+    return;
+  }
   HeadValues.assign(head::OrderLast + 1, "");
   HeadValues[head::State] = choices_.StateOf(index);
   std::int16_t valid = 0;

@@ -52,23 +52,28 @@ std::string OrderInHand::Depot() const {
   return opened_ && !opened_->Lines.empty() ? opened_->Lines.front().Depot : std::string();
 }
 
+bool OrderInHand::AskForTries(TriesFound& found) const {
+  if (tries_.empty()) return true;
+  found = LookForTries(IsNew() ? keyOfTries_ : openedId_, tries_);
+  if (!found.Asked) LastErrorText = kStillUnknown;
+  return found.Asked;
+}
+
+bool OrderInHand::TriesCanBeAskedFor() const {
+  TriesFound ignored;
+  return AskForTries(ignored);
+}
+
 bool OrderInHand::Save(HeadArray& headValues, StringTable& lineValues, const std::string& table) {
   // An opened key that is none was replaced by a new one, and so the order is a new one.
   if (openedId_ != headValues[head::Id]) openedId_.clear();
   const StoredOrder order = OrderAsSent(headValues, lineValues);
   if (IsNew() && tries_.empty()) TakeUp(order, headValues, lineValues);
   const std::string slipId = headValues[head::Id];
-  bool stored = false;
-  if (!tries_.empty()) {
-    const TriesFound found = LookForTries(slipId, tries_);
-    if (!found.Asked) {
-      LastErrorText = kStillUnknown;
-      return false;
-    }
-    stored = HasBrought(found, order);
-  }
-  stored = stored || Post(headValues, lineValues, table) ||
-           (BatchInDoubt ? AfterLostAnswer(slipId, order) : AfterRefusal(slipId, order));
+  TriesFound found;
+  if (!AskForTries(found)) return false;
+  const bool stored = HasBrought(found, order) || Post(headValues, lineValues, table) ||
+                      (BatchInDoubt ? AfterLostAnswer(slipId, order) : AfterRefusal(slipId, order));
   if (stored) *this = {};
   return stored;
 }

@@ -23,6 +23,10 @@ class OrderInHand {
   /// good. Empty when a new key is to be taken.
   const std::string& KeyOfTries() const { return keyOfTries_; }
 
+  /// False when a try has lost its answer and the database cannot even be asked about it: nothing
+  /// should be sent then, and `LastErrorText` says so.
+  bool TriesCanBeAskedFor() const;
+
   /// Stores the slip, under the key in its header and lines. A new order of the same content that
   /// another form had sent without an answer is taken up: then the slip gets its key. True when the
   /// slip stands in the database, whichever try has brought it there. False when it does not, or
@@ -35,6 +39,7 @@ class OrderInHand {
 
  private:
   bool IsNew() const { return openedId_.empty(); }
+  bool AskForTries(TriesFound& found) const;
   void TakeUp(const StoredOrder& order, HeadArray& headValues, StringTable& lineValues);
   bool Post(const HeadArray& headValues, const StringTable& lineValues, const std::string& table);
   bool AfterLostAnswer(const std::string& slipId, const StoredOrder& order);
