@@ -97,6 +97,12 @@ void OrderForm::ConnectPanes() {
     const Hourglass waiting;
     ReadSupplierScope(moment);
   };
+  ItemLookup.Click = [this] {
+    lookingUp_ = true;
+    ItemLookup_Click();
+    lookingUp_ = false;
+    itemList_ = SlotC;  // a product that was registered there has come into it
+  };
   AfterLookup = &inBox;
   SeveralHits = [this] { OpenQuickPickOnHits(); };
   QuantityEntered = [this](const std::string& code, const std::string& quantity) {
@@ -129,7 +135,7 @@ void OrderForm::ReadItemList(ItemListMoment moment) {
 
 /// Another form may have worked with a list of its own meanwhile, or a read may have failed.
 void OrderForm::TakeItemListBack() {
-  if (SlotC == nullptr || SlotC != itemList_) ReadItemList(itemListMoment_);
+  if (!lookingUp_ && (SlotC == nullptr || SlotC != itemList_)) ReadItemList(itemListMoment_);
 }
 
 void OrderForm::Load() { ResetOrderForm(); }

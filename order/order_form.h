@@ -103,6 +103,7 @@ class OrderForm : public SlipForm,
   std::string givenDate_;  // the date that the form itself put in
   OrderInHand inHand_;
   RecordsetSlot itemList_;  // what this form has put into `SlotC`
+  bool lookingUp_ = false;  // in the item lookup, where products are registered
   ItemListMoment itemListMoment_ = ItemListMoment::FormOpens;
 };
 

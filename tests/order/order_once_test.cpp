@@ -132,6 +132,22 @@ TEST_F(OrderOnce, AnOpenOrderThatOthersHaveMovedOnIsNotTouched) {
   }
 }
 
+TEST_F(OrderOnce, AnotherClerksSaveThatIsStillRunningComesFirst) {
+  OpenAnew(StoredBefore());
+  Order().FLEX1.SetRow(1);
+  Enter("7");
+  std::thread other([] {
+    Sql("CREATE TEMPORARY TABLE H AS SELECT * FROM PEM22; CREATE TEMPORARY TABLE L AS SELECT * "
+        "FROM "
+        "PSM22; UPDATE L SET PS_SQTY=2 WHERE PS_NO=1; START TRANSACTION; DELETE FROM PEM22; INSERT "
+        "INTO PEM22 SELECT * FROM H; DO SLEEP(1); INSERT INTO PSM22 SELECT * FROM L; COMMIT");
+  });
+  std::this_thread::sleep_for(std::chrono::milliseconds(400));
+  Press(kChanged);
+  other.join();
+  EXPECT_EQ(Orders(), "0:2,3 ");
+}
+
 TEST_F(OrderOnce, AnOrderThatCouldNotBeReadIsNotReplacedByWhatWasTypedInstead) {
   const std::string id = StoredBefore();
   const std::string before = Everything();
@@ -381,6 +397,11 @@ TEST_F(OrderOnce, TheItemListBelongsToTheOrderInFront) {
   OpenAnew();
   Supplier("#C0001");
   Enter("88010003");
+  host.OnModal("HELP_BPR", [](Form&) { RefreshItemList(); });  // a product was registered there
+  Order().ItemLookup.Click();
+  const RecordsetSlot withIt = SlotC;
+  Order().Activate();
+  EXPECT_EQ(SlotC, withIt);
   OpenScopedItemList("C0002");  // a receipt beside it
   Order().Activate();
   Press(kStored);
