@@ -1,5 +1,7 @@
 // Storing an order of a hundred lines, near and far.
 #include <chrono>
+#include <cstdio>
+#include <cstdlib>
 
 #include "bench/benches.h"
 #include "bench/client_library.h"
@@ -35,6 +37,14 @@ class Orders {
   void PostNext() {
     NextKey();
     PostNewOrder(head_, lines_, "PEM22");
+  }
+  /// Writes the last order anew.
+  void ChangeLast() { PostOrderChange(head_, lines_, "PEM22"); }
+  /// The same, and only if it stands as it was sent.
+  void ChangeLastGuarded() {
+    if (PostOrderChange(head_, lines_, "PEM22", {OrderAsSent(head_, lines_)}) == -1) return;
+    std::fprintf(stderr, "store_bench: %s\n", LastErrorText.c_str());
+    std::exit(2);
   }
   /// The statements of the next order, without sending them anywhere.
   std::vector<std::string> NextStatements() {
@@ -78,6 +88,15 @@ Duel PostingDuel(int port, int rounds, const std::string& prefix) {
   return best;
 }
 
+Duel ChangeDuel(int rounds) {
+  Orders ours("changea");
+  Orders theirs("changeb");
+  ours.PostNext();
+  theirs.PostNext();
+  return MeasureBoth(
+      rounds, [&] { ours.ChangeLastGuarded(); }, [&] { theirs.ChangeLast(); });
+}
+
 }  // namespace
 
 void BenchPosting(BenchServer& server, RatioTable& table) {
@@ -89,6 +108,8 @@ void BenchPosting(BenchServer& server, RatioTable& table) {
                    0.05);
     ConnectTo(server.Port());
   }
+  table.AddTimes("change of an order of 100 lines, guarded, against the same without guards",
+                 ChangeDuel(200), 1.05);
 }
 
 }  // namespace store

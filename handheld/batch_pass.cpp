@@ -50,6 +50,7 @@ class NumbersOfPass {
     if (counter_ != 0 && counter_ <= SlipSeqCounter) return;
     SlipSeqCounter = counter_;
     SlipKeyPrefix = prefix_;
+    SlipKeyDay = day_;
   }
   NumbersOfPass(const NumbersOfPass&) = delete;
   NumbersOfPass& operator=(const NumbersOfPass&) = delete;
@@ -57,6 +58,7 @@ class NumbersOfPass {
  private:
   const std::int16_t counter_ = SlipSeqCounter;
   const std::string prefix_ = SlipKeyPrefix;
+  const CalendarDate day_ = SlipKeyDay;
 };
 
 constexpr const char* kStored = "저장이 완료되었습니다.";

@@ -5,6 +5,7 @@
 #include "forms/host.h"
 #include "forms/open_forms.h"
 #include "gateway/gateway.h"
+#include "slips/order_in_hand.h"
 #include "slips/picks.h"
 #include "slips/slip_keys.h"
 
@@ -16,8 +17,8 @@ void ResetProcessState() {
   ResetRecords();
   ResetFormats();
   Host.Ending = false;
-  SlipSeqCounter = 0;
-  SlipKeyPrefix.clear();
+  ResetSlipKeys();
+  ResetOrdersInHand();
   PickList.Clear();
 }
 
