@@ -7,6 +7,7 @@
 #include "gateway/gateway.h"
 #include "slips/picks.h"
 #include "slips/slip_keys.h"
+#include "slips/stored_once.h"
 
 namespace store {
 
@@ -19,6 +20,7 @@ void ResetProcessState() {
   SlipSeqCounter = 0;
   SlipKeyPrefix.clear();
   PickList.Clear();
+  ResetWork();
 }
 
 }  // namespace store
