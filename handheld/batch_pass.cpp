@@ -47,6 +47,11 @@ class NumbersOfPass {
     SlipKeyPrefix.clear();
   }
   ~NumbersOfPass() {
+    // Since the last number another day has begun, or there was none: the next one is read afresh.
+    if (!SlipKeyPrefix.empty() && SlipKeyPrefix != prefix_) {
+      SlipSeqCounter = 0;
+      return;
+    }
     if (counter_ != 0 && counter_ <= SlipSeqCounter) return;
     SlipSeqCounter = counter_;
     SlipKeyPrefix = prefix_;

@@ -47,6 +47,7 @@ void frm_PE_UNIT::TellFate(Fate fate) {
   } else if (fate != Fate::StoredOther && LastErrorText == kOrderMoved) {
     Host.MsgBox(WhatHappenedTo(order_), box::Critical, "입고전표확인");
   } else {
+    SlipSeqCounter = 0;  // the key may be taken: the next one is read afresh
     Host.MsgBox(FateText(fate), box::Question, "오류");
   }
 }

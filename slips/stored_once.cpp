@@ -47,10 +47,10 @@ std::string FateText(Fate fate) {
     case Fate::StoredOther:
       return "앞서 시도한 내용으로 이미 저장되었습니다.\r그 뒤에 고친 내용은 저장되지 않았습니다.";
     case Fate::NotFound:
-      return "저장이 확인되지 않았습니다.\r다시 시도하여도 두 번 저장되지 않습니다." + words;
+      return "저장이 확인되지 않았습니다.\r다시 시도하여도 두 번 처리되지 않습니다." + words;
     case Fate::Unknown:
       return "서버에 연결되지 않아 저장되었는지 알 수 없습니다.\r다시 시도하면 저장 여부를 먼저 "
-             "확인하므로 두 번 저장되지 않습니다." +
+             "확인하므로 두 번 처리되지 않습니다." +
              words;
     default:
       return SaveFailedText();

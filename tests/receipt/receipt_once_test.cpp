@@ -103,6 +103,25 @@ TEST_F(ReceiptOnce, AnOrderThatNobodyHasTouchedPassesInAnyState) {
   }
 }
 
+// At another terminal the same user has stored receipts under the numbers that come next here.
+TEST_F(ReceiptOnce, AKeyThatIsTakenIsRefusedAndTheNextIsReadAfresh) {
+  const std::string ofUser = Value("SELECT CONCAT(DATE_FORMAT(NOW(),'%Y%m%d'),'1001u0123')");
+  for (const char* number : {"0008", "0009"}) {
+    Sql("INSERT INTO PEM23 (PE_ID,PE_CK,PE_PDATE,PE_SDATE,PE_FCTCODE,PE_TCTCODE,PE_LINK) VALUES "
+        "('" +
+        ofUser + number + "','1','','2024-05-17','1001','C0001','')");
+  }
+  SlipSeqCounter = 7;
+  SlipKeyPrefix = ofUser.substr(0, 12);
+  Open(kApproved);
+  Confirm("저장이 실패하였습니다.\r\r MSG: ");
+  EXPECT_NE(host.Boxes.back().Text.find("Duplicate entry"), std::string::npos);
+  EXPECT_EQ(Came(), "0 10");
+  Confirm(kDone);
+  EXPECT_EQ(Value(OfOrder("SELECT PE_LINK FROM PEM22")), ofUser + "0010");
+  EXPECT_EQ(Came(), "1 28");
+}
+
 // Each way the line can break, what is told at once, and what at the second press.
 TEST_F(ReceiptOnce, ALostReplyMovesNoStockTwice) {
   const struct {
