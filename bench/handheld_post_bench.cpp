@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <chrono>
 #include <functional>
+#include <stdexcept>
 
 #include "bench/benches.h"
 #include "bench/client_library.h"
@@ -10,6 +11,7 @@
 #include "gateway/gateway.h"
 #include "handheld/FRM_DT900_01.h"
 #include "slips/post_receipt.h"
+#include "slips/received_order.h"
 
 namespace store {
 namespace {
@@ -163,6 +165,31 @@ Duel ReceiptDuel(ClientLibrary& maker, int port, int rounds) {
   return best;
 }
 
+/// The same receipt with and without the guard of its order, near.
+Duel GuardDuel(ClientLibrary& maker, int port, int rounds) {
+  const std::vector<std::string> products =
+      maker.Texts("SELECT PR_CODE FROM PR ORDER BY PR_CODE LIMIT " + std::to_string(kLines));
+  const std::string key = "benchguarded";
+  const StringTable lines = ReceiptLines(key, products);
+  HeadArray head = ReceiptHead(key);
+  head[head::Link] = maker.Texts("SELECT MAX(PE_ID) FROM PEM22 WHERE PE_FCTCODE='1001'").front();
+  ConnectTo(port);
+  const auto post = [&](const std::string& guard) {
+    maker.Run("DELETE FROM PEM23 WHERE PE_ID='" + key + "'");
+    return TimeOf([&] {
+      if (PostReceipt(head, lines, "PEM23", guard) == 0) throw std::runtime_error(LastErrorText);
+    });
+  };
+  Duel best{1e9, 1e9};
+  for (int round = 0; round < rounds; ++round) {
+    const std::string guard = StillAsRead(ReadOrder(head[head::Link]).value());
+    const double guarded = post(guard);
+    best = {std::min(best.Ours, guarded), std::min(best.Peer, post({}))};
+  }
+  maker.Run("DELETE FROM PEM23 WHERE PE_ID='" + key + "'");
+  return best;
+}
+
 }  // namespace
 
 void BenchHandheldPost(BenchServer& server, RatioTable& table) {
@@ -172,6 +199,8 @@ void BenchHandheldPost(BenchServer& server, RatioTable& table) {
   GiveStock(maker, kPartners * kRowsAPartner);
   table.AddTimes("2,000 ticked rows of 20 partners to slips and stock, module \"23\"",
                  DeliveriesDuel(maker, server.Port(), 5), 1.0);
+  table.AddTimes("a receipt of 100 lines, guarded, against the same without",
+                 GuardDuel(maker, server.Port(), 60), 1.05);
   DelayProxy far(server.Port(), std::chrono::milliseconds(10));
   table.AddTimes("the same with 10 ms of delay each way", DeliveriesDuel(maker, far.Port(), 1),
                  0.02);

@@ -8,6 +8,7 @@
 #include "slips/order_in_hand.h"
 #include "slips/picks.h"
 #include "slips/slip_keys.h"
+#include "slips/stored_once.h"
 
 namespace store {
 
@@ -20,6 +21,7 @@ void ResetProcessState() {
   ResetSlipKeys();
   ResetOrdersInHand();
   PickList.Clear();
+  ResetWork();
 }
 
 }  // namespace store
