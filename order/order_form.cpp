@@ -16,6 +16,7 @@
 #include "order/frm_Order03.h"
 #include "order/frm_OrderPLU.h"
 #include "slips/depot_choice.h"
+#include "slips/draft_fate.h"
 
 namespace store {
 namespace {
@@ -90,6 +91,8 @@ void OrderForm::PublishControls() {
 
 void OrderForm::ConnectPanes() {
   SupplierChanged = [this] { ClearLines(); };
+  LinesChanged = [this] { NoteDraft(); };
+  Combo1.Click = [this] { NoteDraft(); };
   FollowSupplier = [this](ItemListMoment moment) {
     const Hourglass waiting;
     ReadSupplierScope(moment);
@@ -113,6 +116,7 @@ void OrderForm::ReadSupplierScope(ItemListMoment moment) {
   if (FillLeftSide) FillLeftSide();
   // Whatever is chosen beside it anew, the pick list starts empty.
   FLEX2.SetRows(1);
+  NoteDraft();
 }
 
 void OrderForm::Load() { ResetOrderForm(); }
@@ -126,6 +130,7 @@ void OrderForm::Activate() {
   CopyDepots(Combo1);
   Combo1.SetListIndex(0);
   SetFocus(Text1);
+  StartDraft();
 }
 
 void OrderForm::ResetOrderForm() {
@@ -141,6 +146,8 @@ void OrderForm::ResetOrderForm() {
 }
 
 void OrderForm::LoadOrderSlip(const std::string& slipId) {
+  // Before the slip itself: what changes in between then counts as changed since.
+  loadedStamp_ = SlipStamp(slipId);
   LoadLines(
       OrderSlipStatement(slipId), [this] { LoadOrderHeader(); }, [this] { LoadOrderLine(); });
   loadedLines_ = FLEX1.Revision();
@@ -213,7 +220,10 @@ bool OrderForm::KeyDown(Key key) {
   }
 }
 
-void OrderForm::DTOrderDate_Change() { Text4.SetText(DTOrderDate.Value()); }
+void OrderForm::DTOrderDate_Change() {
+  Text4.SetText(DTOrderDate.Value());
+  NoteDraft();
+}
 
 void OrderForm::Label5_Click(int index) {
   if (index == 0) {
@@ -225,6 +235,7 @@ void OrderForm::Label5_Click(int index) {
 }
 
 void OrderForm::Unload() {
+  draft_.Closed();
   if (MainWindow* board = TheMainWindow()) Host.Show(*board);
 }
 

@@ -5,6 +5,7 @@
 #include <functional>
 #include <initializer_list>
 #include <string>
+#include <vector>
 
 #include "order/history_pane.h"
 #include "order/item_box_pane.h"
@@ -13,6 +14,7 @@
 #include "order/progress_pane.h"
 #include "order/supplier_pane.h"
 #include "slips/slip.h"
+#include "slips/slip_draft.h"
 #include "slips/slip_form.h"
 
 namespace store {
@@ -84,6 +86,15 @@ class OrderForm : public SlipForm,
   void SaveSucceeded();
 
   void TransferRow(int row, int column);
+  void StartDraft();
+  Draft DraftNow() const;
+  void NoteDraft();
+  void NoteSaveTry();
+  void BringBack(const Draft& draft);
+  void BringSupplierBack(const Draft& draft);
+  using SlipRows = std::vector<std::vector<std::string>>;
+  std::vector<DraftLine> BringLinesBack(const Draft& draft, SlipRows slipRows);
+
   void OpenQuickPick();
   void OpenQuickPickOnHits();
   void AddPicked();
@@ -92,6 +103,8 @@ class OrderForm : public SlipForm,
   bool activated_ = false;
   unsigned loadedLines_ = 0;  // revision of FLEX1 when the slip had been loaded
   std::string loadedDate_;
+  std::string loadedStamp_;  // of the stored order; empty on a new one
+  SlipDraft draft_;
 };
 
 /// Makes the order forms and their panel of tiles known by name ("frm_Order").

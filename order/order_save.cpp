@@ -33,6 +33,7 @@ void OrderForm::LaBtn_Click(int index) {
   ValidateOrder(valid);
   if (valid == 0) return;
 
+  NoteSaveTry();
   std::int16_t posted = 0;
   if (Trim(SlipId).empty()) {
     posted = PostNewOrder(HeadValues, LineValues, SlipTable);
@@ -45,6 +46,7 @@ void OrderForm::LaBtn_Click(int index) {
 }
 
 void OrderForm::SaveSucceeded() {
+  draft_.Saved();
   const int answer = Host.MsgBox("발주가 정상적으로 처리되었습니다. 계속해서 발주하시겠습니까?",
                                  box::Question + box::YesNo, "계속발주");
   if (answer != box::Yes) {
@@ -54,6 +56,7 @@ void OrderForm::SaveSucceeded() {
   SlipId.clear();
   ResetOrderForm();
   SetFocus(Text1);
+  StartDraft();
 }
 
 void OrderForm::ValidateOrder(std::int16_t& valid) {

@@ -6,6 +6,7 @@
 
 #include "slips/lines_pane.h"
 #include "slips/slip.h"
+#include "slips/slip_draft.h"
 #include "slips/slip_form.h"
 
 namespace store {
@@ -48,6 +49,7 @@ class frm_PE_UNIT : public SlipForm, public LinesPane {
 
   void Load() override;
   void Activate() override;
+  void Unload() override;
   bool KeyDown(Key key) override;
 
   void DTPicker1_Change();
@@ -71,7 +73,15 @@ class frm_PE_UNIT : public SlipForm, public LinesPane {
   bool RowIsReceived(int row) const;
   bool AddReceiptLine(int number, int row);
 
+  void StartDraft();
+  Draft DraftNow() const;
+  void NoteDraft();
+  void BringBack(const Draft& draft);
+  void BringRowsBack(const Draft& draft);
+
   bool activated_ = false;
+  std::string loadedStamp_;  // of the order
+  SlipDraft draft_;
 };
 
 /// Makes the receipt form known by its name.

@@ -25,6 +25,7 @@ void frm_PE_UNIT::Command1_Click(int index) {
     TellSaveFailed();
     return;
   }
+  draft_.Saved();
   Host.MsgBox("입고처리가 정상적으로 처리되었습니다.", box::Information, "입고완료");
   Close();
 }

@@ -5,6 +5,7 @@
 #include "forms/host.h"
 #include "forms/open_forms.h"
 #include "gateway/gateway.h"
+#include "slips/drafts.h"
 #include "slips/picks.h"
 #include "slips/slip_keys.h"
 
@@ -12,6 +13,7 @@ namespace store {
 
 void ResetProcessState() {
   DropAllForms();
+  ResetDrafts();
   ResetGateway();
   ResetRecords();
   ResetFormats();

@@ -32,6 +32,7 @@ void Journey::Prepare() {
   ResetProcessState();
   PrepareStore(*qApp);
   Host.ProgramFolder = folder_.path().toStdString();
+  qputenv("STORE_DATA_FOLDER", folder_.filePath("data").toUtf8());
 }
 
 void Journey::TearDown() {
