@@ -7,7 +7,7 @@
 namespace store {
 
 void SlipDraft::Begin(Draft start) {
-  begun_ = true;
+  begun_ = !NewDraftId().empty();
   start_ = std::move(start);
 }
 

@@ -8,7 +8,8 @@ namespace store {
 /// what the form began with.
 class SlipDraft {
  public:
-  /// From here on changes are kept; `start` is what stands in the form before anybody has written.
+  /// From here on changes are kept, where there is a file for them; `start` is what stands in the
+  /// form before anybody has written.
   void Begin(Draft start);
   bool HasBegun() const { return begun_; }
   /// The form goes on with a draft that was taken (`TakeDraft`).

@@ -57,6 +57,10 @@ void Journey::Start(const std::string& commandLine) {
 
 void Journey::StartAgain(const std::string& commandLine) {
   CloseBoard();
+  Restart(commandLine);
+}
+
+void Journey::Restart(const std::string& commandLine) {
   TheDesk().Clear();
   Prepare();
   Start(commandLine);
