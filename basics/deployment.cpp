@@ -34,6 +34,19 @@ std::string SerialDevice(int port) {
   return FromEnvironment(("STORE_COM" + std::to_string(port)).c_str(), standard.c_str());
 }
 
+std::string DataFolder() {
+  constexpr const char* kOurs = "/store-client";
+  const std::string data = FromEnvironment("XDG_DATA_HOME", "");
+  const std::string home = FromEnvironment("HOME", "");
+  std::string standard;
+  if (!data.empty()) {
+    standard = data + kOurs;
+  } else if (!home.empty()) {
+    standard = home + "/.local/share" + kOurs;
+  }
+  return FromEnvironment("STORE_DATA_FOLDER", standard.c_str());
+}
+
 std::chrono::seconds ConnectTimeout() { return SecondsFromEnvironment("STORE_CONNECT_TIMEOUT", 5); }
 std::chrono::seconds LockWait() { return SecondsFromEnvironment("STORE_LOCK_WAIT", 10); }
 std::chrono::seconds ReadLimit() { return SecondsFromEnvironment("STORE_READ_LIMIT", 30); }

@@ -22,6 +22,11 @@ std::string TransferToolPath();
 /// so on. Variables STORE_COM1 to STORE_COM4. Empty for any other number.
 std::string SerialDevice(int port);
 
+/// The folder for what the program keeps for its user beyond the options, without a slash at the
+/// end: "store-client" under the user's data folder ($XDG_DATA_HOME, else ~/.local/share). Empty
+/// where there is no such folder. Variable STORE_DATA_FOLDER.
+std::string DataFolder();
+
 /// How long the data tier waits; each variable is a number of seconds.
 std::chrono::seconds ConnectTimeout();  ///< For a server that does not answer a login: 5 seconds.
                                         ///< Variable STORE_CONNECT_TIMEOUT.

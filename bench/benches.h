@@ -24,6 +24,7 @@ void BenchBoard(BenchServer& server, RatioTable& table);
 void BenchPickList(RatioTable& table);
 void BenchTileWall(RatioTable& table);
 void BenchScan(BenchServer& server, RatioTable& table);
+void BenchDrafts(BenchServer& server, RatioTable& table);
 void BenchKeyPress(RatioTable& table);
 void BenchExport(BenchServer& server, RatioTable& table);
 /// Adds so many lines to the store's sales.

@@ -1,5 +1,6 @@
 // Ratios of ours against named peers, each measured in one run on the same data.
 #include <QApplication>
+#include <QTemporaryDir>
 #include <cstdio>
 #include <cstring>
 
@@ -22,6 +23,7 @@ void StartUp() {
 void BenchWindows(BenchServer& server, RatioTable& table, int saleLines) {
   StartUp();
   BenchScan(server, table);
+  BenchDrafts(server, table);
   BenchKeyPress(table);
   BenchPickList(table);
   BenchTileWall(table);
@@ -40,6 +42,8 @@ int main(int argc, char** argv) {
   using namespace store;
   qputenv("QT_QPA_PLATFORM", "offscreen");
   QApplication application(argc, argv);
+  const QTemporaryDir data;  // the user's own drafts are no part of this
+  qputenv("STORE_DATA_FOLDER", data.path().toUtf8());
   PrepareDesk(application);
   const bool quick = argc > 1 && std::strcmp(argv[1], "--quick") == 0;
   const int items = quick ? 20000 : 200000;

@@ -1,6 +1,9 @@
 // A scan, from the last digit of the barcode to the line on the screen.
+#include <QTemporaryDir>
+#include <algorithm>
 #include <chrono>
 #include <cstdio>
+#include <cstdlib>
 
 #include "basics/dates.h"
 #include "bench/asked_selects.h"
@@ -12,6 +15,7 @@
 #include "forms/open_forms.h"
 #include "gateway/gateway.h"
 #include "order/order_form.h"
+#include "slips/drafts.h"
 #include "slips/item_list.h"
 #include "slips/unit_price.h"
 #include "ui/desk.h"
@@ -110,7 +114,70 @@ double KeyPressTimeAt(DeskHand& hand, OrderForm& order, int lines) {
   return KeyPressTime(hand);
 }
 
+/// The barcodes of an order of a hundred lines.
+std::vector<std::string> BarcodesOfOrder(int port) {
+  ClientLibrary client(port);
+  return client.Texts(Splice(
+      "SELECT PR_BCODE FROM CTP JOIN PR ON PR.PR_CODE=CTP.PR_CODE WHERE CT_CODE='{supplier}' AND "
+      "RCT_CODE='1000' AND CTP_FDATE='0000-00-00' AND CTP_UP>0 AND PR_END='0' LIMIT 100",
+      "supplier"_a = kSupplier));
+}
+
+/// Scans into an order of those lines, with drafts kept or without, each until its line is drawn.
+class DraftScans {
+ public:
+  DraftScans(const std::vector<std::string>& barcodes, bool keepsDrafts) {
+    ResetDrafts();
+    // No folder can be made under a file.
+    qputenv("STORE_DATA_FOLDER", keepsDrafts ? folder_.path().toUtf8() : "/dev/null");
+    DeskHand hand("frm_Order", "FLEX1");
+    hand.Scan("#" + std::string(kSupplier));
+    for (const std::string& barcode : barcodes) hand.Scan(barcode);
+    hand.Settle();
+    for (const std::string& barcode : barcodes) {
+      Times.push_back(TimeOf([&] {
+        hand.Scan(barcode);
+        hand.Draw();
+      }));
+    }
+    if (DraftsWork() != keepsDrafts) std::exit(2);
+    ClearDesk();
+    ResetDrafts();
+  }
+
+  std::vector<double> Times;
+
+ private:
+  QTemporaryDir folder_;
+};
+
+double MedianOf(std::vector<double> times) {
+  const auto middle = times.begin() + static_cast<std::ptrdiff_t>(times.size() / 2);
+  std::nth_element(times.begin(), middle, times.end());
+  return *middle;
+}
+
 }  // namespace
+
+void BenchDrafts(BenchServer& server, RatioTable& table) {
+  constexpr size_t kScans = 2000;
+  OpenRecordset(SlotC, ItemListStatement());
+  const std::vector<std::string> barcodes = BarcodesOfOrder(server.Port());
+  std::vector<double> with;
+  std::vector<double> without;
+  while (with.size() < kScans) {
+    for (std::vector<double>* times : {&with, &without}) {
+      const DraftScans scans(barcodes, times == &with);
+      times->insert(times->end(), scans.Times.begin(), scans.Times.end());
+    }
+  }
+  table.AddTimes("a scan into an order of 100 lines with drafts, against without",
+                 {MedianOf(with), MedianOf(without)}, 1.05);
+  const double longest = *std::max_element(with.begin(), with.end());
+  std::printf("  the longest of %zu scans without drafts: %.2f ms\n", without.size(),
+              *std::max_element(without.begin(), without.end()) * 1000);
+  table.AddTimes("the longest of 2,000 scans with drafts, against 16 ms", {longest, 0.016}, 1.0);
+}
 
 void BenchKeyPress(RatioTable& table) {
   DeskHand hand("frm_Order", "FLEX1");

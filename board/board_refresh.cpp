@@ -61,6 +61,7 @@ void frm_Start::RefreshBoard() {
   LoadNotices();
   LoadSlips();
   FillDepots(Session.StoreCode, Combo1, false);
+  CountDrafts();
 }
 
 void frm_Start::LoadNotices() {

@@ -19,20 +19,8 @@ std::string FindSlipStatement(const std::string& slipId) {
 
 SlipForm* SlipFormNamed(const std::string& name) { return dynamic_cast<SlipForm*>(TheForm(name)); }
 
-/// The order form of the workstation's order type, made anew for another slip. Nothing when the
-/// order type has no form, and nothing when that form is open with an order that is not stored yet:
-/// it is then brought to the front with what it holds.
-SlipForm* FreeOrderForm() {
-  const std::string name = ChosenOrderType().FormName;
-  if (auto* open = dynamic_cast<SlipForm*>(OpenForm(name))) {
-    if (open->HoldsWork()) {
-      Host.Show(*open);
-      return nullptr;
-    }
-    open->Close();
-  }
-  return SlipFormNamed(name);
-}
+/// The order form of the workstation's order type, made anew for another slip.
+SlipForm* FreeOrderForm() { return FreeSlipForm(ChosenOrderType().FormName); }
 
 }  // namespace
 

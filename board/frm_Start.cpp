@@ -59,6 +59,7 @@ void frm_Start::PublishControls() {
   Publish("Label4", Label4);
   Publish("Label5", Label5);
   Publish("HandheldMenu", HandheldMenu);
+  Publish("LaDraft", LaDraft);
   Publish("Image5", Image5);
   Publish("LaCT", LaCT);
   Publish("LaPM", LaPM);
@@ -91,6 +92,7 @@ void frm_Start::ConnectEvents() {
     Image1[static_cast<size_t>(i)].Click = [this, i] { Image1_Click(i); };
   }
   Image3.Click = [this] { Image3_Click(); };
+  LaDraft.Click = [this] { LaDraft_Click(); };
   Image5.Click = [this] { Image5_Click(); };
   Label4.Click = [this] { Label4_Click(); };
   Label5[0].Click = [this] { Label5_Click(0); };
@@ -133,9 +135,13 @@ void frm_Start::Load() {
 }
 
 void frm_Start::Activate() {
-  if (activated_) return;
+  if (activated_) {
+    CountDrafts();
+    return;
+  }
   activated_ = true;
   RefreshBoard();
+  TellDraftNotice();
 }
 
 bool frm_Start::KeyDown(Key key) {

@@ -49,6 +49,7 @@ class frm_Start : public MainWindow {
   Label Label4;                     ///< The web page.
   std::array<Label, 2> Label5;      ///< 0 closes the window, 1 makes it small.
   Menu HandheldMenu{"핸디터미널"};  ///< The runs of the handheld terminal's path.
+  Label LaDraft;                    ///< Drafts that can be brought back; hidden when there is none.
   Label Image5;                     ///< "[F4]": Details of the selected slip.
   // Details.
   std::array<Label, 11> LaCT;  ///< The partner.
@@ -70,6 +71,7 @@ class frm_Start : public MainWindow {
   void Label4_Click();
   void Label5_Click(int index);
   void HandheldMenu_Click(int entry);
+  void LaDraft_Click();
   void FLEX0_RowColChange();
   void FLEX0_DblClick();
   void FLEX1_Click();
@@ -93,6 +95,10 @@ class frm_Start : public MainWindow {
   void NewOrder(int buttonIndex);
   void DeleteOrRevert();
   void FindSlip();
+  void CountDrafts();
+  void TellDraftNotice();
+  void GoOnWith(Draft draft);
+  void Open(SlipForm& form, Draft draft);
   void ShowPartner(const std::string& partnerCode);
   void ShowConditions(const std::string& value);
 

@@ -172,6 +172,16 @@ void ItemBoxPane::EnterCode(const std::string& productCode) {
   inBox_KeyPress(Key::Enter);
 }
 
+bool ItemBoxPane::AddDraftLine(const std::string& productCode, const std::string& quantity) {
+  if (!FindItem(productCode)) return false;
+  AddAccepted = -1;
+  AddItemLine();
+  if (AddAccepted == 0) return false;
+  FLEX1.SetTextMatrix(1, order_line::Money.Quantity, quantity);
+  RecalcLine(1);
+  return true;
+}
+
 void ItemBoxPane::ApplyQuantity(int row) {
   if (choices_.OrdersInUnits && !FitsUnit(TypedQuantity(inBox.Text()), row)) {
     inBox.SetText("");

@@ -18,6 +18,7 @@ inline constexpr LineGridColumns Money{
     .Price = 5, .Quantity = 7, .TaxKind = 4, .Supply = 8, .Tax = 9, .Sum = 10};
 inline constexpr int Code = Money.Code;
 inline constexpr int Name = Money.Name;
+inline constexpr int Least = 6;  ///< A blank on a line of the stored order, else empty.
 inline constexpr int Last = Money.Sum;
 inline constexpr int Unit = 11;  ///< SAFEIV.ORD_QTY, hidden, where orders go in units.
 }  // namespace order_line
@@ -49,6 +50,9 @@ class ItemBoxPane : public LinesPane {
   void AddFromCode(const std::string& productCode);
   /// The same within a transfer that holds `AddInProgress` from its first item to its last.
   void EnterCode(const std::string& productCode);
+  /// Writes a line of a draft on top: the item of today at the price of today, in that quantity.
+  /// False for an item that has left the list or has no price; the line is then not there.
+  bool AddDraftLine(const std::string& productCode, const std::string& quantity);
   /// Takes every line of an item out.
   void TakeOut(const std::string& productCode);
 

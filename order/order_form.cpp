@@ -16,6 +16,7 @@
 #include "order/frm_Order03.h"
 #include "order/frm_OrderPLU.h"
 #include "slips/depot_choice.h"
+#include "slips/draft_fate.h"
 
 namespace store {
 namespace {
@@ -93,6 +94,8 @@ void OrderForm::ConnectPanes() {
     ClearLines();
     inHand_.PutAside();
   };
+  LinesChanged = [this] { NoteDraft(); };
+  Combo1.Click = [this] { NoteDraft(); };
   FollowSupplier = [this](ItemListMoment moment) {
     const Hourglass waiting;
     ReadSupplierScope(moment);
@@ -122,6 +125,7 @@ void OrderForm::ReadSupplierScope(ItemListMoment moment) {
   if (FillLeftSide) FillLeftSide();
   // Whatever is chosen beside it anew, the pick list starts empty.
   FLEX2.SetRows(1);
+  NoteDraft();
 }
 
 void OrderForm::ReadItemList(ItemListMoment moment) {
@@ -156,6 +160,7 @@ void OrderForm::Activate() {
   ChooseDepot(Combo1, inHand_.Depot());
   openedDepot_ = Combo1.ListIndex();
   SetFocus(Text1);
+  StartDraft();
 }
 
 void OrderForm::ResetOrderForm() {
@@ -255,7 +260,10 @@ bool OrderForm::KeyDown(Key key) {
   }
 }
 
-void OrderForm::DTOrderDate_Change() { Text4.SetText(DTOrderDate.Value()); }
+void OrderForm::DTOrderDate_Change() {
+  Text4.SetText(DTOrderDate.Value());
+  NoteDraft();
+}
 
 void OrderForm::Label5_Click(int index) {
   if (index == 0) {
@@ -268,6 +276,7 @@ void OrderForm::Label5_Click(int index) {
 
 void OrderForm::Unload() {
   inHand_.PutAside();
+  draft_.Closed();
   if (MainWindow* board = TheMainWindow()) Host.Show(*board);
 }
 

@@ -5,6 +5,7 @@
 #include <functional>
 #include <initializer_list>
 #include <string>
+#include <vector>
 
 #include "gateway/gateway.h"
 #include "order/history_pane.h"
@@ -15,6 +16,7 @@
 #include "order/supplier_pane.h"
 #include "slips/order_in_hand.h"
 #include "slips/slip.h"
+#include "slips/slip_draft.h"
 #include "slips/slip_form.h"
 
 namespace store {
@@ -91,6 +93,15 @@ class OrderForm : public SlipForm,
   void SaveSucceeded();
 
   void TransferRow(int row, int column);
+  void StartDraft();
+  Draft DraftNow() const;
+  void NoteDraft();
+  void NoteSaveTry();
+  void BringBack(const Draft& draft);
+  void BringSupplierBack(const Draft& draft);
+  using SlipRows = std::vector<std::vector<std::string>>;
+  std::vector<DraftLine> BringLinesBack(const Draft& draft, SlipRows slipRows);
+
   void OpenQuickPick();
   void OpenQuickPickOnHits();
   void AddPicked();
@@ -102,6 +113,7 @@ class OrderForm : public SlipForm,
   int openedDepot_ = 0;    // entry of the depot list that the form opened with
   std::string givenDate_;  // the date that the form itself put in
   OrderInHand inHand_;
+  SlipDraft draft_;
   RecordsetSlot itemList_;  // what this form has put into `SlotC`
   bool lookingUp_ = false;  // in the item lookup, where products are registered
   ItemListMoment itemListMoment_ = ItemListMoment::FormOpens;

@@ -37,6 +37,8 @@ void OrderForm::LaBtn_Click(int index) {
   ValidateOrder(valid);
   if (valid == 0) return;
 
+  inHand_.FindItsKey(HeadValues, LineValues);
+  NoteSaveTry();
   if (!inHand_.Save(HeadValues, LineValues, SlipTable)) {
     TellSaveFailed();
     return;
@@ -52,6 +54,7 @@ std::string OrderForm::KeyToSaveUnder() const {
 }
 
 void OrderForm::SaveSucceeded() {
+  draft_.Saved();
   const int answer = Host.MsgBox("발주가 정상적으로 처리되었습니다. 계속해서 발주하시겠습니까?",
                                  box::Question + box::YesNo, "계속발주");
   if (answer != box::Yes) {
@@ -61,6 +64,7 @@ void OrderForm::SaveSucceeded() {
   SlipId.clear();
   ResetOrderForm();
   SetFocus(Text1);
+  StartDraft();
 }
 
 void OrderForm::ValidateOrder(std::int16_t& valid) {

@@ -12,6 +12,7 @@
 #include "gateway/gateway.h"
 #include "lookup/export_grid.h"
 #include "slips/depot_choice.h"
+#include "slips/draft_fate.h"
 #include "slips/item_list.h"
 #include "slips/order_types.h"
 
@@ -73,6 +74,8 @@ void frm_PE_UNIT::PublishControls() {
   FLEX1.OwnKeys = {Key::F12};
   Command1[1].Click = [this] { Command1_Click(1); };
   Label4.Click = [this] { Label4_Click(); };
+  Combo1.Click = [this] { NoteDraft(); };
+  LinesChanged = [this] { NoteDraft(); };
 }
 
 void frm_PE_UNIT::SetUpGrid() {
@@ -116,7 +119,10 @@ void frm_PE_UNIT::Activate() {
   }
   if (AppOptions.OrderInfoPartnersOnly == 1) OpenReceiptItemList(Text1.Tag);
   SetFocus(inBox);
+  StartDraft();
 }
+
+void frm_PE_UNIT::Unload() { draft_.Closed(); }
 
 bool frm_PE_UNIT::KeyDown(Key key) {
   if (key != Key::Escape) return false;
@@ -124,7 +130,10 @@ bool frm_PE_UNIT::KeyDown(Key key) {
   return true;
 }
 
-void frm_PE_UNIT::DTPicker1_Change() { Text4.SetText(DTPicker1.Value()); }
+void frm_PE_UNIT::DTPicker1_Change() {
+  Text4.SetText(DTPicker1.Value());
+  NoteDraft();
+}
 
 void frm_PE_UNIT::Label4_Click() { Close(); }
 

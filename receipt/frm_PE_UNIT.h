@@ -7,6 +7,7 @@
 #include "slips/lines_pane.h"
 #include "slips/received_order.h"
 #include "slips/slip.h"
+#include "slips/slip_draft.h"
 #include "slips/slip_form.h"
 #include "slips/stored_once.h"
 
@@ -50,6 +51,7 @@ class frm_PE_UNIT : public SlipForm, public LinesPane {
 
   void Load() override;
   void Activate() override;
+  void Unload() override;
   bool KeyDown(Key key) override;
 
   void DTPicker1_Change();
@@ -77,8 +79,15 @@ class frm_PE_UNIT : public SlipForm, public LinesPane {
   void TellFate(Fate fate);
   std::string WhatIsEntered() const;
 
+  void StartDraft();
+  Draft DraftNow() const;
+  void NoteDraft();
+  void BringBack(const Draft& draft);
+  void BringRowsBack(const Draft& draft);
+
   bool activated_ = false;
   OrderAsRead order_;  // as it stood when its lines were read
+  SlipDraft draft_;
 };
 
 /// Makes the receipt form known by its name.

@@ -42,6 +42,7 @@ Fate frm_PE_UNIT::Post() {
 
 void frm_PE_UNIT::TellFate(Fate fate) {
   if (fate == Fate::Stored) {
+    draft_.Saved();
     Host.MsgBox("입고처리가 정상적으로 처리되었습니다.", box::Information, "입고완료");
     Close();
   } else if (fate != Fate::StoredOther && LastErrorText == kOrderMoved) {

@@ -1,5 +1,7 @@
 #include "slips/depot_choice.h"
 
+#include <algorithm>
+
 #include "basics/text.h"
 #include "slips/slip_form.h"
 
@@ -10,20 +12,22 @@ constexpr int kCodeLength = 6;
 
 }  // namespace
 
-std::string DepotCodeOf(const ComboBox& depots) { return RightChars(depots.Text(), kCodeLength); }
+std::string DepotCodeOf(const std::string& entry) { return RightChars(entry, kCodeLength); }
+
+std::string DepotCodeOf(const ComboBox& depots) { return DepotCodeOf(depots.Text()); }
 
 std::string DepotNameOf(const ComboBox& depots) {
   const std::string entry = depots.Text();
   return Trim(LeftChars(entry, CharLength(entry) - kCodeLength));
 }
 
-void ChooseDepot(ComboBox& depots, const std::string& code) {
-  if (code.empty()) return;
-  for (const std::string& entry : depots.List()) {
-    if (RightChars(entry, kCodeLength) != code) continue;
-    depots.SetText(entry);
-    return;
-  }
+bool ChooseDepot(ComboBox& depots, const std::string& code) {
+  const auto& list = depots.List();
+  const auto found = std::find_if(
+      list.begin(), list.end(), [&](const std::string& each) { return DepotCodeOf(each) == code; });
+  if (code.empty() || found == list.end()) return false;
+  depots.SetListIndex(static_cast<int>(found - list.begin()));
+  return true;
 }
 
 void CopyDepots(ComboBox& depots) {

@@ -10,11 +10,13 @@ namespace store {
 
 /// The code of the chosen depot: the last 6 characters of the entry.
 std::string DepotCodeOf(const ComboBox& depots);
+std::string DepotCodeOf(const std::string& entry);
 /// The name of the chosen depot: the entry without its last 6 characters, trimmed.
 std::string DepotNameOf(const ComboBox& depots);
 
-/// Chooses the entry of a depot's code; with no such entry the choice stays.
-void ChooseDepot(ComboBox& depots, const std::string& code);
+/// Chooses the entry of a depot's code. False, and the choice as it was, when the list does not
+/// have it.
+bool ChooseDepot(ComboBox& depots, const std::string& code);
 
 /// Copies every entry of the main window's depot list, in order.
 void CopyDepots(ComboBox& depots);

@@ -39,6 +39,16 @@ void LinesPane::FLEX1_KeyPress(const std::string& character) {
   inBox.CaretToEnd();
 }
 
+void LinesPane::RecalcLine(int row) {
+  RecalcGridLine(FLEX1, row, columns_, LaAmt);
+  if (LinesChanged) LinesChanged();
+}
+
+void LinesPane::RecalcTotals() {
+  RecalcGridTotals(FLEX1, columns_, LaAmt);
+  if (LinesChanged) LinesChanged();
+}
+
 void LinesPane::RemoveCurrentLine() {
   if (FLEX1.Row() == 0) return;
   FLEX1.RemoveItem(FLEX1.Row());

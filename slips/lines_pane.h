@@ -30,8 +30,8 @@ class LinesPane {
   void FLEX1_KeyPress(const std::string& character);
 
   /// Works out the money of a row, and the totals.
-  void RecalcLine(int row) { RecalcGridLine(FLEX1, row, columns_, LaAmt); }
-  void RecalcTotals() { RecalcGridTotals(FLEX1, columns_, LaAmt); }
+  void RecalcLine(int row);
+  void RecalcTotals();
   /// Takes the current row out, where there is one.
   void RemoveCurrentLine();
   /// Throws all lines away.
@@ -53,6 +53,9 @@ class LinesPane {
 
  protected:
   ~LinesPane() = default;
+
+  /// A line came, went or has other figures.
+  std::function<void()> LinesChanged;
 
  private:
   void WalkTo(int row);

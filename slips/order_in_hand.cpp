@@ -5,6 +5,7 @@
 
 #include "gateway/gateway.h"
 #include "slips/post_order.h"
+#include "slips/received_order.h"
 #include "slips/slip_keys.h"
 
 namespace store {
@@ -52,6 +53,12 @@ std::string OrderInHand::Depot() const {
   return opened_ && !opened_->Lines.empty() ? opened_->Lines.front().Depot : std::string();
 }
 
+std::string OrderInHand::Stand() const {
+  return opened_
+             ? StandOf({openedId_, opened_->State, opened_->Link, opened_->Stamp, opened_->Total})
+             : std::string();
+}
+
 bool OrderInHand::AskForTries(TriesFound& found) const {
   if (tries_.empty()) return true;
   found = LookForTries(IsNew() ? keyOfTries_ : openedId_, tries_);
@@ -64,21 +71,11 @@ bool OrderInHand::TriesCanBeAskedFor() const {
   return AskForTries(ignored);
 }
 
-bool OrderInHand::Save(HeadArray& headValues, StringTable& lineValues, const std::string& table) {
+void OrderInHand::FindItsKey(HeadArray& headValues, StringTable& lineValues) {
   // An opened key that is none was replaced by a new one, and so the order is a new one.
   if (openedId_ != headValues[head::Id]) openedId_.clear();
+  if (!IsNew() || !tries_.empty()) return;
   const StoredOrder order = OrderAsSent(headValues, lineValues);
-  if (IsNew() && tries_.empty()) TakeUp(order, headValues, lineValues);
-  const std::string slipId = headValues[head::Id];
-  TriesFound found;
-  if (!AskForTries(found)) return false;
-  const bool stored = HasBrought(found, order) || Post(headValues, lineValues, table) ||
-                      (BatchInDoubt ? AfterLostAnswer(slipId, order) : AfterRefusal(slipId, order));
-  if (stored) *this = {};
-  return stored;
-}
-
-void OrderInHand::TakeUp(const StoredOrder& order, HeadArray& headValues, StringTable& lineValues) {
   const auto same = std::find_if(Aside.begin(), Aside.end(), [&](const OrderInHand& aside) {
     return std::any_of(aside.tries_.begin(), aside.tries_.end(),
                        [&](const StoredOrder& lost) { return SameContent(lost, order); });
@@ -87,6 +84,18 @@ void OrderInHand::TakeUp(const StoredOrder& order, HeadArray& headValues, String
   *this = std::move(*same);
   Aside.erase(same);
   GiveKey(keyOfTries_, headValues, lineValues);
+}
+
+bool OrderInHand::Save(const HeadArray& headValues, const StringTable& lineValues,
+                       const std::string& table) {
+  const StoredOrder order = OrderAsSent(headValues, lineValues);
+  const std::string slipId = headValues[head::Id];
+  TriesFound found;
+  if (!AskForTries(found)) return false;
+  const bool stored = HasBrought(found, order) || Post(headValues, lineValues, table) ||
+                      (BatchInDoubt ? AfterLostAnswer(slipId, order) : AfterRefusal(slipId, order));
+  if (stored) *this = {};
+  return stored;
 }
 
 bool OrderInHand::Post(const HeadArray& headValues, const StringTable& lineValues,

@@ -19,6 +19,9 @@ class OrderInHand {
   void Open(const std::string& slipId);
   /// The depot of the opened order's first line; empty without one.
   std::string Depot() const;
+  /// How the opened order stood (slips/received_order.h); empty of a new one, and of one that could
+  /// not be read.
+  std::string Stand() const;
   /// The key of a new order of which a try was sent and lost its answer: it is the order's for
   /// good. Empty when a new key is to be taken.
   const std::string& KeyOfTries() const { return keyOfTries_; }
@@ -27,11 +30,14 @@ class OrderInHand {
   /// should be sent then, and `LastErrorText` says so.
   bool TriesCanBeAskedFor() const;
 
-  /// Stores the slip, under the key in its header and lines. A new order of the same content that
-  /// another form had sent without an answer is taken up: then the slip gets its key. True when the
+  /// A new order of the same content that another form had sent without an answer is taken up: then
+  /// the slip gets its key. To be called before `Save`.
+  void FindItsKey(HeadArray& headValues, StringTable& lineValues);
+
+  /// Stores the slip, under the key in its header and lines. True when the
   /// slip stands in the database, whichever try has brought it there. False when it does not, or
   /// nobody knows: `LastErrorText` says in the clerk's words what has happened and what to do.
-  bool Save(HeadArray& headValues, StringTable& lineValues, const std::string& table);
+  bool Save(const HeadArray& headValues, const StringTable& lineValues, const std::string& table);
 
   /// The form turns to another order. Tries of a new order are kept for the run of the program, so
   /// that whoever types it again does not store it twice.
@@ -40,7 +46,6 @@ class OrderInHand {
  private:
   bool IsNew() const { return openedId_.empty(); }
   bool AskForTries(TriesFound& found) const;
-  void TakeUp(const StoredOrder& order, HeadArray& headValues, StringTable& lineValues);
   bool Post(const HeadArray& headValues, const StringTable& lineValues, const std::string& table);
   bool AfterLostAnswer(const std::string& slipId, const StoredOrder& order);
   bool AfterRefusal(const std::string& slipId, const StoredOrder& order);

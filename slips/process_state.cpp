@@ -5,6 +5,7 @@
 #include "forms/host.h"
 #include "forms/open_forms.h"
 #include "gateway/gateway.h"
+#include "slips/drafts.h"
 #include "slips/order_in_hand.h"
 #include "slips/picks.h"
 #include "slips/slip_keys.h"
@@ -14,6 +15,7 @@ namespace store {
 
 void ResetProcessState() {
   DropAllForms();
+  ResetDrafts();
   ResetGateway();
   ResetRecords();
   ResetFormats();

@@ -4,13 +4,15 @@
 #include "gateway/gateway.h"
 #include "gateway/guard.h"
 #include "slips/slip.h"
+#include "slips/slip_statements.h"
 
 namespace store {
 namespace {
 
 std::string OrderStatement(const std::string& orderId) {
-  return Splice(" SELECT PE_CK,PE_LINK,CONCAT(PE_SDATE)  FROM PEM22  WHERE PE_ID = '{order}' ",
-                "order"_a = orderId);
+  return Splice(
+      " SELECT PE_CK,PE_LINK,CONCAT(PE_SDATE),PE_TOT  FROM PEM22  WHERE PE_ID = '{order}' ",
+      "order"_a = orderId);
 }
 
 std::string AsReadStatement(const OrderAsRead& order) {
@@ -23,10 +25,15 @@ std::string AsReadStatement(const OrderAsRead& order) {
 
 }  // namespace
 
+std::string StandOf(const OrderAsRead& order) {
+  return order.State + "|" + order.Stamp + "|" + order.Total + "|" + order.Link;
+}
+
 std::optional<OrderAsRead> ReadOrder(const std::string& orderId) {
   const RecordsetSlot row = FetchRecordset(OrderStatement(orderId));
   if (AtEof(row)) return std::nullopt;
-  return OrderAsRead{orderId, FieldText(row, 0), FieldText(row, 1), FieldText(row, 2)};
+  return OrderAsRead{orderId, FieldText(row, 0), FieldText(row, 1), FieldText(row, 2),
+                     BareNumber(FieldText(row, 3))};
 }
 
 std::string StillAsRead(const OrderAsRead& order) {

@@ -11,7 +11,11 @@ struct OrderAsRead {
   std::string State;  ///< PE_CK
   std::string Link;   ///< PE_LINK, the receipt that has closed it; blank before.
   std::string Stamp;  ///< PE_SDATE, which every change of the order sets anew.
+  std::string Total;  ///< PE_TOT
 };
+
+/// All that tells it from itself at another moment, in one text.
+std::string StandOf(const OrderAsRead& order);
 
 /// The order, read anew. Nothing when there is none, or when it could not be read: then
 /// `LastErrorText` has words, or the server was not reached.

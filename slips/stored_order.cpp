@@ -18,7 +18,8 @@ constexpr const char* kChangedElsewhere =
 
 std::string ReadStatement(const std::string& slipId) {
   return Splice(
-      " SELECT PE_CK,PE_FCTCODE,PE_TCTCODE,PE_PDATE,PE_TOT,PE_SDATE,PS_NO,PR_CODE,PS_SQTY,PS_UP,"
+      " SELECT "
+      "PE_CK,PE_FCTCODE,PE_TCTCODE,PE_PDATE,PE_TOT,PE_SDATE,PE_LINK,PS_NO,PR_CODE,PS_SQTY,PS_UP,"
       "PS_HCTCODE FROM PEM22 LEFT JOIN PSM22 ON PEM22.PE_ID = PSM22.PE_ID WHERE PEM22.PE_ID = "
       "'{slip}' ORDER BY PS_NO ",
       "slip"_a = slipId);
@@ -31,6 +32,7 @@ enum ReadField {
   kDate,
   kTotal,
   kStamp,
+  kLink,
   kNumber,
   kProduct,
   kQuantity,
@@ -120,6 +122,7 @@ std::optional<StoredOrder> ReadStoredOrder(const std::string& slipId) {
                     .Total = BareNumber(FieldText(rows, kTotal)),
                     .Lines = {},
                     .Stamp = FieldText(rows, kStamp),
+                    .Link = FieldText(rows, kLink),
                     .Sent = {}};
   ForEachRow(rows, [&] {
     if (FieldText(rows, kNumber).empty()) return;  // a header without lines
@@ -140,6 +143,7 @@ StoredOrder OrderAsSent(const HeadArray& headValues, const StringTable& lineValu
                     .Total = BareNumber(headValues[head::Total]),
                     .Lines = {},
                     .Stamp = {},
+                    .Link = {},
                     .Sent = {}};
   ForEachLine(lineValues, [&](const LineFields& fields) {
     order.Lines.push_back({.Number = fields.Field(line::Number),

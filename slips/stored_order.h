@@ -37,6 +37,7 @@ struct StoredOrder {
   std::string Total;     ///< PE_TOT
   std::vector<StoredLine> Lines;
   std::string Stamp;  ///< PE_SDATE of one that was read.
+  std::string Link;   ///< PE_LINK of one that was read.
   Moment Sent;        ///< When it was sent, of one that was not read.
 };
 

@@ -90,6 +90,7 @@ QWidget* BoardWindow::Actions() {
   add(1, QKeySequence(Qt::SHIFT | Qt::Key_F2));
   add(4, Qt::Key_F8);
   row->addWidget(Named("HandheldMenu", new KeyButton({}, Qt::Key_F7)));
+  row->addWidget(Named("LaDraft", new KeyButton({}, QKeySequence(Qt::CTRL | Qt::Key_D))));
   row->addStretch();
   row->addWidget(SlipFinder());
   return Holder(row);

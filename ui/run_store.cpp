@@ -13,6 +13,7 @@
 #include "lookup/NEW_PR.h"
 #include "order/order_form.h"
 #include "receipt/frm_PE_UNIT.h"
+#include "slips/drafts.h"
 #include "start/Main_Start.h"
 #include "start/frmSplash.h"
 #include "ui/desk.h"
@@ -94,6 +95,7 @@ int RunStore(QApplication& application, const std::string& commandLine) {
   const int code = goesOn && !TheDesk().Ending() ? QApplication::exec() : 0;
   TheDesk().Clear();
   DropAllForms();
+  ResetDrafts();
   return code;
 }
 

@@ -1,5 +1,6 @@
 #include "ui/store_windows.h"
 
+#include "board/frmDrafts.h"
 #include "board/frm_Start.h"
 #include "handheld/DT9RECEV.h"
 #include "handheld/FRM_CRDIMP.h"
@@ -17,6 +18,7 @@
 #include "ui/batch_window.h"
 #include "ui/board_window.h"
 #include "ui/cradle_window.h"
+#include "ui/drafts_window.h"
 #include "ui/inspector_window.h"
 #include "ui/login_window.h"
 #include "ui/lookup_window.h"
@@ -37,6 +39,7 @@ void RegisterStoreWindows() {
   RegisterWindow("frmSplash", MakerOf<SplashWindow, frmSplash>());
   RegisterWindow("frmOptions", MakerOf<OptionsWindow, frmOptions>());
   RegisterWindow("frm_Start", MakerOf<BoardWindow, frm_Start>());
+  RegisterWindow("frmDrafts", MakerOf<DraftsWindow, frmDrafts>());
   RegisterWindow("frm_PE_UNIT", MakerOf<ReceiptWindow, frm_PE_UNIT>());
   for (const char* order : {"frm_Order", "frm_Order01", "frm_Order02", "frm_Order03"}) {
     RegisterWindow(order, MakerOf<OrderWindow, OrderForm>());

@@ -4,6 +4,7 @@
 #include <stdlib.h>
 
 #include "forms/open_forms.h"
+#include "slips/drafts.h"
 
 namespace store {
 namespace {
@@ -27,11 +28,14 @@ ScriptedHost::ScriptedHost() : Folder(FreshFolder()) {
   Host.ProgramFolder = Folder.string();
   Host.ProgramTitle = "STORE";
   Host.Version = {1, 2, 35};
+  setenv("STORE_DATA_FOLDER", (Folder / "data").c_str(), 1);
 }
 
 ScriptedHost::~ScriptedHost() {
   ExpectAllShown();
   DropAllForms();
+  ResetDrafts();
+  unsetenv("STORE_DATA_FOLDER");
   Host = EmptyHost();
   std::error_code ignored;
   std::filesystem::remove_all(Folder, ignored);

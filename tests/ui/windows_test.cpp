@@ -4,11 +4,12 @@
 #include <QtTest>
 
 #include "basics/records.h"
+#include "board/frmDrafts.h"
 #include "board/frm_Start.h"
 #include "forms/host.h"
+#include "handheld/DT9RECEV.h"
 #include "handheld/FRM_CRDIMP.h"
 #include "handheld/FRM_DT900_01.h"
-#include "handheld/DT9RECEV.h"
 #include "handheld/FRM_NAMECHK.h"
 #include "handheld/frmProperties.h"
 #include "lookup/HELP_BPR.h"
@@ -47,6 +48,7 @@ TEST_F(WindowsTest, EveryControlThatAFormPublishesHasItsWidget) {
   forms.push_back(std::make_unique<frmSplash>());
   forms.push_back(std::make_unique<frmOptions>());
   forms.push_back(std::make_unique<frm_Start>());
+  forms.push_back(std::make_unique<frmDrafts>());
   forms.push_back(std::make_unique<frm_Order>());
   forms.push_back(std::make_unique<frm_Order01>());
   forms.push_back(std::make_unique<frm_Order02>());

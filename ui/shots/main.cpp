@@ -5,6 +5,7 @@
 #include <QDateEdit>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QTemporaryDir>
 
 #include "basics/records.h"
 #include "forms/host.h"
@@ -161,6 +162,8 @@ int main(int argc, char** argv) {
   const QDir folder(parser.positionalArguments().constFirst());
   if (!folder.mkpath(".")) store::Director::Fail("cannot make " + folder.path());
 
+  const QTemporaryDir data;  // the user's own drafts are no part of the pictures
+  qputenv("STORE_DATA_FOLDER", data.path().toUtf8());
   store::PrepareStore(application);
   store::Host.PreviousInstance = [] { return false; };  // a client may be at work meanwhile
   store::Director director(folder, store::AskedSize(parser.value("size")));
@@ -171,6 +174,7 @@ int main(int argc, char** argv) {
   store::ShootOrderTypes(director);
   store::ShootQuickPick(director);
   store::ShootStoredSlips(director);
+  store::ShootDrafts(director);
   store::ShootBatch(director);
   store::ShootLookups(director);
   store::ShootNewProduct(director);

@@ -192,6 +192,18 @@ void ShootQuickPick(Director& director) {
   director.WhenShown("frm_Order", [](FormWindow& window) { Press(window, Qt::Key_Escape); });
 }
 
+void ShootDrafts(Director& director) {
+  director.WhenShown("frm_Start", [&](FormWindow& window) {
+    ClickOn(window, "Option1_0");
+    director.Save(window, "board_drafts");
+    Press(window, Qt::Key_D, Qt::ControlModifier);
+  });
+  director.WhenShown("frmDrafts", [&](FormWindow& window) {
+    director.Save(window, "drafts");
+    Press(window, Qt::Key_Escape);
+  });
+}
+
 void ShootStoredSlips(Director& director) {
   const auto open = [](const QString& option) {
     return [option](FormWindow& window) {

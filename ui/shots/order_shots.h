@@ -13,5 +13,7 @@ void ShootNewOrder(Director& director);
 void ShootOrderTypes(Director& director);
 void ShootQuickPick(Director& director);
 void ShootStoredSlips(Director& director);
+/// What the orders before it have left.
+void ShootDrafts(Director& director);
 
 }  // namespace store

@@ -32,6 +32,7 @@ void Journey::Prepare() {
   ResetProcessState();
   PrepareStore(*qApp);
   Host.ProgramFolder = folder_.path().toStdString();
+  qputenv("STORE_DATA_FOLDER", folder_.filePath("data").toUtf8());
 }
 
 void Journey::TearDown() {
@@ -56,6 +57,10 @@ void Journey::Start(const std::string& commandLine) {
 
 void Journey::StartAgain(const std::string& commandLine) {
   CloseBoard();
+  Restart(commandLine);
+}
+
+void Journey::Restart(const std::string& commandLine) {
   TheDesk().Clear();
   Prepare();
   Start(commandLine);

@@ -26,6 +26,8 @@ class Journey : public testing::Test {
   void Start(const std::string& commandLine);
   /// Ends it on the board and starts it again.
   void StartAgain(const std::string& commandLine);
+  /// Starts it anew without an end of the former run.
+  void Restart(const std::string& commandLine);
   /// As the program runs: closing the board is what ends it.
   void CloseBoard();
 

@@ -1,0 +1,64 @@
+#pragma once
+
+#include <filesystem>
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "slips/draft.h"
+
+struct sqlite3;
+struct sqlite3_stmt;
+
+namespace store {
+
+/// A draft with the run that is writing it; no run when it was put aside.
+struct OwnedDraft {
+  Draft Content;
+  std::string Owner;
+};
+
+/// What becomes of a draft at the next write.
+struct DraftChange {
+  bool Written = false;   ///< Its content is new.
+  bool PutAside = false;  ///< Nobody writes it any more, but it is kept.
+  bool Removed = false;
+  Draft Content = {};
+};
+
+/// The file in which one user of one store keeps drafts. Several processes may have it open; within
+/// a process only one thread at a time uses it. What a call has written is there after a power cut.
+class DraftFile {
+ public:
+  /// Opens the file, which is made for its owner's eyes alone, with its folder. One that is damaged
+  /// or of a newer program is set aside under another name, and `notice` tells the person so.
+  /// Nothing when there can be no file in that place.
+  static std::unique_ptr<DraftFile> Open(const std::filesystem::path& path, std::string& notice);
+  ~DraftFile();
+  DraftFile(const DraftFile&) = delete;
+  DraftFile& operator=(const DraftFile&) = delete;
+
+  /// All of the changes, by the drafts' ids, or none of them. False when the file takes nothing.
+  bool Write(const std::map<std::string, DraftChange>& changes, const std::string& owner);
+  /// Every draft in the file, the one changed last first. None when it cannot be read.
+  std::vector<OwnedDraft> Read();
+  /// Gives a draft to a run; false when it is not `from`'s any more.
+  bool Take(const std::string& id, const std::string& from, const std::string& owner);
+
+ private:
+  class Use;
+  explicit DraftFile(sqlite3* file) : file_(file) {}
+  bool Prepare();
+  bool WriteOne(const std::string& id, const DraftChange& change, const std::string& owner);
+  bool WriteContent(const Draft& draft, const std::string& owner);
+  bool WriteLines(const Draft& draft);
+  void ReadLines(Draft& draft);
+  bool Remove(const std::string& id);
+
+  sqlite3* file_;
+  std::vector<sqlite3_stmt*> statements_;
+  std::map<std::string, Draft> written_;  // as this process last wrote them
+};
+
+}  // namespace store
