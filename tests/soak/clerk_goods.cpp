@@ -41,7 +41,10 @@ std::string RowsByPartner(const Grid& grid) {
     ids += (ids.empty() ? "" : ",") + grid.TextMatrix(row, staged::RowId);
   }
   std::string text;
-  for (const auto& [partner, ids] : rows) text += (text.empty() ? "" : ";") + partner + "=" + ids;
+  for (const auto& [partner, ids] : rows) {
+    text += Splice("{joint}{partner}={ids}", "joint"_a = text.empty() ? "" : ";",
+                   "partner"_a = partner, "ids"_a = ids);
+  }
   return text;
 }
 

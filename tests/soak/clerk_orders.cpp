@@ -184,7 +184,7 @@ void Clerk::DeleteOrRevert(bool revert) {
       log_.Line({revert ? entry::Revert : entry::Delete, number, work.Group, key});
     };
     work.Press = [this] { Board().Image1_Click(4); };
-    work.Key = [key] { return key; };
+    work.Key = [&key] { return key; };
     PressOnce(work);
     log_.Line({entry::Closed, work.Group});
   };

@@ -21,7 +21,8 @@ constexpr auto kPatience = std::chrono::seconds(20);
 
 }  // namespace
 
-Clerks::Clerks(std::string program, std::string folder, int serverPort, int stores, unsigned seed)
+Clerks::Clerks(std::string program, const std::string& folder, int serverPort, int stores,
+               unsigned seed)
     : program_(std::move(program)), serverPort_(serverPort), stores_(stores), seed_(seed) {
   for (int store = 0; store < stores; ++store) {
     for (int terminal = 0; terminal < kTerminals; ++terminal) {

@@ -14,7 +14,7 @@ namespace store {
 class Clerks {
  public:
   /// `program` is soak_clerk; each terminal has a folder of its own under `folder`.
-  Clerks(std::string program, std::string folder, int serverPort, int stores, unsigned seed);
+  Clerks(std::string program, const std::string& folder, int serverPort, int stores, unsigned seed);
   ~Clerks();
   Clerks(const Clerks&) = delete;
   Clerks& operator=(const Clerks&) = delete;

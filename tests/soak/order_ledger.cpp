@@ -233,6 +233,7 @@ void OrderLedger::JudgeOutcome(Work& work) {
 void OrderLedger::CompareContents(DbClient& db, const std::vector<Work*>& works) {
   if (works.empty()) return;
   std::vector<std::string> keys;
+  keys.reserve(works.size());
   for (const Work* work : works) keys.push_back(*work->StoredAt.begin());
   const Rows rows = db.Select(
       "SELECT "

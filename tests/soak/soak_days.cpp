@@ -164,8 +164,17 @@ class Days {
     PrintCounts();
     if (findings_.Empty()) return EXIT_SUCCESS;
     findings_.Print();
-    std::printf("repeat it with --seed %u\n", options_.Seed);
+    std::printf("repeat it with --seed %u; what the clerks wrote down stands in %s\n",
+                options_.Seed, KeepLogs().c_str());
     return EXIT_FAILURE;
+  }
+
+  std::string KeepLogs() const {
+    if (!options_.Logs.empty()) return options_.Logs;
+    const std::string kept = server_.Folder() + "_logs";
+    std::error_code failed;
+    std::filesystem::rename(folder_, kept, failed);
+    return failed ? folder_ : kept;
   }
 
   /// A store in which nothing can be stored any more would break no other rule.
