@@ -12,16 +12,6 @@
 namespace store {
 namespace {
 
-/// This and the next statement change nothing when head office has meanwhile moved the slip on.
-std::string DeleteSlipStatement(const std::string& slipId) {
-  return Splice(" DELETE FROM PEM22 WHERE  PE_ID = '{slip}' AND PE_CK  = '0' ", "slip"_a = slipId);
-}
-
-std::string RevertSlipStatement(const std::string& slipId) {
-  return Splice(" UPDATE PEM22 SET PE_CK  = '0' WHERE  PE_ID = '{slip}' AND PE_CK  = '1' ",
-                "slip"_a = slipId);
-}
-
 std::string FindSlipStatement(const std::string& slipId) {
   return Splice(" SELECT PEM22.PE_CK,PEM22.PE_ID  FROM PEM22  WHERE PEM22.PE_ID = '{slip}'  ",
                 "slip"_a = slipId);
@@ -100,26 +90,6 @@ void frm_Start::NewOrder(int buttonIndex) {
   order->NoPriceMode = static_cast<std::int16_t>(buttonIndex);
   order->SlipTable = "PEM22";
   Host.Show(*order);
-}
-
-void frm_Start::DeleteOrRevert() {
-  StartBatch();
-  std::string done;
-  if (SelectedSlipState == kWordEditing) {
-    AddToBatch(DeleteSlipStatement(SelectedSlipId));
-    done = "[발주편집]전표가 삭제되었습니다.";
-  } else if (SelectedSlipState == kWordConfirmed) {
-    AddToBatch(RevertSlipStatement(SelectedSlipId));
-    done = "[발주확정]전표를 [발주편집]상태로 전환되었습니다.";
-  } else {
-    AddToBatch("");
-  }
-  if (ExecuteBatch(SqlBatch) == 0) {
-    Host.MsgBox("저장이 실패하였습니다.", box::Plain, "");
-    return;
-  }
-  if (!done.empty()) Host.MsgBox(done, box::Plain, "");
-  RefreshBoard();
 }
 
 void frm_Start::Text2_KeyPress(Key key) {

@@ -4,7 +4,9 @@
 #include <deque>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
+#include <vector>
 
 #include "forms/grid.h"
 #include "forms/serial_port.h"
@@ -12,6 +14,7 @@
 #include "handheld/staged_row.h"
 #include "handheld/wire/line_receiver.h"
 #include "slips/handheld_runs.h"
+#include "slips/stored_once.h"
 
 namespace store {
 
@@ -110,13 +113,16 @@ class DT9RECEV : public HandheldForm {
   void Save();
   bool StagesPartnerOf(int row);
   StagedRow RowToStage(int row, const std::string& key) const;
-  std::string StagedPrice(int row, const StagedRow& staged) const;
+  std::optional<std::string> StagedPrice(int row, const StagedRow& staged) const;
+  Fate Stage(const std::vector<StagedRow>& rows);
   bool TakeProduct(int row, const RecordsetSlot& products, StagedRow& staged) const;
 
   LineReceiver receiver_;
   std::deque<std::function<void()>> waiting_;  // what the line has brought meanwhile
   bool busy_ = false;                          // a piece of it is being worked at
   std::string taxColumn_;                      // of the product table, for this run
+  std::string transfer_;  // begins the keys of its rows; taken at its first save
+  StoredOnce staging_;    // of that transfer
 };
 
 }  // namespace store

@@ -8,6 +8,7 @@
 #include "handheld/handheld_posting.h"
 #include "handheld/staged_rows_pane.h"
 #include "slips/handheld_runs.h"
+#include "slips/stored_once.h"
 
 namespace store {
 
@@ -45,16 +46,14 @@ class FRM_DT900_01 : public HandheldForm, public StagedRowsPane, public Handheld
   bool AddHandheldLine(int row, int number);
 
  private:
-  /// What has become of a batch.
-  enum class Sent { Stored, Failed, RowsGone };
-
   /// What a press on the button has brought about so far.
   struct Pass {
     std::vector<std::string> BatchRows;  ///< PE_ID of the rows whose slips stand in the batch.
+    std::string Trace;  ///< Gives a row when what was last put into the batch is stored.
     int Surveys = 0;
     int Shipments = 0;                    ///< That are stored.
     std::vector<std::string> NotShipped;  ///< The stores whose shipments are not.
-    Sent LastFailure = Sent::Failed;      ///< How the last of them failed,
+    Fate LastFailure = Fate::Failed;      ///< How the last of them failed,
     std::string FailureText;              ///< and the words of that.
   };
 
@@ -76,12 +75,13 @@ class FRM_DT900_01 : public HandheldForm, public StagedRowsPane, public Handheld
   int RowsOverLimit() const;
   bool IsPostable(int row) const { return Ticked(row) && !ProductCode(row).empty(); }
   void AddPriceUpdates();
+  StoredOnce& Work() const;  // the passes over this run's rows; each store's shipments apart
   void SendShipment(bool added);
-  Sent SendBatch(const std::vector<std::string>& rowIds);
+  Fate SendBatch(StoredOnce& work, const std::vector<std::string>& rowIds);
   void DeleteTicked();
 
   // The reports.
-  void Report(Sent sent);
+  void Report(Fate fate);
   void ReportShipments();
   void ReportStored(const std::string& text);
   void ReportFailed(const std::string& text);

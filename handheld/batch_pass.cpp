@@ -1,5 +1,5 @@
 // A pass: the ticked rows become slips, or new prices, and leave the staging table with them.
-#include <algorithm>
+#include <optional>
 #include <set>
 
 #include "basics/numbers.h"
@@ -7,9 +7,11 @@
 #include "basics/text.h"
 #include "forms/host.h"
 #include "gateway/gateway.h"
+#include "gateway/guard.h"
 #include "handheld/FRM_DT900_01.h"
 #include "slips/slip_checks.h"
 #include "slips/slip_keys.h"
+#include "slips/stored_once.h"
 
 namespace store {
 namespace {
@@ -26,13 +28,34 @@ std::string DeleteStatement(const std::vector<std::string>& ids) {
   return Splice(" DELETE FROM DT900 WHERE PE_ID  IN ( {ids})", "ids"_a = QuotedList(ids));
 }
 
+/// Gives a row as long as all of them are there.
 std::string StillStagedStatement(const std::vector<std::string>& ids) {
-  return Splice(" SELECT DISTINCT PE_ID FROM DT900 WHERE PE_ID IN ( {ids})",
-                "ids"_a = QuotedList(ids));
+  const std::size_t count = std::set<std::string>(ids.begin(), ids.end()).size();
+  return Splice(
+      " SELECT COUNT(DISTINCT BINARY PE_ID) FROM DT900 WHERE PE_ID IN ( {ids}) HAVING "
+      "COUNT(DISTINCT BINARY PE_ID) = {count} FOR UPDATE",
+      "ids"_a = QuotedList(ids), "count"_a = std::to_string(count));
+}
+
+/// Gives a row when none of them is there any more.
+std::string GoneStatement(const std::vector<std::string>& ids) {
+  return Splice(
+      " SELECT 'gone' FROM DUAL WHERE NOT EXISTS (SELECT PE_ID FROM DT900 WHERE PE_ID IN ( {ids}))",
+      "ids"_a = QuotedList(ids));
+}
+
+/// The same, when besides `made` gives a row.
+std::string GoneIntoStatement(const std::vector<std::string>& ids, const std::string& made) {
+  return GoneStatement(ids) + " AND EXISTS (" + made + ")";
 }
 
 std::string PriceStatement(const std::string& product, double price) {
   return Splice("  UPDATE PR SET PR_OP1 = {price} WHERE PR_CODE = '{product}'",
+                "price"_a = NumberText(price), "product"_a = product);
+}
+
+std::string PriceTrace(const std::string& product, double price) {
+  return Splice("SELECT PR_CODE FROM PR WHERE PR_CODE = '{product}' AND PR_OP1 = {price}",
                 "price"_a = NumberText(price), "product"_a = product);
 }
 
@@ -47,9 +70,15 @@ class NumbersOfPass {
     SlipKeyPrefix.clear();
   }
   ~NumbersOfPass() {
+    // Since the last number another day has begun, or there was none: the next one is read afresh.
+    if (!SlipKeyPrefix.empty() && SlipKeyPrefix != prefix_) {
+      SlipSeqCounter = 0;
+      return;
+    }
     if (counter_ != 0 && counter_ <= SlipSeqCounter) return;
     SlipSeqCounter = counter_;
     SlipKeyPrefix = prefix_;
+    SlipKeyDay = day_;
   }
   NumbersOfPass(const NumbersOfPass&) = delete;
   NumbersOfPass& operator=(const NumbersOfPass&) = delete;
@@ -57,6 +86,7 @@ class NumbersOfPass {
  private:
   const std::int16_t counter_ = SlipSeqCounter;
   const std::string prefix_ = SlipKeyPrefix;
+  const CalendarDate day_ = SlipKeyDay;
 };
 
 constexpr const char* kStored = "저장이 완료되었습니다.";
@@ -65,11 +95,18 @@ constexpr const char* kRowsGone =
 
 }  // namespace
 
+/// A window that is opened again knows of the tries of the one before.
+StoredOnce& FRM_DT900_01::Work() const {
+  const bool perStore = ModuleCode == handheld_module::Shipment;
+  return WorkNamed("DT900 " + ModuleCode + ReturnMark + " " +
+                   (perStore ? HandheldHeader[head::ToCode] : std::string()));
+}
+
 void FRM_DT900_01::MakeSlips() {
   if (!MayMakeSlips() || !ConfirmLeftOver()) return;
   pass_ = {};
   StartBatch();
-  Sent sent = Sent::Failed;
+  std::optional<Fate> fate;
   {
     const Hourglass waiting;
     const NumbersOfPass numbers;
@@ -78,12 +115,12 @@ void FRM_DT900_01::MakeSlips() {
     } else if (!BuildSlips()) {
       return;
     }
-    if (!pass_.BatchRows.empty()) sent = SendBatch(pass_.BatchRows);
+    if (!pass_.BatchRows.empty()) fate = SendBatch(Work(), pass_.BatchRows);
   }
   if (ModuleCode == handheld_module::Shipment) {
     ReportShipments();
-  } else if (!pass_.BatchRows.empty()) {
-    Report(sent);
+  } else if (fate) {
+    Report(*fate);
   }
 }
 
@@ -145,67 +182,60 @@ int FRM_DT900_01::RowsOverLimit() const {
 void FRM_DT900_01::AddPriceUpdates() {
   for (int row = FLEX.FixedRows(); row < FLEX.Rows(); ++row) {
     if (!IsPostable(row)) continue;
-    AddToBatch(PriceStatement(ProductCode(row), ParseGrouped(FLEX.TextMatrix(row, staged::Price))));
+    const double price = ParseGrouped(FLEX.TextMatrix(row, staged::Price));
+    AddToBatch(PriceStatement(ProductCode(row), price));
     pass_.BatchRows.push_back(FLEX.TextMatrix(row, staged::RowId));
+    pass_.Trace = PriceTrace(ProductCode(row), price);
   }
 }
 
-/// Rows that another workstation has turned into slips meanwhile must not become goods twice.
-FRM_DT900_01::Sent FRM_DT900_01::SendBatch(const std::vector<std::string>& rowIds) {
-  const RecordsetSlot staged = FetchRecordset(StillStagedStatement(rowIds));
-  if (!staged) return Sent::Failed;
-  std::set<std::string> there;
-  ForEachRow(staged, [&] { there.insert(FieldText(staged, 0)); });
-  if (!std::all_of(rowIds.begin(), rowIds.end(),
-                   [&](const std::string& id) { return there.contains(id); })) {
-    return Sent::RowsGone;
-  }
+/// Rows that another workstation has turned into slips meanwhile, or an earlier press on this one,
+/// must not become goods twice.
+Fate FRM_DT900_01::SendBatch(StoredOnce& work, const std::vector<std::string>& rowIds) {
+  SqlBatch.insert(SqlBatch.begin() + 1, Guard(StillStagedStatement(rowIds), kRowsGone));
   AddToBatch(DeleteStatement(rowIds));
-  return ExecuteBatch(SqlBatch) != 0 ? Sent::Stored : Sent::Failed;
+  return work.Send([] { return ExecuteBatch(SqlBatch) != 0; },
+                   {.Trace = pass_.Trace.empty() ? GoneStatement(rowIds)
+                                                 : GoneIntoStatement(rowIds, pass_.Trace),
+                    .Content = QuotedList(rowIds)});
 }
 
 /// A shipment's batch holds nothing but itself, so it goes as soon as it is finished.
 void FRM_DT900_01::SendShipment(bool added) {
-  const Sent sent = added ? SendBatch(slipRows_) : Sent::Failed;
-  if (sent == Sent::Stored) {
+  const Fate fate = added ? SendBatch(Work(), slipRows_) : Fate::Failed;
+  if (fate == Fate::Stored) {
     ++pass_.Shipments;
     return;
   }
   pass_.NotShipped.push_back(HandheldHeader[head::ToName]);
-  pass_.LastFailure = sent;
-  pass_.FailureText = sent == Sent::RowsGone ? kRowsGone : LastErrorText;
+  pass_.LastFailure = fate;
+  pass_.FailureText = fate == Fate::Failed ? LastErrorText : FateText(fate);
 }
 
 void FRM_DT900_01::DeleteTicked() {
   if (CollectTickedIds()) return;
+  pass_ = {};
   StartBatch();
-  AddToBatch(DeleteStatement(TickedIds));
-  if (ExecuteBatch(SqlBatch) != 0) {
-    ReportStored(kStored);
-  } else {
-    ReportFailed(SaveFailedText());
-    LoadStagedRows();
-  }
+  StoredOnce deletion;
+  const Fate fate = SendBatch(deletion, TickedIds);
+  Report(fate);
+  if (fate != Fate::Stored) LoadStagedRows();
 }
 
-void FRM_DT900_01::Report(Sent sent) {
-  switch (sent) {
-    case Sent::Stored:
-      ReportStored(kStored);
-      break;
-    case Sent::Failed:
-      ReportFailed(SaveFailedText());
-      break;
-    case Sent::RowsGone:
-      Host.MsgBox(kRowsGone, box::Critical, "확인");
-      LoadStagedRows();
-      break;
+void FRM_DT900_01::Report(Fate fate) {
+  if (fate == Fate::Stored) return ReportStored(kStored);
+  if (fate != Fate::StoredOther && LastErrorText == kRowsGone) {
+    Host.MsgBox(kRowsGone, box::Critical, "확인");
+    LoadStagedRows();
+  } else {
+    ReportFailed(FateText(fate));
+    if (fate == Fate::StoredOther) LoadStagedRows();
   }
 }
 
 void FRM_DT900_01::ReportShipments() {
   const int shipments = pass_.Shipments + static_cast<int>(pass_.NotShipped.size());
-  if (shipments == 1) return Report(pass_.NotShipped.empty() ? Sent::Stored : pass_.LastFailure);
+  if (shipments == 1) return Report(pass_.NotShipped.empty() ? Fate::Stored : pass_.LastFailure);
   if (pass_.NotShipped.empty()) {
     return ReportStored("전표 " + std::to_string(shipments) + "건의 저장이 완료되었습니다.");
   }

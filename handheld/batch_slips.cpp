@@ -126,7 +126,7 @@ bool FRM_DT900_01::BeginSlip(int row) {
   slipRows_.clear();
   const std::string& key = HandheldHeader[head::Id];
   if (key.empty() || IsWholeKey(key)) return true;
-  ReportFailed(SaveFailedText());
+  Report(Work().FateOfEarlier("").value_or(Fate::Failed));
   return false;
 }
 
@@ -138,6 +138,7 @@ void FRM_DT900_01::FinishSlip() {
   HandheldHeader[head::Total] = NumberText(supplyTotal_ + taxTotal_);
   HandheldHeader[head::Unpaid] = HandheldHeader[head::Total];
   const bool added = AddSlipToBatch();
+  pass_.Trace = SlipTrace(*this, ModuleCode);
   if (ModuleCode == handheld_module::Shipment) {
     SendShipment(added);
   } else if (added) {

@@ -103,7 +103,24 @@ std::vector<LineFields> AdjustedLines(const StringTable& lines) {
   return adjusted;
 }
 
+std::string SlipTraceStatement(const HeadFields& fields, const std::string& table) {
+  return Splice(
+      "SELECT PE_ID FROM {table} WHERE PE_ID = '{H0}' AND PE_TCTCODE = '{H6}' AND PE_TOT = {H10}",
+      fields, "table"_a = table);
+}
+
+std::string SurveyTraceStatement(const HeadFields& fields) {
+  return Splice("SELECT ME_ID FROM ME WHERE ME_ID = '{H0}' AND ME_TOT = {H10}", fields);
+}
+
 }  // namespace
+
+std::string SlipTrace(const HandheldSlip& slip, const std::string& moduleCode) {
+  const HeadFields head = FieldsOf(slip);
+  if (moduleCode == handheld_module::Survey) return SurveyTraceStatement(head);
+  if (moduleCode == handheld_module::Shipment) return SlipTraceStatement(head, "PEM13");
+  return SlipTraceStatement(head, moduleCode == handheld_module::Sale ? "PES13" : "PEM23");
+}
 
 bool PE_DT900R(const HandheldSlip& slip, const std::string& moduleCode) {
   const bool out = moduleCode == handheld_module::Sale;

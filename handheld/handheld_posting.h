@@ -39,4 +39,7 @@ bool PostStoreShipment(const HandheldSlip& slip);
 /// with its sign.
 bool PostStockSurvey(const HandheldSlip& slip);
 
+/// A SELECT that gives a row when the slip of that module stands in its header table.
+std::string SlipTrace(const HandheldSlip& slip, const std::string& moduleCode);
+
 }  // namespace store

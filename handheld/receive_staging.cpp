@@ -24,9 +24,19 @@ std::string ProductsStatement(const std::string& taxColumn) {
                 "tax"_a = taxColumn);
 }
 
-void Tell(bool saved) {
-  Host.MsgBox(saved ? kSaved : kNotSaved, saved ? box::Information : box::Critical, "확인");
+constexpr const char* kNoPrice =
+    "저장이 실패하였습니다.\r계약가를 읽지 못하였습니다. 다시 저장하시기 바랍니다.";
+
+void Tell(Fate fate) {
+  if (fate == Fate::Stored) {
+    Host.MsgBox(kSaved, box::Information, "확인");
+  } else {
+    Host.MsgBox(fate == Fate::Failed ? kNotSaved : FateText(fate), box::Critical, "확인");
+  }
 }
+
+/// What was stored by an earlier try needs no further one, also when something else was meant now.
+bool IsStaged(Fate fate) { return fate == Fate::Stored || fate == Fate::StoredOther; }
 
 }  // namespace
 
@@ -48,25 +58,48 @@ bool DT9RECEV::SaveToStaging() {
   // Without the products every row would be staged as one that nobody can turn into a slip.
   const RecordsetSlot products = FetchRecordset(ProductsStatement(taxColumn_));
   if (products == nullptr) {
-    Tell(false);
-    return false;
+    const Fate fate = staging_.FateOfEarlier("").value_or(Fate::Failed);
+    Tell(fate);
+    return IsStaged(fate);
   }
-  std::vector<std::string> statements(1);
-  const std::string transfer = FormatDateValue(Host.Now(), "YYYYMMDDHHNNSS") + Trim(Label7.Caption);
+  // The transfer keeps its key: one that is stored after all is known by it.
+  if (transfer_.empty()) {
+    transfer_ = FormatDateValue(Host.Now(), "YYYYMMDDHHNNSS") + Trim(Label7.Caption);
+  }
+  std::vector<StagedRow> rows;
   int unknownProducts = 0;
   for (int row = FLEX.FixedRows(); row < FLEX.Rows(); ++row) {
     if (!StagesPartnerOf(row)) return false;
-    StagedRow staged = RowToStage(row, transfer);
+    StagedRow staged = RowToStage(row, transfer_);
     if (!TakeProduct(row, products, staged)) ++unknownProducts;
-    staged.Price = StagedPrice(row, staged);
-    statements.push_back(StagedRowStatement(staged));
+    const std::optional<std::string> price = StagedPrice(row, staged);
+    if (!price) {
+      Host.MsgBox(kNoPrice, box::Critical, "확인");
+      return false;
+    }
+    staged.Price = *price;
+    rows.push_back(staged);
   }
-  const bool saved = ExecuteBatch(statements) != 0;
-  Tell(saved);
+  const Fate fate = Stage(rows);
+  Tell(fate);
   if (unknownProducts > 0) {
     Host.MsgBox(std::to_string(unknownProducts) + "건의 품목전환 오류", box::Critical, "품목오류");
   }
-  return saved;
+  return IsStaged(fate);
+}
+
+Fate DT9RECEV::Stage(const std::vector<StagedRow>& rows) {
+  std::vector<std::string> statements = {"", NotStagedYet(rows.front())};
+  std::string content;
+  for (const StagedRow& row : rows) {
+    statements.push_back(StagedRowStatement(row));
+    content += statements.back();
+  }
+  const Fate fate = staging_.Send([&] { return ExecuteBatch(statements) != 0; },
+                                  {.Trace = StagedRowTrace(rows.back()), .Content = content});
+  // Refused although nothing of ours is there: another transfer has this key.
+  if (fate == Fate::Failed && LastErrorText == kStagedAlready) transfer_.clear();
+  return fate;
 }
 
 // A row of a wrong kind has a remark where the code stands.
@@ -109,11 +142,12 @@ bool DT9RECEV::TakeProduct(int row, const RecordsetSlot& products, StagedRow& st
 }
 
 // Returns go with a positive quantity and a negative price.
-std::string DT9RECEV::StagedPrice(int row, const StagedRow& staged) const {
-  const double price = ContractFlag
-                           ? ResolveStorePrice(staged.PartyCode, staged.ProductCode, staged.Date)
-                           : ParseNumber(FLEX.TextMatrix(row, received::Price));
-  return NumberText(ReturnMark == "R" ? -std::abs(price) : price);
+std::optional<std::string> DT9RECEV::StagedPrice(int row, const StagedRow& staged) const {
+  const std::optional<double> price =
+      ContractFlag ? ResolveStorePrice(staged.PartyCode, staged.ProductCode, staged.Date)
+                   : ParseNumber(FLEX.TextMatrix(row, received::Price));
+  if (!price) return std::nullopt;
+  return NumberText(ReturnMark == "R" ? -std::abs(*price) : *price);
 }
 
 }  // namespace store

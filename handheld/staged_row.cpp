@@ -1,6 +1,7 @@
 #include "handheld/staged_row.h"
 
 #include "basics/numbers.h"
+#include "gateway/guard.h"
 #include "gateway/splice.h"
 
 namespace store {
@@ -27,6 +28,21 @@ std::string StagedRowStatement(const StagedRow& row) {
       "price"_a = row.Price, "mark"_a = row.ReturnMark, "user"_a = row.UserCode,
       "party"_a = row.PartyCode, "partyName"_a = row.PartyName, "inspector"_a = row.Inspector,
       "module"_a = row.ModuleCode);
+}
+
+std::string NotStagedYet(const StagedRow& row) {
+  return Guard(Splice(" SELECT 'none' FROM DUAL WHERE NOT EXISTS (SELECT PE_ID FROM DT900 WHERE "
+                      "PE_ID = '{id}' FOR UPDATE)",
+                      "id"_a = row.Id),
+               kStagedAlready);
+}
+
+std::string StagedRowTrace(const StagedRow& row) {
+  return Splice(
+      " SELECT PE_ID FROM DT900 WHERE PE_ID = '{id}' AND PR_CODE = '{code}' AND PS_SQTY = "
+      "{quantity} AND PS_rctCODE = '{party}' AND ST_CODE = '{user}' AND DT_GU = '{module}' ",
+      "id"_a = row.Id, "code"_a = row.ProductCode, "quantity"_a = row.Quantity,
+      "party"_a = row.PartyCode, "user"_a = row.UserCode, "module"_a = row.ModuleCode);
 }
 
 }  // namespace store

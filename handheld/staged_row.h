@@ -35,4 +35,13 @@ std::string TaxMarkOf(const std::string& tax);
 /// The row's INSERT. The table is written by position, 25 values.
 std::string StagedRowStatement(const StagedRow& row);
 
+/// The guard of a transfer: none of its rows is staged. They are staged together, so one stands for
+/// all.
+std::string NotStagedYet(const StagedRow& row);
+/// What a batch's error text is when that guard has refused it.
+inline constexpr const char* kStagedAlready = "이미 저장된 전송입니다.";
+
+/// A SELECT that gives a row when this one is staged.
+std::string StagedRowTrace(const StagedRow& row);
+
 }  // namespace store

@@ -89,7 +89,10 @@ void OrderForm::PublishControls() {
 }
 
 void OrderForm::ConnectPanes() {
-  SupplierChanged = [this] { ClearLines(); };
+  SupplierChanged = [this] {
+    ClearLines();
+    inHand_.PutAside();
+  };
   FollowSupplier = [this](ItemListMoment moment) {
     const Hourglass waiting;
     ReadSupplierScope(moment);
@@ -109,22 +112,43 @@ void OrderForm::ConnectPanes() {
 }
 
 void OrderForm::ReadSupplierScope(ItemListMoment moment) {
-  if (AppOptions.OrderInfoPartnersOnly == 1) choices_.ReadItems(moment, Text1.Tag);
+  ReadItemList(moment);
   if (FillLeftSide) FillLeftSide();
   // Whatever is chosen beside it anew, the pick list starts empty.
   FLEX2.SetRows(1);
 }
 
+void OrderForm::ReadItemList(ItemListMoment moment) {
+  if (AppOptions.OrderInfoPartnersOnly != 1) return;
+  const RecordsetSlot before = SlotC;
+  choices_.ReadItems(moment, Text1.Tag);
+  if (SlotC == before) return;  // this moment asks for no list
+  itemList_ = SlotC;
+  itemListMoment_ = moment;
+}
+
+/// Another form may have worked with a list of its own meanwhile, or a read may have failed.
+void OrderForm::TakeItemListBack() {
+  if (SlotC == nullptr || SlotC != itemList_) ReadItemList(itemListMoment_);
+}
+
 void OrderForm::Load() { ResetOrderForm(); }
 
 void OrderForm::Activate() {
-  if (activated_) return;
+  if (activated_) {
+    TakeItemListBack();
+    FollowTheDay();
+    return;
+  }
   activated_ = true;
   Host.DoEvents();
   if (!SlipId.empty()) LoadOrderSlip(SlipId);
   ReadSupplierScope(ItemListMoment::FormOpens);
   CopyDepots(Combo1);
   Combo1.SetListIndex(0);
+  // Or a saved change would move the order to another depot.
+  ChooseDepot(Combo1, inHand_.Depot());
+  openedDepot_ = Combo1.ListIndex();
   SetFocus(Text1);
 }
 
@@ -134,13 +158,25 @@ void OrderForm::ResetOrderForm() {
   Text1.Tag.clear();
   inBox.SetText("");
   LaSatae.Caption.clear();
-  const std::string today = FormatDateValue(Today(), "yyyy-mm-dd");
-  DTOrderDate.SetValue(today);
-  Text4.SetText(today);
+  GiveTodaysDate();
   for (Label& amount : LaAmt) amount.Caption = "0";
 }
 
+void OrderForm::GiveTodaysDate() {
+  givenDate_ = FormatDateValue(Today(), "yyyy-mm-dd");
+  DTOrderDate.SetValue(givenDate_);
+  Text4.SetText(givenDate_);
+}
+
+/// A new order's date that nobody has chosen is the day on which it is saved, however long the form
+/// stands open.
+void OrderForm::FollowTheDay() {
+  if (SlipId.empty() && DTOrderDate.Value() == givenDate_) GiveTodaysDate();
+}
+
 void OrderForm::LoadOrderSlip(const std::string& slipId) {
+  // Read first, so that what has changed by the time the lines are read is noticed at the save.
+  inHand_.Open(slipId);
   LoadLines(
       OrderSlipStatement(slipId), [this] { LoadOrderHeader(); }, [this] { LoadOrderLine(); });
   loadedLines_ = FLEX1.Revision();
@@ -180,7 +216,7 @@ bool OrderForm::HoldsWork() const {
   if (!inBox.Enabled) return false;  // a slip that is only looked at cannot be saved
   if (SlipId.empty()) return !Text1.Text().empty() || FLEX1.Rows() > 1;
   return FLEX1.Revision() != loadedLines_ || DTOrderDate.Value() != loadedDate_ ||
-         Combo1.ListIndex() > 0;
+         Combo1.ListIndex() != openedDepot_;
 }
 
 void OrderForm::SetOrderEditable(std::int16_t editable) {
@@ -225,6 +261,7 @@ void OrderForm::Label5_Click(int index) {
 }
 
 void OrderForm::Unload() {
+  inHand_.PutAside();
   if (MainWindow* board = TheMainWindow()) Host.Show(*board);
 }
 

@@ -6,12 +6,14 @@
 #include <initializer_list>
 #include <string>
 
+#include "gateway/gateway.h"
 #include "order/history_pane.h"
 #include "order/item_box_pane.h"
 #include "order/order_type.h"
 #include "order/pick_list_pane.h"
 #include "order/progress_pane.h"
 #include "order/supplier_pane.h"
+#include "slips/order_in_hand.h"
 #include "slips/slip.h"
 #include "slips/slip_form.h"
 
@@ -69,13 +71,18 @@ class OrderForm : public SlipForm,
   void PublishControls();
   void ConnectPanes();
   void ReadSupplierScope(ItemListMoment moment);
+  void ReadItemList(ItemListMoment moment);
+  void TakeItemListBack();
   void ResetOrderForm();
+  void GiveTodaysDate();
+  void FollowTheDay();
   void LoadOrderSlip(const std::string& slipId);
   void LoadOrderHeader();
   void LoadOrderLine();
   void SetOrderEditable(std::int16_t editable);
 
   void ValidateOrder(std::int16_t& valid);
+  std::string KeyToSaveUnder() const;
   bool CheckSupplier();
   void BuildOrderLines(std::int16_t& count);
   bool AddOrderLine(int number, int row);
@@ -92,6 +99,11 @@ class OrderForm : public SlipForm,
   bool activated_ = false;
   unsigned loadedLines_ = 0;  // revision of FLEX1 when the slip had been loaded
   std::string loadedDate_;
+  int openedDepot_ = 0;    // entry of the depot list that the form opened with
+  std::string givenDate_;  // the date that the form itself put in
+  OrderInHand inHand_;
+  RecordsetSlot itemList_;  // what this form has put into `SlotC`
+  ItemListMoment itemListMoment_ = ItemListMoment::FormOpens;
 };
 
 /// Makes the order forms and their panel of tiles known by name ("frm_Order").

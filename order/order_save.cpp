@@ -5,7 +5,6 @@
 #include "forms/host.h"
 #include "order/order_form.h"
 #include "slips/item_list.h"
-#include "slips/post_order.h"
 #include "slips/slip_checks.h"
 #include "slips/slip_keys.h"
 
@@ -27,21 +26,29 @@ bool MayConfirm() {
 void OrderForm::LaBtn_Click(int index) {
   if (index != 0 && index != 1) return;
   if (index == 1 && choices_.ConfirmNeedsRights && !MayConfirm()) return;
+  // Before the checks, which would take a database that is away for a wrong supplier.
+  if (!inHand_.TriesCanBeAskedFor()) {
+    TellSaveFailed();
+    return;
+  }
   HeadValues.assign(head::OrderLast + 1, "");
   HeadValues[head::State] = choices_.StateOf(index);
   std::int16_t valid = 0;
   ValidateOrder(valid);
   if (valid == 0) return;
 
-  std::int16_t posted = 0;
-  if (Trim(SlipId).empty()) {
-    posted = PostNewOrder(HeadValues, LineValues, SlipTable);
-    SlipId = HeadValues[head::Id];
-  } else {
-    posted = PostOrderChange(HeadValues, LineValues, SlipTable);
+  if (!inHand_.Save(HeadValues, LineValues, SlipTable)) {
+    TellSaveFailed();
+    return;
   }
-  if (posted == -1) SaveSucceeded();
-  if (posted == 0) TellSaveFailed();
+  SlipId = HeadValues[head::Id];
+  SaveSucceeded();
+}
+
+/// The stored order's key, that of a try without an answer, or else a new one.
+std::string OrderForm::KeyToSaveUnder() const {
+  if (ParseNumber(SlipId) != 0) return SlipId;
+  return inHand_.KeyOfTries().empty() ? NextSlipId(SlipTable) : inHand_.KeyOfTries();
 }
 
 void OrderForm::SaveSucceeded() {
@@ -60,7 +67,8 @@ void OrderForm::ValidateOrder(std::int16_t& valid) {
   valid = 0;
   if (choices_.CountsKeysAnew) SlipSeqCounter = 0;
   // The key comes before the checks: its date is the day that the document date is measured by.
-  HeadValues[head::Id] = ParseNumber(SlipId) != 0 ? SlipId : NextSlipId(SlipTable);
+  HeadValues[head::Id] = KeyToSaveUnder();
+  FollowTheDay();
   HeadValues[head::Date] = DTOrderDate.Value();
   if (!CheckSlipDate(HeadValues)) return;
   FillHeader();

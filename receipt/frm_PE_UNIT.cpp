@@ -128,7 +128,12 @@ void frm_PE_UNIT::DTPicker1_Change() { Text4.SetText(DTPicker1.Value()); }
 
 void frm_PE_UNIT::Label4_Click() { Close(); }
 
+// What the confirmation will be held against is read before the lines: a change in between then
+// stops it.
 void frm_PE_UNIT::LoadReceiptSlip(const std::string& orderId) {
+  const std::optional<OrderAsRead> order = ReadOrder(orderId);
+  if (!order) return;
+  order_ = *order;
   LoadLines(
       ReceivedOrderStatement(orderId), [this] { LoadReceiptHeader(); },
       [this] { LoadReceiptLine(); });

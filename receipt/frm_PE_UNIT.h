@@ -5,8 +5,10 @@
 #include <string>
 
 #include "slips/lines_pane.h"
+#include "slips/received_order.h"
 #include "slips/slip.h"
 #include "slips/slip_form.h"
+#include "slips/stored_once.h"
 
 namespace store {
 
@@ -71,7 +73,12 @@ class frm_PE_UNIT : public SlipForm, public LinesPane {
   bool RowIsReceived(int row) const;
   bool AddReceiptLine(int number, int row);
 
+  Fate Post();
+  void TellFate(Fate fate);
+  std::string WhatIsEntered() const;
+
   bool activated_ = false;
+  OrderAsRead order_;  // as it stood when its lines were read
 };
 
 /// Makes the receipt form known by its name.

@@ -3,6 +3,7 @@
 #include "basics/records.h"
 #include "basics/text.h"
 #include "forms/host.h"
+#include "gateway/gateway.h"
 #include "receipt/frm_PE_UNIT.h"
 #include "slips/item_list.h"
 #include "slips/post_receipt.h"
@@ -10,6 +11,11 @@
 #include "slips/slip_keys.h"
 
 namespace store {
+namespace {
+
+StoredOnce& WorkOn(const std::string& orderId) { return WorkNamed("receipt of " + orderId); }
+
+}  // namespace
 
 void frm_PE_UNIT::Command1_Click(int index) {
   if (index != 1) return;
@@ -17,16 +23,43 @@ void frm_PE_UNIT::Command1_Click(int index) {
                   "입고확정") != box::Yes) {
     return;
   }
+  // A confirmation before this one, perhaps in a window closed since, may have lost its answer.
+  if (const std::optional<Fate> earlier = WorkOn(SlipId).FateOfEarlier(WhatIsEntered())) {
+    TellFate(*earlier);
+    return;
+  }
   HeadValues.assign(head::PostedLast + 1, "");
   std::int16_t valid = 0;
   ValidateReceipt(valid);
-  if (valid == 0) return;
-  if (PostReceipt(HeadValues, LineValues, SlipTable) == 0) {
-    TellSaveFailed();
-    return;
+  if (valid != 0) TellFate(Post());
+}
+
+Fate frm_PE_UNIT::Post() {
+  return WorkOn(SlipId).Send(
+      [this] { return PostReceipt(HeadValues, LineValues, SlipTable, StillAsRead(order_)) != 0; },
+      {.Trace = ReceiptTrace(HeadValues, LineValues, SlipTable), .Content = WhatIsEntered()});
+}
+
+void frm_PE_UNIT::TellFate(Fate fate) {
+  if (fate == Fate::Stored) {
+    Host.MsgBox("입고처리가 정상적으로 처리되었습니다.", box::Information, "입고완료");
+    Close();
+  } else if (fate != Fate::StoredOther && LastErrorText == kOrderMoved) {
+    Host.MsgBox(WhatHappenedTo(order_), box::Critical, "입고전표확인");
+  } else {
+    SlipSeqCounter = 0;  // the key may be taken: the next one is read afresh
+    Host.MsgBox(FateText(fate), box::Question, "오류");
   }
-  Host.MsgBox("입고처리가 정상적으로 처리되었습니다.", box::Information, "입고완료");
-  Close();
+}
+
+/// All that a clerk decides about the receipt.
+std::string frm_PE_UNIT::WhatIsEntered() const {
+  std::string entered = DTPicker1.Value() + "\t" + Combo1.Text();
+  for (int row = 1; row < FLEX1.Rows(); ++row) {
+    entered += "\n" + FLEX1.TextMatrix(row, receipt::Code) + "\t" +
+               FLEX1.TextMatrix(row, receipt::Received);
+  }
+  return entered;
 }
 
 void frm_PE_UNIT::ValidateReceipt(std::int16_t& valid) {

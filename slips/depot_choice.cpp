@@ -17,6 +17,15 @@ std::string DepotNameOf(const ComboBox& depots) {
   return Trim(LeftChars(entry, CharLength(entry) - kCodeLength));
 }
 
+void ChooseDepot(ComboBox& depots, const std::string& code) {
+  if (code.empty()) return;
+  for (const std::string& entry : depots.List()) {
+    if (RightChars(entry, kCodeLength) != code) continue;
+    depots.SetText(entry);
+    return;
+  }
+}
+
 void CopyDepots(ComboBox& depots) {
   const MainWindow* board = TheMainWindow();
   if (board == nullptr) return;

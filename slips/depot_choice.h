@@ -13,6 +13,9 @@ std::string DepotCodeOf(const ComboBox& depots);
 /// The name of the chosen depot: the entry without its last 6 characters, trimmed.
 std::string DepotNameOf(const ComboBox& depots);
 
+/// Chooses the entry of a depot's code; with no such entry the choice stays.
+void ChooseDepot(ComboBox& depots, const std::string& code);
+
 /// Copies every entry of the main window's depot list, in order.
 void CopyDepots(ComboBox& depots);
 

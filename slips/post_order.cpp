@@ -44,12 +44,19 @@ void AddOrder(const HeadArray& headValues, const StringTable& lineValues,
   });
 }
 
+void AddChange(const HeadArray& headValues, const StringTable& lineValues,
+               const std::string& table) {
+  AddToBatch(DeleteStatement(table, headValues[head::Id]));
+  AddOrder(headValues, lineValues, table);
+}
+
 }  // namespace
 
 std::int16_t PostNewOrder(const HeadArray& headValues, const StringTable& lineValues,
-                          const std::string& table) {
+                          const std::string& table, const std::vector<StoredOrder>& earlierTries) {
   const Hourglass waiting;
   StartBatch();
+  if (!earlierTries.empty()) AddToBatch(DeleteOwnStatement(headValues[head::Id], earlierTries));
   AddOrder(headValues, lineValues, table);
   return ExecuteBatch(SqlBatch);
 }
@@ -58,8 +65,17 @@ std::int16_t PostOrderChange(const HeadArray& headValues, const StringTable& lin
                              const std::string& table) {
   const Hourglass waiting;
   StartBatch();
-  AddToBatch(DeleteStatement(table, headValues[head::Id]));
-  AddOrder(headValues, lineValues, table);
+  AddChange(headValues, lineValues, table);
+  return ExecuteBatch(SqlBatch);
+}
+
+std::int16_t PostOrderChange(const HeadArray& headValues, const StringTable& lineValues,
+                             const std::string& table, const std::vector<StoredOrder>& known) {
+  const Hourglass waiting;
+  StartBatch();
+  AddToBatch(StillThereGuard(headValues[head::Id]));
+  AddToBatch(UntouchedGuard(headValues[head::Id], known));
+  AddChange(headValues, lineValues, table);
   return ExecuteBatch(SqlBatch);
 }
 

@@ -42,14 +42,30 @@ std::string CloseOrderStatement(const HeadFields& head) {
   return Splice(" UPDATE PEM22 SET PE_CK = '4' , PE_LINK = '{H0}' WHERE PE_ID = '{H20}'", head);
 }
 
+std::string TraceStatement(const HeadFields& head, const std::string& table,
+                           const std::string& lines, std::size_t count) {
+  return Splice(
+      " SELECT PE_ID FROM {table} WHERE PE_ID = '{H0}' AND PE_PDATE = '{H2}' AND PE_AMT = {H8} AND "
+      "PE_TAX = {H9} AND PE_TOT = {H10} AND PE_LINK = '{H20}' AND {count} = (SELECT COUNT(*) FROM "
+      "{lines} WHERE PE_ID = '{H0}')",
+      head, "table"_a = table, "lines"_a = lines, "count"_a = std::to_string(count));
+}
+
 }  // namespace
 
-std::int16_t PostReceipt(const HeadArray& headValues, const StringTable& lineValues,
+std::string ReceiptTrace(const HeadArray& headValues, const StringTable& lineValues,
                          const std::string& table) {
+  return TraceStatement(HeadFields(headValues, head::Supply, head::Discount), table,
+                        DirectionOf(table).lines, LinesOf(lineValues).size());
+}
+
+std::int16_t PostReceipt(const HeadArray& headValues, const StringTable& lineValues,
+                         const std::string& table, const std::string& guard) {
   const Hourglass waiting;
   const Direction direction = DirectionOf(table);
   const HeadFields head(headValues, head::Supply, head::Discount);
   StartBatch();
+  if (!guard.empty()) AddToBatch(guard);
   AddToBatch(HeaderStatement(head, table));
   AddToBatch(CloseOrderStatement(head));
   AddPostedLines(lineValues, direction.lines, line::TerminalId);

@@ -5,8 +5,10 @@
 #include "forms/host.h"
 #include "forms/open_forms.h"
 #include "gateway/gateway.h"
+#include "slips/order_in_hand.h"
 #include "slips/picks.h"
 #include "slips/slip_keys.h"
+#include "slips/stored_once.h"
 
 namespace store {
 
@@ -16,9 +18,10 @@ void ResetProcessState() {
   ResetRecords();
   ResetFormats();
   Host.Ending = false;
-  SlipSeqCounter = 0;
-  SlipKeyPrefix.clear();
+  ResetSlipKeys();
+  ResetOrdersInHand();
   PickList.Clear();
+  ResetWork();
 }
 
 }  // namespace store

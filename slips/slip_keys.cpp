@@ -1,19 +1,29 @@
 #include "slips/slip_keys.h"
 
+#include <algorithm>
+#include <map>
+
 #include "basics/dates.h"
 #include "basics/numbers.h"
 #include "basics/records.h"
 #include "basics/text.h"
+#include "forms/host.h"
 #include "gateway/gateway.h"
 
 namespace store {
 
 std::int16_t SlipSeqCounter = 0;
 std::string SlipKeyPrefix;
+CalendarDate SlipKeyDay;
 
 namespace {
 
+/// The highest number of this run behind each beginning of a key. Two tables share the counter but
+/// not their numbers, and a read for one of them may send the counter back.
+std::map<std::string, double> HandedOut;
+
 constexpr const char* kNumberMask = "0000";
+constexpr double kLastOfFourDigits = 9999;
 constexpr const char* kNoKey = "0001";  // what stands for a key that could not be made
 
 std::string SlipIdStatement(const std::string& table) {
@@ -33,24 +43,66 @@ std::string StockCountIdStatement() {
       "store"_a = Session.StoreCode);
 }
 
-}  // namespace
+/// The statement above sees the last four digits only, so that behind 9999 it always says 10000.
+std::string HighestNumberStatement(const std::string& table, const std::string& beginning) {
+  return Splice(
+      " SELECT MAX(CAST(SUBSTRING(PE_ID,CHAR_LENGTH('{beginning}')+1) AS UNSIGNED)) FROM {table} "
+      "WHERE PE_ID LIKE '{beginning}%'",
+      "beginning"_a = beginning, "table"_a = table);
+}
 
-std::string NextSlipId(const std::string& table) {
-  const std::string kind = RightChars(table, 2);
-  if (SlipSeqCounter != 0) {
-    // Past the 16 bits the addition has no place to go and the same key comes out again.
-    ToInt16(SlipSeqCounter + 1.0, SlipSeqCounter);
-    return SlipKeyPrefix + Session.UserCode + kind + FormatNumber(SlipSeqCounter, kNumberMask);
-  }
+std::string BeginningOf(const std::string& table) {
+  return SlipKeyPrefix + Session.UserCode + RightChars(table, 2);
+}
+
+bool CountsInMemory() {
+  return SlipSeqCounter != 0 && (SlipKeyDay == CalendarDate() || SlipKeyDay == Today());
+}
+
+/// The number behind the last one in memory; 0 when 16 bits have no place for it.
+double NextInMemory(const std::string& table) {
+  const double next = std::max<double>(SlipSeqCounter, HandedOut[BeginningOf(table)]) + 1;
+  return ToInt16(next, SlipSeqCounter) ? next : 0;
+}
+
+/// The number behind the highest stored one; 0 when the database cannot be read. One that the
+/// counter has no place for leaves it at 0, and the database is asked for each key.
+double NextInDatabase(const std::string& table) {
+  SlipSeqCounter = 0;
   StringTable found;
   std::int32_t rows = 0;
   std::int32_t highestColumn = 0;
   QueryRows(SlipIdStatement(table), found, rows, highestColumn);
-  if (rows == 0) return kNoKey;
-  const double number = ParseNumber(found.At(1, 1));
-  ToInt16(number, SlipSeqCounter);
+  if (rows == 0) return 0;
   SlipKeyPrefix = found.At(1, 0);
-  return SlipKeyPrefix + Session.UserCode + kind + FormatNumber(number, kNumberMask);
+  SlipKeyDay = Today();
+  double number = ParseNumber(found.At(1, 1));
+  if (number > kLastOfFourDigits) {
+    const std::string highest = QueryText(HighestNumberStatement(table, BeginningOf(table)), "");
+    if (!LastErrorText.empty()) return 0;
+    number = std::max(number, ParseNumber(highest) + 1);
+  }
+  ToInt16(number, SlipSeqCounter);
+  return number;
+}
+
+}  // namespace
+
+std::string NextSlipId(const std::string& table) {
+  double number = CountsInMemory() ? NextInMemory(table) : 0;
+  if (number == 0) number = NextInDatabase(table);
+  if (number == 0) return kNoKey;
+  const std::string beginning = BeginningOf(table);
+  double& highest = HandedOut[beginning];
+  highest = std::max(highest, number);
+  return beginning + FormatNumber(number, kNumberMask);
+}
+
+void ResetSlipKeys() {
+  SlipSeqCounter = 0;
+  SlipKeyPrefix.clear();
+  SlipKeyDay = {};
+  HandedOut.clear();
 }
 
 std::string NextStockCountId(int before) {

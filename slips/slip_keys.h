@@ -3,6 +3,8 @@
 #include <cstdint>
 #include <string>
 
+#include "basics/dates.h"
+
 namespace store {
 
 /// Keys of documents: 8 digits of the database's date, store code, user code, two digits of kind
@@ -14,10 +16,17 @@ namespace store {
 extern std::int16_t SlipSeqCounter;
 /// Date and store of the last database read.
 extern std::string SlipKeyPrefix;
+/// The workstation's day at that read, or no day when nobody noted it. On another day the date in
+/// the prefix may be over, so the next key reads the database, whose date alone counts.
+extern CalendarDate SlipKeyDay;
 
-/// A key for a header table ("PEM22", "PEM23", ...), whose last two characters are the kind. If the
-/// database cannot be read the result is "0001", which no date check lets pass.
+/// A key for a header table ("PEM22", "PEM23", ...), whose last two characters are the kind. This
+/// run never gives a key twice for a table while it counts in memory. If the database cannot be
+/// read the result is "0001", which no date check lets pass.
 std::string NextSlipId(const std::string& table);
+
+/// What the sequence is at the start of a run: nothing was handed out.
+void ResetSlipKeys();
 
 /// A key for the stock-count header ME. It always reads the database and leaves the counter alone;
 /// it carries no kind. `before` is how many keys the batch in hand has taken, of which the database

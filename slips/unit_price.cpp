@@ -13,6 +13,7 @@ namespace {
 
 constexpr const char* kPartnerDecides = "4";
 constexpr const char* kLevelOfParty = "NONE";
+constexpr int kPriceLevels = 20;  // DP1 to DP20
 
 /// Which party a price is for: it decides whose default level counts and which rows of UP.
 enum class Side { Partner, Store };
@@ -102,42 +103,61 @@ double LastTradePrice(const std::string& partner, const std::string& product,
   return rows > 0 ? ParseNumber(found.At(1, 1)) : 0;
 }
 
-double PriceFromLevel(Side side, const std::string& party, const std::string& product,
-                      std::string level) {
+/// The reads that a contract price is made of. A failed one counts as one without a row, and is
+/// remembered.
+class PriceReads {
+ public:
+  bool Failed = false;
+
+  /// How many rows the statement gives.
+  std::int32_t Rows(const std::string& statement, StringTable& found) {
+    SqlText = statement;
+    std::int32_t rows = 0;
+    std::int32_t highestColumn = 0;
+    CloseRecordset(SlotA);
+    QueryRows(SqlText, found, rows, highestColumn);
+    if (rows == 0 && !SlotA) Failed = true;
+    return rows;
+  }
+  std::string Text(const std::string& statement) {
+    StringTable found;
+    return Rows(statement, found) > 0 ? found.At(1, 0) : "0";
+  }
+};
+
+double PriceFromLevel(PriceReads& reads, Side side, const std::string& party,
+                      const std::string& product, std::string level) {
   if (level == kLevelOfParty) {
-    SqlText = side == Side::Partner ? PartnerLevelStatement(party) : StoreLevelStatement(party);
-    level = RightChars(QueryText(SqlText, "0"), 2);
+    level = RightChars(reads.Text(side == Side::Partner ? PartnerLevelStatement(party)
+                                                        : StoreLevelStatement(party)),
+                       2);
   }
   std::int16_t n = 0;
   ToInt16(ParseNumber(level) - 2, n);
-  if (n == -1) {
-    SqlText = ThirdPriceStatement(product);
-  } else if (n == 0) {
-    SqlText = SalePriceStatement(product);
-  } else {
-    // A level that means nothing names a column that does not exist; the refusal reads as 0.
-    SqlText = LevelPriceStatement(product, n, side == Side::Partner ? "C" : "R");
-  }
-  return ParseNumber(QueryText(SqlText, "0"));
+  if (n == -1) return ParseNumber(reads.Text(ThirdPriceStatement(product)));
+  if (n == 0) return ParseNumber(reads.Text(SalePriceStatement(product)));
+  const std::string statement = LevelPriceStatement(product, n, side == Side::Partner ? "C" : "R");
+  if (n >= 1 && n <= kPriceLevels) return ParseNumber(reads.Text(statement));
+  // A level that means nothing names a column that does not exist; the refusal reads as 0.
+  return ParseNumber(PriceReads().Text(statement));
 }
 
 /// The price of a contract row, or of the level that the row names in its place; without a row, of
 /// the party's own level.
-double PriceOfContract(Side side, const std::string& party, const std::string& product,
-                       const std::string& statement) {
-  SqlText = statement;
+double PriceOfContract(PriceReads& reads, Side side, const std::string& party,
+                       const std::string& product, const std::string& statement) {
   StringTable found;
-  std::int32_t rows = 0;
-  std::int32_t highestColumn = 0;
-  QueryRows(SqlText, found, rows, highestColumn);
-  if (rows == 0) return PriceFromLevel(side, party, product, kLevelOfParty);
+  if (reads.Rows(statement, found) == 0) {
+    return PriceFromLevel(reads, side, party, product, kLevelOfParty);
+  }
   const double price = ParseNumber(found.At(1, 1));
-  return price != 0 ? price : PriceFromLevel(side, party, product, found.At(1, 0));
+  return price != 0 ? price : PriceFromLevel(reads, side, party, product, found.At(1, 0));
 }
 
 double ContractPrice(const std::string& partner, const std::string& product,
                      const std::string& date) {
-  return PriceOfContract(Side::Partner, partner, product,
+  PriceReads reads;
+  return PriceOfContract(reads, Side::Partner, partner, product,
                          PartnerContractStatement(partner, product, date));
 }
 
@@ -187,10 +207,12 @@ double ResolveUnitPrice(const std::string& partner, const std::string& product,
   return 0;
 }
 
-double ResolveStorePrice(const std::string& storeCode, const std::string& product,
-                         const std::string& date) {
-  return PriceOfContract(Side::Store, storeCode, product,
-                         StoreContractStatement(storeCode, product, date));
+std::optional<double> ResolveStorePrice(const std::string& storeCode, const std::string& product,
+                                        const std::string& date) {
+  PriceReads reads;
+  const double price = PriceOfContract(reads, Side::Store, storeCode, product,
+                                       StoreContractStatement(storeCode, product, date));
+  return reads.Failed ? std::nullopt : std::optional<double>(price);
 }
 
 }  // namespace store

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 
 namespace store {
@@ -15,8 +16,8 @@ double ResolveUnitPrice(const std::string& partner, const std::string& product,
                         const std::string& slipKind, const std::string& unused);
 
 /// The contract price towards a store (RCT_CODE), or its price level's; no policy applies. 0 means
-/// no price.
-double ResolveStorePrice(const std::string& storeCode, const std::string& product,
-                         const std::string& date);
+/// no price; nothing, that it could not be read.
+std::optional<double> ResolveStorePrice(const std::string& storeCode, const std::string& product,
+                                        const std::string& date);
 
 }  // namespace store

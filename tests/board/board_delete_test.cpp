@@ -1,5 +1,6 @@
 // Deleting a slip in editing, and taking a confirmed one back.
 #include "tests/board/board_test.h"
+#include "tests/support/cutting_proxy.h"
 
 namespace store {
 namespace {
@@ -11,7 +12,7 @@ class BoardDeletes : public BoardTest {
   BoardDeletes() { ShowMay(); }
 };
 
-TEST_F(BoardDeletes, OrTakesBackBySelectedStateWhateverHeadOfficeDidMeanwhile) {
+TEST_F(BoardDeletes, OrTakesBackWhatStillHasTheStateShownAndTellsTruly) {
   const std::string remove =
       " DELETE FROM PEM22 WHERE  PE_ID = '" + kEditing + "' AND PE_CK  = '0' ";
   const std::string revert =
@@ -26,9 +27,9 @@ TEST_F(BoardDeletes, OrTakesBackBySelectedStateWhateverHeadOfficeDidMeanwhile) {
     const char* box;
     const char* after;
   } cases[] = {
-      // A slip that was moved on stays as it is; the box says so all the same.
-      {kEditing, "0", "2", remove, kDeleted, "2"},
-      {kConfirmed, "1", "2", revert, kReverted, "2"},
+      {kEditing, "0", "2", remove, "[본부승인] 상태로 바뀐 전표입니다. 삭제하지 않았습니다.", "2"},
+      {kConfirmed, "1", "2", revert, "[본부승인] 상태로 바뀐 전표입니다. 전환하지 않았습니다.",
+       "2"},
       {kConfirmed, "1", "1", revert, kReverted, "0"},
       {kEditing, "0", "0", remove, kDeleted, "gone"},
   };
@@ -43,7 +44,8 @@ TEST_F(BoardDeletes, OrTakesBackBySelectedStateWhateverHeadOfficeDidMeanwhile) {
     move(c.slip, c.moved);
     host.ExpectBox(c.box);
     board.Image1_Click(4);
-    EXPECT_EQ(SqlBatch, (Texts{"", c.statement}));
+    ASSERT_EQ(SqlBatch.size(), 3u);  // the guard stands in front
+    EXPECT_EQ(SqlBatch[2], c.statement);
     EXPECT_EQ(StateOf(c.slip), c.after);
     EXPECT_EQ(host.Boxes.back().Style, box::Plain);
   }
@@ -56,12 +58,52 @@ TEST_F(BoardDeletes, OrTakesBackBySelectedStateWhateverHeadOfficeDidMeanwhile) {
 
 TEST_F(BoardDeletes, ASecondPressDoesNothingMore) {
   // The state word stays with the selection after the refresh: it asks for a state that is gone.
-  Click(kConfirmed);
-  for (int press = 1; press <= 2; ++press) {
-    host.ExpectBox("전환되었습니다.");
-    board.Image1_Click(4);
-    EXPECT_EQ(StateOf(kConfirmed), "0");
+  const struct {
+    const std::string& slip;
+    const char* first;
+    const char* second;
+    const char* after;
+  } cases[] = {{kConfirmed, "전환되었습니다.", "[발주편집] 상태로 바뀐 전표입니다.", "0"},
+               {kEditing, "삭제되었습니다.", "이미 삭제된 전표입니다.", "gone"}};
+  for (const auto& c : cases) {
+    Click(c.slip);
+    for (const char* told : {c.first, c.second}) {
+      host.ExpectBox(told);
+      board.Image1_Click(4);
+      EXPECT_EQ(StateOf(c.slip), c.after);
+    }
   }
+}
+
+TEST_F(BoardDeletes, ALostReplyIsLookedForAndToldTruly) {
+  using Cut = CuttingProxy::Cut;
+  const struct {
+    const std::string& slip;
+    Cut cut;
+    bool staysAway;
+    const char* told;
+    const char* after;
+  } cases[] = {
+      {kConfirmed, Cut::Before, false, "저장이 확인되지 않았습니다.", "1"},
+      {kConfirmed, Cut::After, true, "저장되었는지 알 수 없습니다.", "0"},
+      {kConfirmed, Cut::After, false, "전환되었습니다.", "0"},
+      {kEditing, Cut::Before, true, "저장되었는지 알 수 없습니다.", "0"},
+      {kEditing, Cut::Before, false, "저장이 확인되지 않았습니다.", "0"},
+      {kEditing, Cut::After, false, "삭제되었습니다.", "gone"},
+  };
+  CuttingProxy line(TestServer().Port());
+  BuildConnectString(PrivateDbServer::ServerOption(line.Port()), "kt", "small");
+  for (const auto& c : cases) {
+    Sql("UPDATE PEM22 SET PE_CK='1' WHERE PE_ID='" + kConfirmed + "'");
+    board.Image1_Click(3);
+    Click(c.slip);
+    line.CutNextBatch(c.cut, c.staysAway);
+    host.ExpectBox(c.told);
+    board.Image1_Click(4);
+    line.Return();
+    EXPECT_EQ(StateOf(c.slip), c.after) << c.told;
+  }
+  ResetGateway();
 }
 
 TEST_F(BoardDeletes, NothingInAnyOtherStateNorBeforeAClick) {

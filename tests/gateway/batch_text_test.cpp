@@ -11,7 +11,12 @@ TEST(StandsInBlock, OnlyWhatCannotReachIntoItsNeighbour) {
     bool stands;
   } cases[] = {
       {" INSERT INTO T (A) VALUES ('x')", true},
-      {"update T set A = A + 1 where B='it\\'s'", true},
+      {"update T set A = A + 1 where B='it''s'", true},
+      {"update T set A = 'C:\\' where B='C:\\'", true},
+      {" SELECT A FROM T WHERE B = 'x' FOR UPDATE", true},
+      {" SELECT A FROM T WHERE B = 'x' FOR UPDATE\n-- 다른 곳에서 바뀐 '자료'", true},
+      {" SELECT A FROM T WHERE B = 'x\n-- 자료", false},
+      {" SELECT A FROM T; DELETE FROM T", false},
       {" DELETE FROM T WHERE A = ''''", true},
       {"replace into T values (\"a;b\", 'c;d', `e`)", true},
       {"INSERT INTO T VALUES ('-- no comment', '/* neither */ #')", true},
@@ -20,7 +25,7 @@ TEST(StandsInBlock, OnlyWhatCannotReachIntoItsNeighbour) {
       {"INSERT INTO T VALUES (1) # rest", false},
       {"INSERT INTO T VALUES (1) /* rest", false},
       {"INSERT INTO T VALUES ('open)", false},
-      {"INSERT INTO T VALUES ('open\\')", false},
+      {"INSERT INTO T VALUES ('open\\'')", false},
       {"INSERT INTO T VALUES (`open)", false},
       {"SET @a = 1", false},
       {"COMMIT", false},

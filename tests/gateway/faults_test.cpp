@@ -8,6 +8,7 @@
 #include <cstdlib>
 #include <thread>
 
+#include "gateway/guard.h"
 #include "tests/gateway/gate.h"
 #include "tests/support/scripted_host.h"
 
@@ -30,16 +31,26 @@ TEST_F(Gate, ABatchRunsInOrderAndPassesOverEmptyElements) {
   EXPECT_EQ(ExecuteBatch({""}), -1);
 }
 
+// Nothing of it reaches the server, which might make sense of it.
 TEST_F(Gate, AQuoteInAValueReadsAsNothingAndFailsABatchWhole) {
   Sql("INSERT INTO T VALUES (1,'x',1)");
-  Query(Splice("SELECT N FROM T WHERE A = '{text}'", "text"_a = "o'neil"));
-  EXPECT_EQ(rows, 0);
-  EXPECT_EQ(ExecuteBatch({"", InsertNumber(2),
-                          Splice("INSERT INTO T (N,A) VALUES (3,'{text}')", "text"_a = "o'neil"),
-                          InsertNumber(4)}),
-            0);
-  EXPECT_NE(LastErrorText.find("SQL syntax"), std::string::npos) << LastErrorText;
-  EXPECT_EQ(Numbers(), "1 ");
+  for (const char* text : {"o'neil", "' OR '1'='1", "';DELETE FROM T;--", "'", "''", "\\'"}) {
+    const std::string select = Splice("SELECT N FROM T WHERE A = '{text}'", "text"_a = text);
+    Query(select);
+    EXPECT_EQ(rows, 0) << text;
+    EXPECT_TRUE(LastErrorText.ends_with(text)) << LastErrorText;
+    EXPECT_EQ(FetchRecordset(Splice("SELECT * FROM ({select}) X", "select"_a = select)), nullptr);
+    SlotB = FetchRecordset("SELECT 1");
+    OpenRecordset(SlotB, select);
+    EXPECT_EQ(SlotB, nullptr);
+    EXPECT_EQ(ExecuteBatch({"", InsertNumber(2),
+                            Splice("INSERT INTO T (N,A) VALUES (3,'{text}')", "text"_a = text),
+                            InsertNumber(4)}),
+              0);
+    EXPECT_TRUE(LastErrorText.ends_with(text)) << LastErrorText;
+    EXPECT_FALSE(BatchInDoubt);
+    EXPECT_EQ(Numbers(), "1 ");
+  }
 }
 
 TEST_F(Gate, The57thOf102StatementsFailsAndNothingStays) {
@@ -60,7 +71,9 @@ TEST_F(Gate, WhatWouldReachIntoTheNextStatementFailsBothWays) {
        {"INSERT INTO T (N,A) VALUES (50,'open)", "INSERT INTO T (N) VALUES (50) /*",
         "INSERT INTO T (N) VALUES (50); DELETE FROM T",
         "INSERT INTO T (N) VALUES (50); COMMIT; INSERT INTO T (N) VALUES (51)",
-        "INSERT INTO T (N,A) VALUES (50,'\\')", "DELETE FROM NOPE", "nonsense"}) {
+        "INSERT INTO T (N,A) VALUES (50,'\\'')", "DELETE FROM NOPE", "nonsense",
+        "SELECT N FROM T WHERE A = 'open", "SELECT N FROM T /*", "SELECT N FROM T) OR (1 = 1",
+        "SELECT N FROM T; DELETE FROM T"}) {
     for (const bool oneByOne : {false, true}) {
       std::vector<std::string> statements = {"", InsertNumber(1), bad, InsertNumber(2)};
       if (oneByOne) statements.insert(statements.begin() + 1, "SET @way = 1");
@@ -123,6 +136,7 @@ TEST_F(Gate, APowerCutWhileABatchRunsLeavesAllOfItOrNothing) {
     const std::string count = TestServer().Rows("gate", "SELECT COUNT(*) FROM T")[0][0];
     EXPECT_TRUE(count == "0" || count == "30") << count << " of 30 after " << delay << " ms";
     EXPECT_TRUE(result == 0 || count == "30");
+    EXPECT_TRUE(result == -1 || count == "0" || BatchInDoubt);
   }
 }
 
@@ -182,6 +196,7 @@ TEST_F(Gate, AServerThatStandsStillHoldsUpACallOnlyUntilItsLimit) {
     if (batch) {
       EXPECT_EQ(ExecuteBatch({"", InsertNumber(1), InsertNumber(2)}), 0);
       EXPECT_NE(LastErrorText.find("알 수 없습니다"), std::string::npos) << LastErrorText;
+      EXPECT_TRUE(BatchInDoubt);
     } else {
       OpenRecordset(SlotB, "SELECT N FROM T");
       EXPECT_EQ(SlotB, nullptr);
@@ -215,22 +230,112 @@ TEST_F(Gate, ABatchTooLargeForOneBlockIsAllOrNothingToo) {
   EXPECT_EQ(Numbers(), "1 2 3 ");
 }
 
-TEST_F(Gate, ALockThatSomebodyHoldsFailsTheBatchInsteadOfHangingIt) {
-  Sql("INSERT INTO T VALUES (1,'x',1)");
-  setenv("STORE_LOCK_WAIT", "1", 1);
-  ResetGateway();
-  BuildConnectString(TestServer().ServerOption(), "kt", "gate");
-  std::thread holder([] {
-    TestServer().Sql("gate",
-                     "START TRANSACTION; UPDATE T SET A='held' WHERE N=1; DO SLEEP(4); "
-                     "ROLLBACK");
-  });
-  std::this_thread::sleep_for(std::chrono::milliseconds(300));
-  EXPECT_EQ(ExecuteBatch({"", InsertNumber(2), "UPDATE T SET A='mine' WHERE N=1"}), 0);
+/// Somebody else's transaction at the server while the test goes on.
+class Somebody {
+ public:
+  explicit Somebody(const std::string& statements)
+      : works_([statements] { TestServer().Sql("gate", "START TRANSACTION; " + statements); }) {
+    std::this_thread::sleep_for(std::chrono::milliseconds(300));
+  }
+  ~Somebody() { works_.join(); }
+  Somebody(const Somebody&) = delete;
+  Somebody& operator=(const Somebody&) = delete;
+
+ private:
+  std::thread works_;
+};
+
+class Locks : public Gate {
+ protected:
+  Locks() {
+    setenv("STORE_LOCK_WAIT", "1", 1);
+    ResetGateway();
+    BuildConnectString(TestServer().ServerOption(), "kt", "gate");
+    Sql("INSERT INTO T (N,A) VALUES (1,'x'),(2,'x'),(3,'x'),(4,'x'),(5,'x')");
+  }
+  ~Locks() override { unsetenv("STORE_LOCK_WAIT"); }
+  static std::string Text(int n) {
+    return TestServer().Rows("gate", "SELECT A FROM T WHERE N = " + std::to_string(n))[0][0];
+  }
+};
+
+TEST_F(Locks, OneThatSomebodyHoldsFailsTheBatchInsteadOfHangingIt) {
+  const Somebody holds("UPDATE T SET A='held' WHERE N=1; DO SLEEP(8); ROLLBACK");
+  EXPECT_EQ(ExecuteBatch({"", InsertNumber(9), "UPDATE T SET A='mine' WHERE N=1"}), 0);
   EXPECT_NE(LastErrorText.find("Lock wait timeout"), std::string::npos) << LastErrorText;
-  holder.join();
-  unsetenv("STORE_LOCK_WAIT");
-  EXPECT_EQ(Numbers(), "1 ");
+  EXPECT_FALSE(BatchInDoubt);
+  EXPECT_EQ(Numbers(), "1 2 3 4 5 ");
+}
+
+// Each as a block and one by one.
+TEST_F(Locks, WhatTheServerUndidForAnothersSakeIsSentAgain) {
+  int number = 10;
+  for (const char* others : {"UPDATE T SET A='held' WHERE N=1; DO SLEEP(2); COMMIT",
+                             // the one that has changed less is undone
+                             "UPDATE T SET A='held' WHERE N>1; DO SLEEP(0.6); "
+                             "UPDATE T SET A='held' WHERE N=1; COMMIT"}) {
+    for (const char* way : {"DELETE FROM T WHERE N = -1", "SET @way = 1"}) {
+      const Somebody holds(others);
+      EXPECT_EQ(ExecuteBatch({"", way, InsertNumber(++number), "UPDATE T SET A='mine' WHERE N=1",
+                              "UPDATE T SET A='mine' WHERE N=2"}),
+                -1)
+          << others << ", " << way << ": " << LastErrorText;
+    }
+    EXPECT_EQ(Text(1) + Text(2), "minemine");
+  }
+  EXPECT_EQ(Numbers(), "1 2 3 4 5 11 12 13 14 ");
+}
+
+TEST_F(Locks, AGuardMustFindARowWhenTheBatchRuns) {
+  const std::string large(300 << 10, 'x');  // too large for one block
+  for (const std::string& with :
+       {std::string("DELETE FROM T WHERE N = -1"), std::string("SET @way = 1"),
+        Splice("UPDATE T SET A = '{large}' WHERE N = -1", "large"_a = large)}) {
+    SCOPED_TRACE(with.substr(0, 40));
+    const auto press = [&](const std::string& state) {
+      return ExecuteBatch({"", with,
+                           Guard(Splice("SELECT N FROM T WHERE N = 1 AND A = '{state}' FOR UPDATE",
+                                        "state"_a = state),
+                                 "다른 곳에서 바뀐 자료입니다; -- '"),
+                           "UPDATE T SET A = 'posted' WHERE N = 1", "DELETE FROM T WHERE N = 9",
+                           InsertNumber(9)});
+    };
+    Sql("UPDATE T SET A = 'x' WHERE N = 1");
+    EXPECT_EQ(press("x"), -1) << LastErrorText;
+    EXPECT_EQ(press("x"), 0);
+    EXPECT_EQ(LastErrorText, "다른 곳에서 바뀐 자료입니다; -- '");
+    EXPECT_FALSE(BatchInDoubt);
+    EXPECT_EQ(ExecuteBatch({"", "SELECT N FROM T WHERE N = 77 FOR UPDATE"}), 0);
+    EXPECT_NE(LastErrorText, "");
+    EXPECT_EQ(ExecuteBatch({"", "SELECT N FROM NOPE"}), 0);
+    EXPECT_NE(LastErrorText.find("NOPE"), std::string::npos) << LastErrorText;
+
+    // What somebody else is still at counts as he leaves it.
+    Sql("UPDATE T SET A = 'x' WHERE N = 1");
+    const Somebody posts("UPDATE T SET A='his' WHERE N=1; DO SLEEP(0.6); COMMIT");
+    EXPECT_EQ(press("x"), 0);
+    EXPECT_EQ(Text(1), "his");
+  }
+}
+
+TEST_F(Locks, AGuardHoldsWhatItHasSeen) {
+  const auto finds = [](const char* select) { return Guard(select, "없습니다."); };
+  for (const char* way : {"DELETE FROM T WHERE N = -1", "SET @way = 1"}) {
+    Sql("UPDATE T SET A = 'x', D = 0 WHERE N = 1");
+    std::thread other([] {
+      std::this_thread::sleep_for(std::chrono::milliseconds(300));
+      TestServer().Sql("gate", "UPDATE T SET A = 'his' WHERE N = 1");
+    });
+    EXPECT_EQ(ExecuteBatch({"", way, finds("SELECT N FROM T WHERE N = 1 AND A = 'x' FOR UPDATE"),
+                            "UPDATE T SET D = SLEEP(1) WHERE N = 3",
+                            finds("SELECT N FROM T WHERE N = 1 AND A = 'x' FOR UPDATE"),
+                            "UPDATE T SET D = 5 WHERE N = 1 AND A = 'x'"}),
+              -1)
+        << LastErrorText;
+    other.join();
+    EXPECT_EQ(TestServer().Rows("gate", "SELECT A,D FROM T WHERE N = 1")[0],
+              (std::vector<std::string>{"his", "5.0000"}));
+  }
 }
 
 }  // namespace

@@ -14,10 +14,29 @@ struct Columns {
 };
 
 TEST(Splice, PutsValuesInAsTheyAreAndNeverTwice) {
-  EXPECT_EQ(Splice("A = '{code}' AND B = {n} OR C = '{code}'", "code"_a = "o'neil", "n"_a = "3"),
-            "A = 'o'neil' AND B = 3 OR C = 'o'neil'");
+  EXPECT_EQ(Splice("A = '{code}' AND B = {n} OR C = '{code}'", "code"_a = "o\"neil", "n"_a = "3"),
+            "A = 'o\"neil' AND B = 3 OR C = 'o\"neil'");
   EXPECT_EQ(Splice("{a}{b}", "a"_a = "{b}", "b"_a = "{a}"), "{b}{a}");
   EXPECT_EQ(Splice("{L2}{table}{L22}", Columns(), "table"_a = "PSM22"), "<2>PSM22<22>");
+}
+
+TEST(Splice, MarksAValueThatWouldEndItsText) {
+  const struct {
+    std::string spliced;
+    const char* broken;  // nothing when the text is whole
+  } cases[] = {
+      {Splice("A = '{a}' AND B = '{b}'", "a"_a = "x", "b"_a = "o'neil"), "o'neil"},
+      {Splice("A LIKE '%{a}%'", "a"_a = "'"), "'"},
+      {Splice("A = 'it''s {a}'", "a"_a = "'x'"), "'x'"},
+      {Splice("A = '{a}{b}'", "a"_a = "", "b"_a = "''"), "''"},
+      {Splice("SELECT ({a})", "a"_a = Splice("B = '{b}'", "b"_a = "' OR '1'='1")), "' OR '1'='1"},
+      {Splice("A = '{a}'", "a"_a = "\\`\";--"), nullptr},
+      {Splice("A IN ({a}) AND B = ''", "a"_a = "'x','y'"), nullptr},
+  };
+  for (const auto& each : cases) {
+    const auto value = BrokenValue(each.spliced);
+    EXPECT_EQ(value.value_or("-"), each.broken != nullptr ? each.broken : "-") << each.spliced;
+  }
 }
 
 using splice::NamesFit;

@@ -3,8 +3,15 @@
 #include "slips/item_list.h"
 
 namespace store {
+
 ReceiptDesk::ReceiptDesk() {
   RegisterReceiptForms();
+  OpenItemList();
+}
+
+void ReceiptDesk::StartDay() {
+  StartAgain();
+  SetUpDesk();
   OpenItemList();
 }
 

@@ -12,6 +12,8 @@ namespace store {
 class ReceiptDesk : public SlipDesk {
  protected:
   ReceiptDesk();
+  /// The store as at the start of the test, and the clerk logged in anew.
+  void StartDay();
   frm_PE_UNIT& Open(const std::string& orderId);
   frm_PE_UNIT& Receipt() { return *dynamic_cast<frm_PE_UNIT*>(OpenForm("frm_PE_UNIT")); }
   /// Makes a row current and enters a quantity.

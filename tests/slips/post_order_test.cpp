@@ -72,8 +72,7 @@ TEST_F(PostOrder, WritesNothingWhenOneStatementIsRefused) {
     const char* number;
     const char* product;
     const char* serverSays;
-  } cases[] = {{"2", "Kelly's", "You have an error in your SQL syntax"},
-               {"1", "P0002", "Duplicate entry"}};
+  } cases[] = {{"2", "Kelly's", "쓸 수 없습니다: Kelly's"}, {"1", "P0002", "Duplicate entry"}};
   for (const auto& c : cases) {
     const StringTable lines =
         LineTable({OrderLine("1", "P0001", "1"), OrderLine(c.number, c.product, "1")});

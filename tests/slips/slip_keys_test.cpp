@@ -51,13 +51,43 @@ TEST_F(SlipKeys, HaveNoDateAndUseUpNoNumberWhenTheReadFails) {
   EXPECT_EQ(NextSlipId("PEM22"), today + "1001u01220001");
 }
 
-TEST_F(SlipKeys, PrintAllDigitsAndStopAtTheEndOf16Bits) {
+TEST_F(SlipKeys, PrintAllDigitsAndAreNeverTheSameTwice) {
   SlipKeyPrefix = "202405171001";
   SlipSeqCounter = 9999;
   EXPECT_EQ(NextSlipId("PEM22"), "202405171001u012210000");
   SlipSeqCounter = 32766;
   EXPECT_EQ(NextSlipId("PEM22"), "202405171001u012232767");
-  EXPECT_EQ(NextSlipId("PEM22"), "202405171001u012232767");
+  EXPECT_EQ(NextSlipId("PEM22"), today + "1001u01220001") << "16 bits have no place for the next";
+}
+
+TEST_F(SlipKeys, GoOnBehind9999AlsoAfterAnotherStart) {
+  AddSlip("PEM22", today + "1001u01229999");
+  AddSlip("PEM22", today + "1001u022240000");
+  for (const char* number : {"10000", "10001", "32767", "32768", "32769"}) {
+    SlipSeqCounter = 0;
+    EXPECT_EQ(NextSlipId("PEM22"), today + "1001u0122" + number);
+    AddSlip("PEM22", today + "1001u0122" + number);
+    if (number == std::string("10001")) AddSlip("PEM22", today + "1001u012232766");
+  }
+  EXPECT_EQ(NextSlipId("PEM22"), today + "1001u012232770") << "the counter has no place for it";
+}
+
+TEST_F(SlipKeys, OfAnotherDayAreReadFromTheDatabase) {
+  NextSlipId("PEM22");
+  AddSlip("PEM22", today + "1001u01220007");
+  EXPECT_EQ(NextSlipId("PEM22"), today + "1001u01220002");
+  SlipKeyPrefix = "200001011001";  // what the read of a former day has left
+  host.Clock.Day += 1;
+  EXPECT_EQ(NextSlipId("PEM22"), today + "1001u01220008");
+  EXPECT_EQ(NextSlipId("PEM22"), today + "1001u01220009");
+}
+
+TEST_F(SlipKeys, OfATableAreNotGivenTwiceWhenAnotherTableSendsTheCounterBack) {
+  AddSlip("PEM23", today + "1001u01230040");
+  EXPECT_EQ(NextSlipId("PEM23"), today + "1001u01230041");
+  SlipSeqCounter = 0;  // an order that was refused, or of a type that counts anew
+  EXPECT_EQ(NextSlipId("PEM22"), today + "1001u01220001");
+  EXPECT_EQ(NextSlipId("PEM23"), today + "1001u01230042");
 }
 
 TEST_F(SlipKeys, OfAStoreWhoseCodeBeginsAnothersFollowBoth) {

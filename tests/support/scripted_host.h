@@ -61,7 +61,7 @@ class ScriptedHost {
     WindowState State;
   };
   std::vector<Program> Programs;  ///< Started ones, in order.
-  std::string ProgramRefusal;  ///< What the platform says instead of starting one.
+  std::string ProgramRefusal;     ///< What the platform says instead of starting one.
   bool OtherInstance = false;
 
   ClockTime Clock{2024, 5, 17, 10, 20, 30};  ///< Moves only when the test moves it.

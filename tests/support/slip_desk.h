@@ -14,7 +14,9 @@ namespace store {
 /// clock stands at the database's today.
 class SlipDesk : public SmallStoreTest {
  protected:
-  SlipDesk() {
+  SlipDesk() { SetUpDesk(); }
+
+  void SetUpDesk() {
     RegisterForm("frm_Start", [] { return std::make_unique<MainWindow>("frm_Start"); });
     Board = dynamic_cast<MainWindow*>(TheForm("frm_Start"));
     Board->Combo1.AddItem(ListEntry("매장", "100101"));

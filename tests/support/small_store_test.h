@@ -17,7 +17,10 @@ namespace store {
 /// A workstation of the small store where user u01 has just logged in.
 class SmallStoreTest : public testing::Test {
  protected:
-  SmallStoreTest() {
+  SmallStoreTest() { StartAgain(); }
+
+  /// The store as at the start of the test, and the user logged in anew.
+  void StartAgain() {
     UseSmallStore();
     Session.UserCode = "u01";
     Session.UserName = "김하나";
