@@ -66,7 +66,7 @@ class Soak {
     const long grown = ResidentKilobytes() - warm;
     std::printf("%ld frames, %ld rows, %ld replies; memory grew by %ld kB after a tenth of them\n",
                 options_.Frames, rows_, replies_, grown);
-    if (grown > 8 * 1024) Fail("memory grows");
+    if (grown > 8L * 1024) Fail("memory grows");
     return EXIT_SUCCESS;
   }
 

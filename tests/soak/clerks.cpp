@@ -1,0 +1,113 @@
+#include "tests/soak/clerks.h"
+
+#include <fcntl.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <chrono>
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <thread>
+
+#include "tests/soak/franchise.h"
+
+namespace store {
+namespace {
+
+constexpr int kOrderlyEnds[] = {0, 10, 11};  // as in clerk_end
+constexpr auto kPatience = std::chrono::seconds(20);
+
+}  // namespace
+
+Clerks::Clerks(std::string program, const std::string& folder, int serverPort, int stores,
+               unsigned seed)
+    : program_(std::move(program)), serverPort_(serverPort), stores_(stores), seed_(seed) {
+  for (int store = 0; store < stores; ++store) {
+    for (int terminal = 0; terminal < kTerminals; ++terminal) {
+      const std::string own = folder + "/" + StoreCodeOf(store) + "." + std::to_string(terminal);
+      std::filesystem::create_directories(own);
+      clerks_.push_back({store, terminal, own, 0, DayLogReader(own + "/log")});
+    }
+  }
+}
+
+Clerks::~Clerks() {
+  for (Clerk& clerk : clerks_) {
+    if (clerk.Pid == 0) continue;
+    kill(clerk.Pid, SIGKILL);
+    waitpid(clerk.Pid, nullptr, 0);
+  }
+}
+
+void Clerks::Start(Clerk& clerk) {
+  const std::string numbers[] = {std::to_string(serverPort_), std::to_string(clerk.Store),
+                                 std::to_string(clerk.Terminal), std::to_string(stores_),
+                                 std::to_string(seed_)};
+  clerk.Pid = fork();
+  if (clerk.Pid != 0) return;
+  // What a clerk keeps for the user goes to the terminal's own folder. Nobody waits long here: a
+  // mute server must not stop a day.
+  setenv("HOME", clerk.Folder.c_str(), 1);
+  setenv("XDG_DATA_HOME", clerk.Folder.c_str(), 1);
+  setenv("STORE_READ_LIMIT", "3", 1);
+  setenv("STORE_BATCH_LIMIT", "5", 1);
+  setenv("STORE_LOCK_WAIT", "2", 1);
+  const int words = open((clerk.Folder + "/words").c_str(), O_WRONLY | O_APPEND | O_CREAT, 0600);
+  dup2(words, STDOUT_FILENO);
+  dup2(words, STDERR_FILENO);
+  execl(program_.c_str(), program_.c_str(), clerk.Folder.c_str(), numbers[0].c_str(),
+        numbers[1].c_str(), numbers[2].c_str(), numbers[3].c_str(), numbers[4].c_str(), nullptr);
+  _exit(127);
+}
+
+/// A kill is a fault of ours; anything else that ends a clerk is a fault of the program's.
+void Clerks::Ended(Clerk& clerk, int status) const {
+  clerk.Pid = 0;
+  if (WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL) return;
+  if (WIFEXITED(status)) {
+    for (const int code : kOrderlyEnds) {
+      if (WEXITSTATUS(status) == code) return;
+    }
+  }
+  std::fprintf(stderr,
+               "soak_days: the clerk in %s ended with status %d; repeat it with --seed %u\n",
+               clerk.Folder.c_str(), status, seed_);
+  std::exit(1);
+}
+
+void Clerks::KeepWorking() {
+  for (Clerk& clerk : clerks_) {
+    int status = 0;
+    if (clerk.Pid != 0 && waitpid(clerk.Pid, &status, WNOHANG) == clerk.Pid) Ended(clerk, status);
+    if (clerk.Pid == 0) Start(clerk);
+  }
+}
+
+void Clerks::KillOne(std::mt19937& random) {
+  const Clerk& clerk = clerks_[random() % clerks_.size()];
+  if (clerk.Pid != 0) kill(clerk.Pid, SIGKILL);
+}
+
+void Clerks::SendHome() {
+  for (const Clerk& clerk : clerks_) {
+    if (clerk.Pid != 0) kill(clerk.Pid, SIGTERM);
+  }
+  const auto limit = std::chrono::steady_clock::now() + kPatience;
+  for (Clerk& clerk : clerks_) {
+    int status = 0;
+    while (clerk.Pid != 0) {
+      if (waitpid(clerk.Pid, &status, WNOHANG) == clerk.Pid) {
+        Ended(clerk, status);
+      } else if (std::chrono::steady_clock::now() > limit) {
+        std::fprintf(stderr, "soak_days: the clerk in %s does not come to an end\n",
+                     clerk.Folder.c_str());
+        std::exit(1);
+      }
+      std::this_thread::sleep_for(std::chrono::milliseconds(5));
+    }
+  }
+}
+
+}  // namespace store

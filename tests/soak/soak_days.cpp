@@ -1,0 +1,282 @@
+// Seeded days of a small franchise: many terminals of many stores as processes on one real server,
+// faults drawn from the seed, and what must always hold checked while they work and at the end. See
+// docs/soak.md.
+#include <algorithm>
+#include <charconv>
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <deque>
+#include <filesystem>
+#include <map>
+#include <memory>
+#include <random>
+#include <string>
+#include <string_view>
+#include <thread>
+
+#include "private_db/private_db_server.h"
+#include "tests/soak/clerks.h"
+#include "tests/soak/day_book.h"
+#include "tests/soak/db_client.h"
+#include "tests/soak/findings.h"
+#include "tests/soak/franchise.h"
+#include "tests/soak/order_ledger.h"
+#include "tests/soak/pass_ledger.h"
+#include "tests/soak/soak_database.h"
+#include "tests/soak/store_rules.h"
+
+namespace store {
+namespace {
+
+using std::chrono::steady_clock;
+
+struct Options {
+  int Seconds = 30 * 60;
+  unsigned Seed = 1;
+  int Stores = 12;
+  std::string Logs;  // where the clerks' logs are kept
+};
+
+constexpr auto kRound = std::chrono::milliseconds(200);
+/// A batch whose client was cut off may still be running at the server for so long.
+constexpr auto kSettling = std::chrono::seconds(6);
+
+class Days {
+ public:
+  Days(const Options& options, const std::string& program)
+      : options_(options),
+        server_("store_soak", "", Fail, "--innodb-lock-wait-timeout=2 --max-connections=300"),
+        random_(options.Seed) {
+    server_.Start();
+    server_.MakeSchema(kCompany);
+    db_ = std::make_unique<DbClient>(server_.Port());
+    FillFranchise(*db_, options.Stores);
+    folder_ = options.Logs.empty() ? server_.Folder() + "/clerks" : options.Logs;
+    clerks_ =
+        std::make_unique<Clerks>(program, folder_, server_.Port(), options.Stores, options.Seed);
+  }
+
+  int Run() {
+    const auto begin = steady_clock::now();
+    const auto end = begin + std::chrono::seconds(options_.Seconds);
+    auto minute = begin + std::chrono::minutes(1);
+    auto power = begin + NextPowerCut();
+    while (steady_clock::now() < end) {
+      clerks_->KeepWorking();
+      for (int store = 0; store < options_.Stores; ++store) {
+        MoveOrders(*db_, StoreCodeOf(store), 1 + static_cast<int>(random_() % 4));
+      }
+      Look();
+      if (random_() % 10 == 0) {
+        clerks_->KillOne(random_);
+        ++driverFaults_["client killed at any time"];
+      }
+      if (steady_clock::now() > power) {
+        CutPower();
+        power = steady_clock::now() + NextPowerCut();
+      }
+      if (steady_clock::now() > minute) {
+        minute += std::chrono::minutes(1);
+        PrintMinute(begin);
+      }
+      std::this_thread::sleep_for(kRound);
+    }
+    clerks_->SendHome();
+    std::this_thread::sleep_for(kSettling);
+    return Finish(begin);
+  }
+
+ private:
+  [[noreturn]] static void Fail(const std::string& what) {
+    std::fprintf(stderr, "soak_days: %s\n", what.c_str());
+    std::exit(2);
+  }
+
+  std::chrono::milliseconds NextPowerCut() {
+    const int mean = options_.Seconds < 120 ? 10'000 : 45'000;
+    return std::chrono::milliseconds(mean / 2 +
+                                     static_cast<int>(random_() % static_cast<unsigned>(mean)));
+  }
+
+  void CutPower() {
+    server_.Kill();
+    server_.Start();
+    ++driverFaults_["server killed"];
+  }
+
+  void ReadLogs() {
+    for (auto& clerk : clerks_->All()) {
+      for (const auto& fields : clerk.Log.News()) {
+        book_.Take(clerk.Store * kTerminals + clerk.Terminal, StoreCodeOf(clerk.Store), fields);
+      }
+    }
+  }
+
+  /// What the clerks were told first, then what is in the database, and before that is judged what
+  /// they have meant meanwhile: a step is never seen before its intention.
+  void Look() {
+    ++book_.Round;
+    ReadLogs();
+    const auto now = steady_clock::now();
+    for (Work* work : book_.TakeChanged()) {
+      if (work->Verdict == Work::Known::Stored) {
+        told_.push_back(work);
+      } else {
+        settling_.push_back({now + kSettling, work});
+      }
+    }
+    for (PassPress& press : book_.TakePasses())
+      passes_.push_back({now + kSettling, std::move(press)});
+    ledger_.ReadSteps(*db_, [this] { ReadLogs(); });
+    JudgeWhatIsDue(now);
+    CheckStore(*db_, StoreCodeOf(nextStore_), findings_);
+    nextStore_ = (nextStore_ + 1) % options_.Stores;
+  }
+
+  void JudgeWhatIsDue(steady_clock::time_point now) {
+    while (!settling_.empty() && settling_.front().first <= now) {
+      told_.push_back(settling_.front().second);
+      settling_.pop_front();
+    }
+    ledger_.Judge(*db_, told_);
+    told_.clear();
+    std::vector<PassPress> due;
+    while (!passes_.empty() && passes_.front().first <= now) {
+      due.push_back(std::move(passes_.front().second));
+      passes_.pop_front();
+    }
+    passLedger_.Judge(*db_, due);
+  }
+
+  int Finish(steady_clock::time_point begin) {
+    book_.CloseEverything();
+    Look();
+    JudgeWhatIsDue(steady_clock::now() + kSettling);
+    ledger_.JudgeCounts();
+    JudgeProgress();
+    passLedger_.JudgeRows(*db_);
+    for (int store = 0; store < options_.Stores; ++store) {
+      CheckStore(*db_, StoreCodeOf(store), findings_);
+    }
+    PrintMinute(begin);
+    PrintCounts();
+    if (findings_.Empty()) return EXIT_SUCCESS;
+    findings_.Print();
+    std::printf("repeat it with --seed %u; what the clerks wrote down stands in %s\n",
+                options_.Seed, KeepLogs().c_str());
+    return EXIT_FAILURE;
+  }
+
+  std::string KeepLogs() const {
+    if (!options_.Logs.empty()) return options_.Logs;
+    const std::string kept = server_.Folder() + "_logs";
+    std::error_code failed;
+    std::filesystem::rename(folder_, kept, failed);
+    return failed ? folder_ : kept;
+  }
+
+  /// A store in which nothing can be stored any more would break no other rule.
+  void JudgeProgress() {
+    for (int store = 0; store < options_.Stores; ++store) {
+      const std::string code = StoreCodeOf(store);
+      const long last = book_.LastOrder[code];
+      if (last * 2 < book_.Round) {
+        findings_.Add("a store that has stored no order in the later half", code,
+                      "round " + std::to_string(last) + " of " + std::to_string(book_.Round));
+      }
+    }
+  }
+
+  long FaultCount() const {
+    long count = 0;
+    for (const auto& [name, times] : book_.Faults) count += times;
+    for (const auto& [name, times] : driverFaults_) count += times;
+    return count;
+  }
+
+  void PrintMinute(steady_clock::time_point begin) const {
+    const auto seconds =
+        std::chrono::duration_cast<std::chrono::seconds>(steady_clock::now() - begin).count();
+    std::printf("%4lld s  %7ld presses (%ld a second), %6ld faults, %s\n",
+                static_cast<long long>(seconds), book_.Presses,
+                book_.Presses / std::max<long>(1, seconds), FaultCount(),
+                findings_.Empty() ? "all holds" : "BROKEN, see above");
+    std::fflush(stdout);
+  }
+
+  void PrintCounts() const {
+    const auto print = [](const char* title, const std::map<std::string, long>& counts) {
+      std::printf("%s:", title);
+      for (const auto& [name, count] : counts) std::printf(" %s %ld,", name.c_str(), count);
+      std::printf("\n");
+    };
+    print("presses", book_.Kinds);
+    print("told", book_.Verdicts);
+    print("faults at terminals", book_.Faults);
+    print("others", driverFaults_);
+  }
+
+  const Options options_;
+  PrivateDbServer server_;
+  std::mt19937 random_;
+  std::string folder_;
+  std::unique_ptr<DbClient> db_;
+  std::unique_ptr<Clerks> clerks_;
+  Findings findings_;
+  DayBook book_;
+  OrderLedger ledger_{book_, findings_};
+  PassLedger passLedger_{book_, findings_};
+  std::vector<Work*> told_;
+  std::deque<std::pair<steady_clock::time_point, Work*>> settling_;
+  std::deque<std::pair<steady_clock::time_point, PassPress>> passes_;
+  std::map<std::string, long> driverFaults_;
+  int nextStore_ = 0;
+};
+
+template <class Number>
+bool TakeNumber(const char* text, Number& number) {
+  const auto [end, error] = std::from_chars(text, text + std::strlen(text), number);
+  return error == std::errc() && *end == '\0';
+}
+
+bool ParseArguments(int argc, char** argv, Options& options) {
+  for (int i = 1; i + 1 < argc; i += 2) {
+    const std::string_view option = argv[i];
+    int minutes = 0;
+    bool taken = false;
+    if (option == "--minutes") {
+      taken = TakeNumber(argv[i + 1], minutes);
+      options.Seconds = minutes * 60;
+    } else if (option == "--seconds") {
+      taken = TakeNumber(argv[i + 1], options.Seconds);
+    } else if (option == "--seed") {
+      taken = TakeNumber(argv[i + 1], options.Seed);
+    } else if (option == "--stores") {
+      taken = TakeNumber(argv[i + 1], options.Stores) && options.Stores > 2;
+    }
+    if (option == "--logs") {
+      options.Logs = argv[i + 1];
+      taken = !options.Logs.empty();
+    }
+    if (!taken) return false;
+  }
+  return argc % 2 == 1;
+}
+
+}  // namespace
+}  // namespace store
+
+int main(int argc, char** argv) {
+  store::Options options;
+  if (!store::ParseArguments(argc, argv, options)) {
+    std::fprintf(
+        stderr,
+        "usage: soak_days [--minutes M | --seconds S] [--seed N] [--stores N] [--logs DIR]\n");
+    return 2;
+  }
+  const std::string program =
+      std::filesystem::read_symlink("/proc/self/exe").parent_path() / "soak_clerk";
+  return store::Days(options, program).Run();
+}
