@@ -61,32 +61,14 @@ std::string PriceTrace(const std::string& product, double price) {
 
 void TellNothingToDo() { Host.MsgBox("처리할 자료가 없습니다.", box::Critical, "확인"); }
 
-/// A pass reads the database for its first number. That may lie below what this run has handed out
-/// to orders and receipts, whose numbers must not come again; so they go on where they stood.
+/// A pass reads the database for its first number, and so does whoever takes a number after it:
+/// this one's may lie below those that orders and receipts have.
 class NumbersOfPass {
  public:
-  NumbersOfPass() {
-    SlipSeqCounter = 0;
-    SlipKeyPrefix.clear();
-  }
-  ~NumbersOfPass() {
-    // Since the last number another day has begun, or there was none: the next one is read afresh.
-    if (!SlipKeyPrefix.empty() && SlipKeyPrefix != prefix_) {
-      SlipSeqCounter = 0;
-      return;
-    }
-    if (counter_ != 0 && counter_ <= SlipSeqCounter) return;
-    SlipSeqCounter = counter_;
-    SlipKeyPrefix = prefix_;
-    SlipKeyDay = day_;
-  }
+  NumbersOfPass() { SlipSeqCounter = 0; }
+  ~NumbersOfPass() { SlipSeqCounter = 0; }
   NumbersOfPass(const NumbersOfPass&) = delete;
   NumbersOfPass& operator=(const NumbersOfPass&) = delete;
-
- private:
-  const std::int16_t counter_ = SlipSeqCounter;
-  const std::string prefix_ = SlipKeyPrefix;
-  const CalendarDate day_ = SlipKeyDay;
 };
 
 constexpr const char* kStored = "저장이 완료되었습니다.";

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QInputMethodEvent>
 #include <QLabel>
@@ -171,6 +172,7 @@ std::string Hands::KeyboardAt(const QWidget& window) {
 
 std::string Hands::TextOf(const QWidget& window, const QString& name) {
   if (auto* label = window.findChild<QLabel*>(name)) return label->text().toStdString();
+  if (auto* button = window.findChild<QAbstractButton*>(name)) return button->text().toStdString();
   return Named<QLineEdit>(window, name).text().toStdString();
 }
 

@@ -67,7 +67,7 @@ void DayBook::Take(int clerk, const std::string& store, const Fields& fields) {
   } else if (what == entry::Staged) {
     for (const std::string& id : Split(Field(fields, 3), ',')) staged_[id] = Field(fields, 2);
   } else if (what == entry::Fault) {
-    ++Faults[Field(fields, 1)];
+    TakeFault(clerk, Field(fields, 1));
   } else if (what == entry::Begin) {
     CloseAllOf(clerk);
   }
@@ -146,6 +146,11 @@ void DayBook::TakeTold(int clerk, const Fields& fields) {
   if (known == Work::Known::Stored) changed_.push_back(&work);
 }
 
+void DayBook::TakeFault(int clerk, const std::string& name) {
+  ++Faults[name];
+  for (Work* work : OpenOf(clerk)) work->Faulted = work->Faulted || work->InPress;
+}
+
 void DayBook::Close(Work& work) {
   if (work.InPress) work.Verdict = Work::Known::Unknown;
   work.Closed = true;
@@ -160,12 +165,16 @@ void DayBook::CloseAllOf(int clerk) {
     passes_.push_back(std::move(pass->second));
     passInHand_.erase(pass);
   }
-  std::vector<Work*> left;
+  for (Work* work : OpenOf(clerk)) Close(*work);
+}
+
+std::vector<Work*> DayBook::OpenOf(int clerk) const {
+  std::vector<Work*> works;
   for (auto place = open_.lower_bound({clerk, ""});
        place != open_.end() && place->first.first == clerk; ++place) {
-    left.push_back(place->second);
+    works.push_back(place->second);
   }
-  for (Work* work : left) Close(*work);
+  return works;
 }
 
 void DayBook::CloseEverything() {

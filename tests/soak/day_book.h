@@ -31,6 +31,7 @@ struct Work {
   std::string Box;  ///< The last.
 
   bool InPress = false;
+  bool Faulted = false;  ///< A fault met one of its presses.
   Known Verdict = Known::Nothing;
   bool Closed = false;
   std::set<std::string> StoredAt;  ///< The keys under which it was found.
@@ -83,6 +84,8 @@ class DayBook {
   void TakeIntent(int clerk, const std::string& store, const Fields& fields);
   void TakePass(int clerk, const std::string& store, const Fields& fields);
   void TakeTold(int clerk, const Fields& fields);
+  void TakeFault(int clerk, const std::string& name);
+  std::vector<Work*> OpenOf(int clerk) const;
   void CloseAllOf(int clerk);
   void Close(Work& work);
 

@@ -267,14 +267,21 @@ void OrderLedger::CompareContents(DbClient& db, const std::vector<Work*>& works)
 }
 
 void OrderLedger::JudgeCounts() {
-  const auto count = [](const std::vector<Work*>& works, Work::Known known) {
-    return static_cast<int>(std::count_if(
-        works.begin(), works.end(), [&](const Work* work) { return work->Verdict == known; }));
+  const auto count = [](const std::vector<Work*>& works, auto isOne) {
+    return static_cast<int>(std::count_if(works.begin(), works.end(), isOne));
+  };
+  // Whoever looks, after an answer was lost, and finds the slip gone cannot tell who has done it.
+  const auto isSure = [](const Work* work) {
+    return work->Verdict == Work::Known::Stored && !work->Faulted;
+  };
+  const auto isOpen = [](const Work* work) {
+    return work->Verdict == Work::Known::Unknown ||
+           (work->Verdict == Work::Known::Stored && work->Faulted);
   };
   const auto judge = [&](const std::string& key, const std::vector<Work*>& works, int happened,
                          const std::string& what) {
-    const int told = count(works, Work::Known::Stored);
-    const int open = count(works, Work::Known::Unknown);
+    const int told = count(works, isSure);
+    const int open = count(works, isOpen);
     std::string facts = std::to_string(happened) + " times, told " + std::to_string(told) +
                         " times, open " + std::to_string(open);
     for (const Work* work : works) facts += "\n    " + Facts(*work);

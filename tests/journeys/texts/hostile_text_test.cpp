@@ -110,10 +110,10 @@ class HostileText : public SmallStoreTest {
   int depth_ = 0;
 };
 
-constexpr const char* kForms[] = {
-    "frmLogin",    "frmOptions",  "frm_Start", "frm_Order",   "frm_Order01", "frm_Order02",
-    "frm_Order03", "frm_PE_UNIT", "NEW_PR",    "HELP_CT",     "HELP_RCT",    "HELP_ST",
-    "HELP_CTM",    "HELP_BPR",    "DT9RECEV",  "FRM_NAMECHK", "FRM_DT900_01"};
+constexpr const char* kForms[] = {"frmLogin",     "frmOptions",   "frm_Start",   "frm_Order",
+                                  "frm_Order01",  "frm_Order02",  "frm_Order03", "frm_OrderPLU",
+                                  "frm_PE_UNIT",  "NEW_PR",       "DT9RECEV",    "FRM_NAMECHK",
+                                  "FRM_DT900_01", "frmProperties"};
 
 TEST_F(HostileText, OfNoBoxBecomesAStatement) {
   Text = kMark;
