@@ -15,8 +15,9 @@ class DraftsJourney : public Journey {
     return Hands::Rows(order, "FLEX1", {0, 5, 7});
   }
   std::string Offer() {
-    const auto* offer = Board().findChild<QWidget*>("LaDraft");
-    return offer->isVisible() ? Hands::TextOf(Board(), "LaDraft") : "";
+    const FormWindow& board = *TheDesk().WindowNamed("frm_Start");  // in front or not
+    const auto* offer = board.findChild<QWidget*>("LaDraft");
+    return offer->isVisibleTo(&board) ? Hands::TextOf(board, "LaDraft") : "";
   }
   /// Opens the newest draft from the list.
   FormWindow& GoOn() {
