@@ -76,7 +76,8 @@ class TextBox : public Control {
   int MaxLength = 0;  ///< In characters; 0 means no limit.
   bool Masked = false;
   bool MultiLine = false;
-  int BackColor = -1;  ///< 0xRRGGBB; -1 means the window's own.
+  bool Scanned = false;  ///< A scanner writes into it, whatever stands in front of its form.
+  int BackColor = -1;    ///< 0xRRGGBB; -1 means the window's own.
 
   const std::string& Text() const { return text_; }
   void SetText(const std::string& text);

@@ -35,6 +35,8 @@ ItemBoxPane::ItemBoxPane(SlipForm& form, const SupplierPane& supplier, PickListP
   SetUpLines();
   form.Publish("ItemLookup", ItemLookup);
   form.Publish("Label6", Label6);
+  form.Publish("LaRefused", LaRefused);
+  ShowRefused();
   form.Publish("Timer1", Timer1);
   inBox.ToolTipText = "(,) + (찾는문자열) = 품목찾기       (.) + (찾는문자열) = 규격찾기 ";
   inBox.KeyDown = [this](Key key) {
@@ -108,10 +110,17 @@ void ItemBoxPane::SearchItems() {
     ListHits();
     return;
   }
-  Host.MsgBox("선택된 품목이 없습니다.           ", box::Critical, "품목없음");
+  RefuseForWantOfItem();
   inBox.SetText("");
   // Or a transfer would put this item's quantity on the line of another.
   AddAccepted = 0;
+}
+
+void ItemBoxPane::RefuseForWantOfItem() {
+  const std::string code = Trim(inBox.Text());
+  NoteRefused(code, "없음");
+  Host.Beep();
+  Host.MsgBox("선택된 품목이 없습니다.           \r\r[" + code + "]", box::Critical, "품목없음");
 }
 
 void ItemBoxPane::ListHits() {
@@ -157,8 +166,32 @@ void ItemBoxPane::RefuseForPrice() {
   RecalcTotals();
   inBox.SetText("");
   AddAccepted = 0;
+  NoteRefused(ItemText(item::Barcode), "단가없음");
+  if (AddInProgress == 0) Host.Beep();
   Label6.Caption = "본부정책오류: " + ItemText(item::Name) + "의 단가가 정의되지 않았습니다.";
   Timer1.Restart();
+}
+
+void ItemBoxPane::NoteRefused(const std::string& code, const std::string& reason) {
+  refused_.insert(refused_.begin(), code + " " + reason);
+  ShowRefused();
+}
+
+void ItemBoxPane::ForgetRefused() {
+  refused_.clear();
+  ShowRefused();
+}
+
+void ItemBoxPane::ShowRefused() {
+  std::string line;
+  std::string list;
+  for (const std::string& code : refused_) {
+    line += (line.empty() ? "" : ",  ") + code;
+    list += (list.empty() ? "" : "\n") + code;
+  }
+  LaRefused.Visible = !refused_.empty();
+  LaRefused.Caption = "거절 " + std::to_string(refused_.size()) + "건:  " + line;
+  LaRefused.ToolTipText = list;
 }
 
 void ItemBoxPane::AddFromCode(const std::string& productCode) {

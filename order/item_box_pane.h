@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "order/order_type.h"
 #include "order/pick_list_pane.h"
@@ -32,6 +33,7 @@ class ItemBoxPane : public LinesPane {
 
   Button ItemLookup{"품목조회"};  ///< Opens the item lookup, from which an item is entered.
   Label Label6;                   ///< A line of warning that goes away by itself.
+  Label LaRefused;                ///< The codes that this order has refused, the last one first.
   Timer Timer1;
   std::int16_t AddInProgress = 0;  ///< -1 while a routine and not a person feeds `inBox`.
   std::int16_t AddAccepted = 0;    ///< Set to 0 when an item was refused.
@@ -53,6 +55,8 @@ class ItemBoxPane : public LinesPane {
   /// Writes a line of a draft on top: the item of today at the price of today, in that quantity.
   /// False for an item that has left the list or has no price; the line is then not there.
   bool AddDraftLine(const std::string& productCode, const std::string& quantity);
+  /// Another order begins: no code was refused for it.
+  void ForgetRefused();
   /// Takes every line of an item out.
   void TakeOut(const std::string& productCode);
 
@@ -74,13 +78,17 @@ class ItemBoxPane : public LinesPane {
   void AddItemLine();
   void InsertLine(double price);
   bool FitsUnit(double quantity, int row);
+  void RefuseForWantOfItem();
   void RefuseForPrice();
+  void NoteRefused(const std::string& code, const std::string& reason);
+  void ShowRefused();
   void RemoveLinesOf(const std::string& productCode);
 
   SlipForm& form_;
   const SupplierPane& supplier_;
   PickListPane& pickList_;
   const OrderTypeChoices& choices_;
+  std::vector<std::string> refused_;
 };
 
 }  // namespace store

@@ -92,6 +92,7 @@ void OrderForm::PublishControls() {
 void OrderForm::ConnectPanes() {
   SupplierChanged = [this] {
     ClearLines();
+    ForgetRefused();
     inHand_.PutAside();
   };
   LinesChanged = [this] { NoteDraft(); };
@@ -164,6 +165,7 @@ void OrderForm::Activate() {
 }
 
 void OrderForm::ResetOrderForm() {
+  ForgetRefused();
   FLEX1.SetRows(1);
   Text1.SetText("");
   Text1.Tag.clear();

@@ -1,5 +1,8 @@
 #include "order/pick_list_pane.h"
 
+#include "basics/numbers.h"
+#include "basics/text.h"
+#include "forms/host.h"
 #include "gateway/gateway.h"
 
 namespace store {
@@ -45,7 +48,13 @@ void PickListPane::FLEX2_RowColChange() {
                       FLEX2.TextMatrix(row, pick::Standard);
 }
 
-void PickListPane::FLEX2_AfterEdit(int /*row*/, int /*col*/) {
+void PickListPane::FLEX2_AfterEdit(int editedRow, int editedColumn) {
+  const std::string& typed = FLEX2.TextMatrix(editedRow, editedColumn);
+  if (!Trim(typed).empty() && !IsNumeric(typed)) {
+    Host.Beep();
+    FLEX2.SetTextMatrix(editedRow, editedColumn, "");
+    return;
+  }
   const int row = FLEX2.Row();
   const std::string code = FLEX2.TextMatrix(row, pick::Code);
   switch (choices_.JudgeEntry(FLEX2, row)) {

@@ -16,6 +16,7 @@ LinesPane::LinesPane(Form& form, const LineGridColumns& columns, BoxKeys keys)
   form.Publish("inBox", inBox);
   form.Publish("FLEX1", FLEX1);
   form.Publish("LaAmt", LaAmt);
+  inBox.Scanned = true;
   inBox.OwnKeys = {Key::Enter, Key::Up, Key::Down};
   FLEX1.KeyPress = [this](const std::string& character) { FLEX1_KeyPress(character); };
 }

@@ -113,6 +113,9 @@ void frmLogin::cmdOK_Click() {
   if (AtEof(SlotA)) {
     TellUnknownUser();
     SetFocus(txtUserName);
+    // Or what is typed next would be added to the wrong name.
+    txtUserName.SelectAll();
+    txtPassword.SelectAll();
     return;
   }
   TakeUser();

@@ -46,6 +46,7 @@ class PressBinding : public Binding {
 
  private:
   void FollowValue() override {
+    if (!control_.Click) button_.setEnabled(false);  // it does nothing, and looks it
     if (seen_.Differs(control_.Caption) && !control_.Caption.empty()) {
       button_.setText(ToQt(control_.Caption));
     }

@@ -5,6 +5,7 @@
 #include <QDateEdit>
 #include <QEventLoop>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QPointer>
 #include <QTimer>
 #include <algorithm>
@@ -80,6 +81,7 @@ void Desk::FreeClosed() {
   if (ending_) {
     QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection);
   }
+  if (!typedLater_.isEmpty()) QTimer::singleShot(0, this, [this] { TypeNext(); });
   if (leaving_.empty()) {
     ReleaseDroppedForms();
     return;
@@ -202,6 +204,45 @@ void Desk::FocusMoved(QWidget* from, QWidget* to) {
   }
 }
 
+void Desk::TypeLater(QLineEdit& field, const QString& text) {
+  if (typedInto_ != &field) typedLater_.clear();
+  typedInto_ = &field;
+  typedLater_ += text;
+}
+
+/// A text up to its Enter at a time: that may bring up the next box, whose keys come behind what is
+/// still to be typed.
+void Desk::TypeNext() {
+  if (depth_ > 0 || boxes_ > 0) return;  // the event that runs now calls again at its end
+  if (typedInto_ == nullptr || !typedInto_->isEnabled() || !typedInto_->isVisible()) {
+    typedLater_.clear();
+    return;
+  }
+  const RunningEvent running(*this);
+  const qsizetype end = typedLater_.indexOf('\r');
+  const QString text = typedLater_.left(end);
+  typedLater_.remove(0, end < 0 ? typedLater_.size() : end + 1);
+  typedInto_->setFocus();
+  QKeyEvent typing(QEvent::KeyPress, Qt::Key_unknown, Qt::NoModifier, text);
+  QCoreApplication::sendEvent(typedInto_, &typing);
+  if (end < 0 || typedInto_ == nullptr) return;
+  QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+  QCoreApplication::sendEvent(typedInto_, &enter);
+}
+
+bool Desk::TypesBehind(const QWidget& widget, const QKeyEvent& key) {
+  if (typedLater_.isEmpty() || &widget != typedInto_ || !key.spontaneous()) return false;
+  const bool isEnter = key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
+  if (isEnter) {
+    typedLater_ += '\r';
+  } else if (!key.text().isEmpty() && key.text().front().isPrint()) {
+    typedLater_ += key.text();
+  } else {
+    return false;
+  }
+  return true;
+}
+
 bool Desk::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::Wheel) {
     // Scrolling past a choice must not change it.
@@ -214,6 +255,7 @@ bool Desk::eventFilter(QObject* watched, QEvent* event) {
   auto* widget = static_cast<QWidget*>(watched);
   auto* window = dynamic_cast<FormWindow*>(widget->window());
   if (window == nullptr) return false;
+  if (TypesBehind(*widget, static_cast<const QKeyEvent&>(*event))) return true;
   // The event is offered to the widget with the keyboard first and then to those around it.
   const QWidget* first = window->focusWidget() != nullptr ? window->focusWidget() : window;
   if (widget != first) return false;

@@ -1,11 +1,15 @@
 #pragma once
 
 #include <QObject>
+#include <QPointer>
+#include <QString>
 #include <functional>
 #include <vector>
 
 #include "forms/form.h"
 
+class QKeyEvent;
+class QLineEdit;
 class QWidget;
 
 namespace store {
@@ -57,6 +61,10 @@ class Desk : public QObject {
   void BoxClosed() { --boxes_; }
   bool BoxIsOpen() const { return boxes_ > 0; }
 
+  /// Types a text into a field once no event runs and no box stands, "\r" being Enter. What a
+  /// person types into the field until then comes after it.
+  void TypeLater(QLineEdit& field, const QString& text);
+
   /// Takes all windows away without asking anybody; for the end of the program.
   void Clear();
 
@@ -69,10 +77,14 @@ class Desk : public QObject {
   void FreeClosed();
   void DeleteLeaving();
   void FocusMoved(QWidget* from, QWidget* to);
+  bool TypesBehind(const QWidget& widget, const QKeyEvent& key);
+  void TypeNext();
 
   std::vector<FormWindow*> open_;
   std::vector<FormWindow*> leaving_;  // closed, but a handler of theirs may still be running
   std::vector<std::function<void()>> afterPainting_;
+  QPointer<QLineEdit> typedInto_;
+  QString typedLater_;
   int painting_ = 0;
   int depth_ = 0;
   int boxes_ = 0;

@@ -5,7 +5,8 @@
 namespace store {
 
 /// A label that never asks for more width than there is: it cuts its text at the end and shows the
-/// whole of it as a tool tip.
+/// whole of it as a tool tip. What is selected of it can be copied, and without a selection all of
+/// it.
 class ElidedLabel : public QLabel {
  public:
   ElidedLabel();
@@ -14,6 +15,7 @@ class ElidedLabel : public QLabel {
 
  protected:
   void paintEvent(QPaintEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
   bool event(QEvent* event) override;
 
  private:

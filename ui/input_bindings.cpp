@@ -12,12 +12,16 @@
 #include "ui/desk.h"
 #include "ui/form_window.h"
 #include "ui/qt_text.h"
+#include "ui/scan_catcher.h"
 #include "ui/style.h"
 
 namespace store {
 namespace {
 
 const QString kDateForm = QStringLiteral("yyyy-MM-dd");
+
+/// The wheel must not give a choice the keyboard on its way over it: with that it would change it.
+void LeaveFocusToClicks(QWidget& choice) { choice.setFocusPolicy(Qt::StrongFocus); }
 
 /// The form is told every committed text; what an input method is still putting together is not
 /// part of the text yet.
@@ -26,6 +30,7 @@ class TextBinding : public Binding {
   TextBinding(FormWindow& window, TextBox& box, QLineEdit& edit)
       : Binding(box, edit), box_(box), edit_(edit), selectionSeen_(box.SelectionRevision()) {
     if (box.MaxLength > 0) edit.setMaxLength(box.MaxLength);
+    edit.setProperty(kScannedProperty, box.Scanned);
     if (box.Masked) edit.setEchoMode(QLineEdit::Password);
     QObject::connect(&edit, &QLineEdit::textEdited, &window, [this](const QString& text) {
       const std::string typed = FromQt(text);
@@ -77,6 +82,7 @@ class ComboBinding : public Binding {
  public:
   ComboBinding(FormWindow& window, ComboBox& combo, QComboBox& list)
       : Binding(combo, list), combo_(combo), list_(list) {
+    LeaveFocusToClicks(list);
     QObject::connect(&list, &QComboBox::activated, &window,
                      [&combo](int index) { Dispatch([&] { combo.SetListIndex(index); }); });
   }
@@ -98,6 +104,7 @@ class DateBinding : public Binding {
  public:
   DateBinding(FormWindow& window, DatePicker& picker, QDateEdit& edit)
       : Binding(picker, edit), picker_(picker), edit_(edit) {
+    LeaveFocusToClicks(edit);
     edit.setDisplayFormat(kDateForm);
     edit.setCalendarPopup(true);
     // The earliest date stands for a text that is no date, and shows as a blank.

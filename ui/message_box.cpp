@@ -8,6 +8,7 @@
 #include "forms/host.h"
 #include "ui/desk.h"
 #include "ui/qt_text.h"
+#include "ui/scan_catcher.h"
 #include "ui/style.h"
 
 namespace store {
@@ -72,6 +73,7 @@ int ShowMessage(const std::string& text, int style, const std::string& title) {
   Desk& desk = TheDesk();
   desk.SyncWindows();
   QWidget* behind = desk.FrontWindow();
+  QWidget* field = behind == nullptr ? nullptr : behind->focusWidget();
   QMessageBox message(behind);
   message.setWindowModality(Qt::ApplicationModal);
   message.setWindowTitle(ToQt(title.empty() ? Host.ProgramTitle : title));
@@ -85,10 +87,12 @@ int ShowMessage(const std::string& text, int style, const std::string& title) {
     message.setEscapeButton(buttons[i]);
   }
   message.setDefaultButton(buttons[0]);
+  ScanCatcher scans(message, buttons[1] != nullptr, field);
   desk.BoxOpened();
   message.exec();
   if (behind != nullptr) behind->activateWindow();
   desk.BoxClosed();
+  scans.HandOver();
   return message.clickedButton() == buttons[1] ? choices[1].Answer : choices[0].Answer;
 }
 

@@ -110,6 +110,9 @@ QWidget* OrderWindow::ItemBox() {
   row->addWidget(
       Named("ItemLookup", new KeyButton("품목조회", QKeySequence(Qt::CTRL | Qt::Key_I))));
   row->addWidget(warning, 4);
+  auto* refused = Named("LaRefused", new ElidedLabel);
+  refused->setProperty("role", "warning");
+  row->addWidget(refused, 4);
   auto* line = new QWidget;
   line->setLayout(row);
   return line;
