@@ -21,7 +21,10 @@ TEST_F(OrderDesk, APickListEntryBecomesTheTopLineWithItsQuantity) {
   EXPECT_EQ(Lines(), "P0005x999999 ");
   Pick(form, 1, "3");
   Pick(form, 2, "0");
+  const int beeps = host.Beeps;
   Pick(form, 2, "abc");
+  EXPECT_EQ(host.Beeps, beeps + 1);
+  EXPECT_EQ(form.FLEX2.TextMatrix(2, 8), "");
   EXPECT_EQ(Lines(), "P0002x3 P0005x999999 ");
   host.ExpectBox("999,999개 이상 발주할 수 없습니다.     ");
   Pick(form, 2, "1000000");

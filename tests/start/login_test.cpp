@@ -49,6 +49,7 @@ TEST_F(Login, ChecksTwoAttemptsAndEndsAtTheThird) {
     Press("u01", password);
     EXPECT_FALSE(form.IsClosed());
     EXPECT_EQ(form.ActiveControl, &form.txtUserName);
+    EXPECT_EQ(form.txtUserName.WantedSelection(), TextBox::Selection::All);
     EXPECT_EQ(host.Boxes.back().Title, "에러");
   }
   EXPECT_FALSE(host.Ended);

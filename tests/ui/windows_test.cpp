@@ -27,6 +27,7 @@
 #include "tests/ui/probe_form.h"
 #include "ui/desk.h"
 #include "ui/history_chart_view.h"
+#include "ui/key_button.h"
 #include "ui/store_windows.h"
 #include "ui/style.h"
 #include "ui/window_registry.h"
@@ -68,6 +69,17 @@ TEST_F(WindowsTest, EveryControlThatAFormPublishesHasItsWidget) {
     const std::unique_ptr<FormWindow> window(MakeWindow(*form));
     ASSERT_NE(window, nullptr) << form->Name;
     EXPECT_EQ(window->ControlsWithoutWidget(), std::vector<std::string>()) << form->Name;
+  }
+}
+
+TEST_F(WindowsTest, AButtonWithNothingBehindItLooksIt) {
+  HELP_CT partners;
+  HELP_BPR products;
+  for (const auto& [form, works] : {std::pair<Form*, bool>(&partners, false), {&products, true}}) {
+    const std::unique_ptr<FormWindow> window(MakeWindow(*form));
+    window->Sync();
+    EXPECT_EQ(Find<KeyButton>(*window, "Command2").isEnabled(), works) << form->Name;
+    EXPECT_TRUE(Find<KeyButton>(*window, "Command1").isEnabled()) << form->Name;
   }
 }
 
