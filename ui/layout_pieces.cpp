@@ -54,7 +54,7 @@ QFrame* Group(const QString& role, QLayout* content) {
   return frame;
 }
 
-QWidget* Titled(QLabel* heading, QWidget* content) {
+QWidget* Titled(QWidget* heading, QWidget* content) {
   auto* column = Column();
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(2);

@@ -27,7 +27,7 @@ void AddTotals(QHBoxLayout& row, const std::array<const char*, 4>& captions);
 QFrame* Group(const QString& role, QLayout* content);
 
 /// A heading above its content.
-QWidget* Titled(QLabel* heading, QWidget* content);
+QWidget* Titled(QWidget* heading, QWidget* content);
 
 /// Rows and columns with the spacing of all windows.
 QHBoxLayout* Row();

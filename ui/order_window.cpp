@@ -110,17 +110,22 @@ QWidget* OrderWindow::ItemBox() {
   row->addWidget(
       Named("ItemLookup", new KeyButton("품목조회", QKeySequence(Qt::CTRL | Qt::Key_I))));
   row->addWidget(warning, 4);
-  auto* refused = Named("LaRefused", new ElidedLabel);
-  refused->setProperty("role", "warning");
-  row->addWidget(refused, 4);
   auto* line = new QWidget;
   line->setLayout(row);
   return line;
 }
 
 QWidget* OrderWindow::Lines() {
-  return Titled(HeadingLabel("발주 내역   (Del 행 삭제)"),
-                Named("FLEX1", new GridView(order_.FLEX1, kTwoLines)));
+  auto* refused = Named("LaRefused", new ElidedLabel);
+  refused->setProperty("role", "warning");
+  refused->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  auto* heading = Row();
+  heading->setContentsMargins(0, 0, 0, 0);
+  heading->addWidget(HeadingLabel("발주 내역   (Del 행 삭제)"));
+  heading->addWidget(refused, 1);
+  auto* top = new QWidget;
+  top->setLayout(heading);
+  return Titled(top, Named("FLEX1", new GridView(order_.FLEX1, kTwoLines)));
 }
 
 QWidget* OrderWindow::PickList() {
