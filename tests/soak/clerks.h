@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "tests/soak/day_log.h"
+#include "tests/soak/findings.h"
 
 namespace store {
 
@@ -14,7 +15,8 @@ namespace store {
 class Clerks {
  public:
   /// `program` is soak_clerk; each terminal has a folder of its own under `folder`.
-  Clerks(std::string program, const std::string& folder, int serverPort, int stores, unsigned seed);
+  Clerks(std::string program, const std::string& folder, int serverPort, int stores, unsigned seed,
+         Findings& findings);
   ~Clerks();
   Clerks(const Clerks&) = delete;
   Clerks& operator=(const Clerks&) = delete;
@@ -28,7 +30,7 @@ class Clerks {
   };
   std::vector<Clerk>& All() { return clerks_; }
 
-  /// Starts those that are not running. Ends the program when one ended as none may.
+  /// Starts those that are not running. One that ended as none may is a finding.
   void KeepWorking();
   /// Kills one of them, as `random` draws.
   void KillOne(std::mt19937& random);
@@ -37,12 +39,13 @@ class Clerks {
 
  private:
   void Start(Clerk& clerk);
-  void Ended(Clerk& clerk, int status) const;
+  void Ended(Clerk& clerk, int status);
 
   const std::string program_;
   const int serverPort_;
   const int stores_;
   const unsigned seed_;
+  Findings& findings_;
   std::vector<Clerk> clerks_;
 };
 

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <charconv>
 #include <chrono>
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -43,6 +44,10 @@ constexpr auto kRound = std::chrono::milliseconds(200);
 /// A batch whose client was cut off may still be running at the server for so long.
 constexpr auto kSettling = std::chrono::seconds(6);
 
+volatile std::sig_atomic_t interrupted = 0;
+
+void Interrupt(int /*signal*/) { interrupted = 1; }
+
 class Days {
  public:
   Days(const Options& options, const std::string& program)
@@ -54,8 +59,8 @@ class Days {
     db_ = std::make_unique<DbClient>(server_.Port());
     FillFranchise(*db_, options.Stores);
     folder_ = options.Logs.empty() ? server_.Folder() + "/clerks" : options.Logs;
-    clerks_ =
-        std::make_unique<Clerks>(program, folder_, server_.Port(), options.Stores, options.Seed);
+    clerks_ = std::make_unique<Clerks>(program, folder_, server_.Port(), options.Stores,
+                                       options.Seed, findings_);
   }
 
   int Run() {
@@ -63,7 +68,7 @@ class Days {
     const auto end = begin + std::chrono::seconds(options_.Seconds);
     auto minute = begin + std::chrono::minutes(1);
     auto power = begin + NextPowerCut();
-    while (steady_clock::now() < end) {
+    while (steady_clock::now() < end && interrupted == 0) {
       clerks_->KeepWorking();
       for (int store = 0; store < options_.Stores; ++store) {
         MoveOrders(*db_, StoreCodeOf(store), 1 + static_cast<int>(random_() % 4));
@@ -223,8 +228,8 @@ class Days {
   std::mt19937 random_;
   std::string folder_;
   std::unique_ptr<DbClient> db_;
-  std::unique_ptr<Clerks> clerks_;
   Findings findings_;
+  std::unique_ptr<Clerks> clerks_;
   DayBook book_;
   OrderLedger ledger_{book_, findings_};
   PassLedger passLedger_{book_, findings_};
@@ -276,7 +281,12 @@ int main(int argc, char** argv) {
         "usage: soak_days [--minutes M | --seconds S] [--seed N] [--stores N] [--logs DIR]\n");
     return 2;
   }
+  // An interrupted run closes the stores, looks at everything, and leaves no server behind.
+  std::signal(SIGINT, store::Interrupt);
+  std::signal(SIGTERM, store::Interrupt);
   const std::string program =
       std::filesystem::read_symlink("/proc/self/exe").parent_path() / "soak_clerk";
-  return store::Days(options, program).Run();
+  // Static, so that its server goes with it also where something ends the program.
+  static store::Days days(options, program);
+  return days.Run();
 }
