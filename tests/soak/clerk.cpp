@@ -97,7 +97,7 @@ Clerk::Clerk(const ClerkPlace& place)
       numbers_(NumbersOf(place)),
       log_(place.Folder + "/log"),
       host_(place.Folder),
-      proxy_(place.ServerPort,
+      proxy_(place.ServerPorts,
              [this](Fault fault) {
                log_.Line({entry::Fault, FaultName(fault)});
              }),

@@ -21,10 +21,10 @@ constexpr auto kPatience = std::chrono::seconds(20);
 
 }  // namespace
 
-Clerks::Clerks(std::string program, const std::string& folder, int serverPort, int stores,
+Clerks::Clerks(std::string program, const std::string& folder, std::vector<int> ports, int stores,
                unsigned seed, Findings& findings)
     : program_(std::move(program)),
-      serverPort_(serverPort),
+      ports_(std::move(ports)),
       stores_(stores),
       seed_(seed),
       findings_(findings) {
@@ -45,8 +45,17 @@ Clerks::~Clerks() {
   }
 }
 
+std::string Clerks::PortsOf(const Clerk& clerk) const {
+  std::string ports;
+  for (size_t i = 0; i < ports_.size(); ++i) {
+    const size_t turn = static_cast<size_t>(clerk.Store + clerk.Terminal) + i;
+    ports += (i == 0 ? "" : ",") + std::to_string(ports_[turn % ports_.size()]);
+  }
+  return ports;
+}
+
 void Clerks::Start(Clerk& clerk) {
-  const std::string numbers[] = {std::to_string(serverPort_), std::to_string(clerk.Store),
+  const std::string numbers[] = {PortsOf(clerk), std::to_string(clerk.Store),
                                  std::to_string(clerk.Terminal), std::to_string(stores_),
                                  std::to_string(seed_)};
   clerk.Pid = fork();

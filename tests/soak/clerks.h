@@ -14,9 +14,10 @@ namespace store {
 /// The clerks' processes: started, watched, killed and started again.
 class Clerks {
  public:
-  /// `program` is soak_clerk; each terminal has a folder of its own under `folder`.
-  Clerks(std::string program, const std::string& folder, int serverPort, int stores, unsigned seed,
-         Findings& findings);
+  /// `program` is soak_clerk; each terminal has a folder of its own under `folder`,
+  /// and the servers at `ports` take turns as the one that it goes to first.
+  Clerks(std::string program, const std::string& folder, std::vector<int> ports, int stores,
+         unsigned seed, Findings& findings);
   ~Clerks();
   Clerks(const Clerks&) = delete;
   Clerks& operator=(const Clerks&) = delete;
@@ -42,7 +43,9 @@ class Clerks {
   void Ended(Clerk& clerk, int status);
 
   const std::string program_;
-  const int serverPort_;
+  std::string PortsOf(const Clerk& clerk) const;
+
+  const std::vector<int> ports_;
   const int stores_;
   const unsigned seed_;
   Findings& findings_;

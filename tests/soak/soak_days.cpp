@@ -17,7 +17,6 @@
 #include <string_view>
 #include <thread>
 
-#include "private_db/private_db_server.h"
 #include "tests/soak/clerks.h"
 #include "tests/soak/day_book.h"
 #include "tests/soak/db_client.h"
@@ -25,6 +24,7 @@
 #include "tests/soak/franchise.h"
 #include "tests/soak/order_ledger.h"
 #include "tests/soak/pass_ledger.h"
+#include "tests/soak/site.h"
 #include "tests/soak/soak_database.h"
 #include "tests/soak/store_rules.h"
 
@@ -37,12 +37,15 @@ struct Options {
   int Seconds = 30 * 60;
   unsigned Seed = 1;
   int Stores = 12;
+  bool Cluster = false;
   std::string Logs;  // where the clerks' logs are kept
 };
 
 constexpr auto kRound = std::chrono::milliseconds(200);
 /// A batch whose client was cut off may still be running at the server for so long.
-constexpr auto kSettling = std::chrono::seconds(6);
+constexpr auto kSettlingAlone = std::chrono::seconds(8);
+constexpr auto kSettlingOfCluster = std::chrono::seconds(25);
+constexpr int kNodes = 3;
 
 volatile std::sig_atomic_t interrupted = 0;
 
@@ -52,14 +55,14 @@ class Days {
  public:
   Days(const Options& options, const std::string& program)
       : options_(options),
-        server_("store_soak", "", Fail, "--innodb-lock-wait-timeout=2 --max-connections=300"),
+        site_(options.Cluster ? kNodes : 1, Fail),
+        settling_(options.Cluster ? kSettlingOfCluster : kSettlingAlone),
         random_(options.Seed) {
-    server_.Start();
-    server_.MakeSchema(kCompany);
-    db_ = std::make_unique<DbClient>(server_.Port());
+    site_.Start(kCompany);
+    db_ = std::make_unique<DbClient>(site_.Ports());
     FillFranchise(*db_, options.Stores);
-    folder_ = options.Logs.empty() ? server_.Folder() + "/clerks" : options.Logs;
-    clerks_ = std::make_unique<Clerks>(program, folder_, server_.Port(), options.Stores,
+    folder_ = options.Logs.empty() ? site_.Folder() + "/clerks" : options.Logs;
+    clerks_ = std::make_unique<Clerks>(program, folder_, site_.Ports(), options.Stores,
                                        options.Seed, findings_);
   }
 
@@ -79,7 +82,7 @@ class Days {
         ++driverFaults_["client killed at any time"];
       }
       if (steady_clock::now() > power) {
-        CutPower();
+        site_.Strike(random_, driverFaults_);
         power = steady_clock::now() + NextPowerCut();
       }
       if (steady_clock::now() > minute) {
@@ -88,8 +91,9 @@ class Days {
       }
       std::this_thread::sleep_for(kRound);
     }
+    site_.AwaitEverybody();
     clerks_->SendHome();
-    std::this_thread::sleep_for(kSettling);
+    std::this_thread::sleep_for(settling_);
     return Finish(begin);
   }
 
@@ -103,12 +107,6 @@ class Days {
     const int mean = options_.Seconds < 120 ? 10'000 : 45'000;
     return std::chrono::milliseconds(mean / 2 +
                                      static_cast<int>(random_() % static_cast<unsigned>(mean)));
-  }
-
-  void CutPower() {
-    server_.Kill();
-    server_.Start();
-    ++driverFaults_["server killed"];
   }
 
   void ReadLogs() {
@@ -129,11 +127,11 @@ class Days {
       if (work->Verdict == Work::Known::Stored) {
         told_.push_back(work);
       } else {
-        settling_.push_back({now + kSettling, work});
+        open_.push_back({now + settling_, work});
       }
     }
     for (PassPress& press : book_.TakePasses())
-      passes_.push_back({now + kSettling, std::move(press)});
+      passes_.push_back({now + settling_, std::move(press)});
     ledger_.ReadSteps(*db_, [this] { ReadLogs(); });
     JudgeWhatIsDue(now);
     CheckStore(*db_, StoreCodeOf(nextStore_), findings_);
@@ -141,9 +139,9 @@ class Days {
   }
 
   void JudgeWhatIsDue(steady_clock::time_point now) {
-    while (!settling_.empty() && settling_.front().first <= now) {
-      told_.push_back(settling_.front().second);
-      settling_.pop_front();
+    while (!open_.empty() && open_.front().first <= now) {
+      told_.push_back(open_.front().second);
+      open_.pop_front();
     }
     ledger_.Judge(*db_, told_);
     told_.clear();
@@ -158,7 +156,7 @@ class Days {
   int Finish(steady_clock::time_point begin) {
     book_.CloseEverything();
     Look();
-    JudgeWhatIsDue(steady_clock::now() + kSettling);
+    JudgeWhatIsDue(steady_clock::now() + settling_);
     ledger_.JudgeCounts();
     JudgeProgress();
     passLedger_.JudgeRows(*db_);
@@ -169,14 +167,18 @@ class Days {
     PrintCounts();
     if (findings_.Empty()) return EXIT_SUCCESS;
     findings_.Print();
-    std::printf("repeat it with --seed %u; what the clerks wrote down stands in %s\n",
-                options_.Seed, KeepLogs().c_str());
+    std::printf("repeat it with --seed %u; what the clerks wrote down and the data stand in %s\n",
+                options_.Seed, KeepFacts().c_str());
     return EXIT_FAILURE;
   }
 
-  std::string KeepLogs() const {
+  std::string KeepFacts() const {
+    const std::string dump = "mariadb-dump --no-defaults -h 127.0.0.1 -P " +
+                             std::to_string(site_.Ports().front()) + " -u kt -pqz4471 " + kCompany +
+                             " >'" + folder_ + "/data.sql'";
+    if (std::system(dump.c_str()) != 0) std::printf("the data could not be kept\n");
     if (!options_.Logs.empty()) return options_.Logs;
-    const std::string kept = server_.Folder() + "_logs";
+    const std::string kept = site_.Folder() + "_logs";
     std::error_code failed;
     std::filesystem::rename(folder_, kept, failed);
     return failed ? folder_ : kept;
@@ -224,17 +226,18 @@ class Days {
   }
 
   const Options options_;
-  PrivateDbServer server_;
+  Site site_;
+  const std::chrono::seconds settling_;
   std::mt19937 random_;
   std::string folder_;
   std::unique_ptr<DbClient> db_;
   Findings findings_;
   std::unique_ptr<Clerks> clerks_;
   DayBook book_;
-  OrderLedger ledger_{book_, findings_};
+  OrderLedger ledger_{book_, findings_, settling_};
   PassLedger passLedger_{book_, findings_};
   std::vector<Work*> told_;
-  std::deque<std::pair<steady_clock::time_point, Work*>> settling_;
+  std::deque<std::pair<steady_clock::time_point, Work*>> open_;
   std::deque<std::pair<steady_clock::time_point, PassPress>> passes_;
   std::map<std::string, long> driverFaults_;
   int nextStore_ = 0;
@@ -247,8 +250,15 @@ bool TakeNumber(const char* text, Number& number) {
 }
 
 bool ParseArguments(int argc, char** argv, Options& options) {
-  for (int i = 1; i + 1 < argc; i += 2) {
+  int i = 1;
+  for (; i < argc; i += 2) {
     const std::string_view option = argv[i];
+    if (option == "--cluster") {
+      options.Cluster = true;
+      --i;
+      continue;
+    }
+    if (i + 1 == argc) return false;
     int minutes = 0;
     bool taken = false;
     if (option == "--minutes") {
@@ -267,7 +277,7 @@ bool ParseArguments(int argc, char** argv, Options& options) {
     }
     if (!taken) return false;
   }
-  return argc % 2 == 1;
+  return true;
 }
 
 }  // namespace
@@ -276,9 +286,9 @@ bool ParseArguments(int argc, char** argv, Options& options) {
 int main(int argc, char** argv) {
   store::Options options;
   if (!store::ParseArguments(argc, argv, options)) {
-    std::fprintf(
-        stderr,
-        "usage: soak_days [--minutes M | --seconds S] [--seed N] [--stores N] [--logs DIR]\n");
+    std::fprintf(stderr,
+                 "usage: soak_days [--cluster] [--minutes M | --seconds S] [--seed N] [--stores N] "
+                 "[--logs DIR]\n");
     return 2;
   }
   // An interrupted run closes the stores, looks at everything, and leaves no server behind.
