@@ -154,6 +154,7 @@ class Days {
   }
 
   int Finish(steady_clock::time_point begin) {
+    ReadLogs();
     book_.CloseEverything();
     Look();
     JudgeWhatIsDue(steady_clock::now() + settling_);
