@@ -22,6 +22,7 @@
 #include "tests/soak/db_client.h"
 #include "tests/soak/findings.h"
 #include "tests/soak/franchise.h"
+#include "tests/soak/node_check.h"
 #include "tests/soak/order_ledger.h"
 #include "tests/soak/pass_ledger.h"
 #include "tests/soak/site.h"
@@ -164,6 +165,7 @@ class Days {
     for (int store = 0; store < options_.Stores; ++store) {
       CheckStore(*db_, StoreCodeOf(store), findings_);
     }
+    if (site_.IsCluster()) CheckNodesAgree(site_.Ports(), findings_);
     PrintMinute(begin);
     PrintCounts();
     if (findings_.Empty()) return EXIT_SUCCESS;
@@ -224,6 +226,9 @@ class Days {
     print("told", book_.Verdicts);
     print("faults at terminals", book_.Faults);
     print("others", driverFaults_);
+    if (!site_.IsCluster()) return;
+    std::printf("undone by the cluster since each node's last start: %s\n",
+                UndoneByCluster(site_.Ports()).c_str());
   }
 
   const Options options_;
