@@ -105,7 +105,7 @@ class Days {
   }
 
   std::chrono::milliseconds NextPowerCut() {
-    const int mean = options_.Seconds < 120 ? 10'000 : 45'000;
+    const int mean = options_.Cluster || options_.Seconds < 120 ? 15'000 : 45'000;
     return std::chrono::milliseconds(mean / 2 +
                                      static_cast<int>(random_() % static_cast<unsigned>(mean)));
   }
