@@ -16,11 +16,14 @@ std::string StockCountStatement(const LineFields& fields, const std::string& sto
       fields, "store"_a = store);
 }
 
+/// This update and that of the balance raise one row at most: two others who post at once may both
+/// have made one since the rows were counted, and each further row raised would count this posting
+/// once more.
 std::string StockUpdateStatement(const LineFields& fields, const std::string& store,
                                  const std::string& column) {
   return Splice(
       "UPDATE IV SET {column} = {column} + {L8} WHERE  RCT_CODE='{store}' AND HCT_CODE='{L17}' AND "
-      "PR_CODE='{L3}'",
+      "PR_CODE='{L3}' LIMIT 1",
       fields, "store"_a = store, "column"_a = column);
 }
 
@@ -44,7 +47,7 @@ std::string BalanceUpdateStatement(const HeadFields& fields, const std::string& 
                                    const std::string& month, const std::string& column) {
   return Splice(
       " update CMM set {column} = {column} + {H10} where  CM_FCTCODE='{H4}' and CM_TCTCODE='{H6}' "
-      "and CM_MGU='{kind}' and CM_MM='{month}' ",
+      "and CM_MGU='{kind}' and CM_MM='{month}' LIMIT 1",
       fields, "kind"_a = kind, "month"_a = month, "column"_a = column);
 }
 

@@ -13,15 +13,16 @@ std::map<std::string, StoredOnce> Work;
 }  // namespace
 
 std::optional<Fate> StoredOnce::FateOfEarlier(const std::string& content) {
+  std::optional<Fate> fate;
   for (const Try& lost : lost_) {
     const RecordsetSlot found = FetchRecordset(lost.Trace);
     if (!found) return Fate::Unknown;
     if (found->Eof()) continue;
-    const Fate fate = lost.Content == content ? Fate::Stored : Fate::StoredOther;
-    lost_.clear();
-    return fate;
+    fate = lost.Content == content ? Fate::Stored : Fate::StoredOther;
+    if (fate == Fate::Stored) break;
   }
-  return std::nullopt;
+  if (fate) lost_.clear();
+  return fate;
 }
 
 Fate StoredOnce::Send(const std::function<bool()>& post, const Try& current) {

@@ -135,6 +135,22 @@ TEST_F(BatchOnce, OneRowTakenOffBetweenTwoTriesIsToldApart) {
   ResetGateway();
 }
 
+TEST_F(BatchOnce, ALostReplyIsNotTakenForThatOfEarlierRows) {
+  CuttingProxy line(TestServer().Port());
+  StageAndOpen("23");
+  BuildConnectString(PrivateDbServer::ServerOption(line.Port()), "kt", "small");
+  line.CutNextBatch(Cut::After, true);
+  Press(kUnknown);
+  line.Return();
+  Batch().Close();
+  Stage({"r3", "*", "P0001", "1", "100", "1002", "왕십리점"}, "23");
+  Open("23");
+  line.CutNextBatch(Cut::After);
+  Press(kStored);
+  EXPECT_EQ(Left(), "");
+  ResetGateway();
+}
+
 TEST_F(BatchOnce, OfTwoStoresTheOneWhoseReplyIsLostIsTold) {
   CuttingProxy line(TestServer().Port());
   StageAndOpen("14");

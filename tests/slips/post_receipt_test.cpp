@@ -96,6 +96,17 @@ TEST_F(PostReceiptTest, AddsAFurtherRowWhereStockHasNoSingleRow) {
   EXPECT_EQ(Stock("P0003"), "0/4/0,0/5/0,0/30/0");
 }
 
+TEST_F(PostReceiptTest, CountsOnceWhereOthersHaveMadeFurtherRowsMeanwhile) {
+  Sql("CREATE TRIGGER OTHERS AFTER INSERT ON PEM23 FOR EACH ROW BEGIN "
+      "INSERT INTO IV (RCT_CODE,HCT_CODE,PR_CODE) VALUES ('1001','100101','P0001'); "
+      "INSERT INTO CMM (CM_FCTCODE,CM_TCTCODE,CM_MGU,CM_MM) VALUES "
+      "('1001','C0001','C','202405'); END");
+  EXPECT_EQ(Post(ReceiptHead(), {ReceiptLine("1", "P0001", "18")}), -1);
+  Sql("DROP TRIGGER OTHERS");
+  EXPECT_EQ(Value("SELECT SUM(INQTY)+0e0 FROM IV WHERE PR_CODE='P0001'"), "28");
+  EXPECT_EQ(Value("SELECT SUM(CM_M23)+0e0 FROM CMM WHERE CM_MM='202405'"), "29680");
+}
+
 TEST_F(PostReceiptTest, HoldsEachCountAgainstItsOwnLine) {
   // Of 40 products each third has one row, each fifth two.
   std::vector<std::vector<std::string>> lines;
