@@ -10,6 +10,8 @@
 namespace store {
 namespace {
 
+constexpr int kAttempts = 4;
+
 /// What the header table decides.
 struct Direction {
   std::string lines;
@@ -51,6 +53,20 @@ std::string TraceStatement(const HeadFields& head, const std::string& table,
       head, "table"_a = table, "lines"_a = lines, "count"_a = std::to_string(count));
 }
 
+void BuildReceipt(const HeadArray& headValues, const StringTable& lineValues,
+                  const std::string& table, const std::string& guard) {
+  const Direction direction = DirectionOf(table);
+  const HeadFields head(headValues, head::Supply, head::Discount);
+  StartBatch();
+  if (!guard.empty()) AddToBatch(guard);
+  AddToBatch(HeaderStatement(head, table));
+  AddToBatch(CloseOrderStatement(head));
+  AddPostedLines(lineValues, direction.lines, line::TerminalId);
+  if (ParseNumber(headValues[head::State]) != 0) {
+    AddMovement(head, LinesOf(lineValues), direction.movement);
+  }
+}
+
 }  // namespace
 
 std::string ReceiptTrace(const HeadArray& headValues, const StringTable& lineValues,
@@ -62,17 +78,11 @@ std::string ReceiptTrace(const HeadArray& headValues, const StringTable& lineVal
 std::int16_t PostReceipt(const HeadArray& headValues, const StringTable& lineValues,
                          const std::string& table, const std::string& guard) {
   const Hourglass waiting;
-  const Direction direction = DirectionOf(table);
-  const HeadFields head(headValues, head::Supply, head::Discount);
-  StartBatch();
-  if (!guard.empty()) AddToBatch(guard);
-  AddToBatch(HeaderStatement(head, table));
-  AddToBatch(CloseOrderStatement(head));
-  AddPostedLines(lineValues, direction.lines, line::TerminalId);
-  if (ParseNumber(headValues[head::State]) != 0) {
-    AddMovement(head, LinesOf(lineValues), direction.movement);
+  for (int attempt = 1;; ++attempt) {
+    BuildReceipt(headValues, lineValues, table, guard);
+    const std::int16_t posted = ExecuteBatch(SqlBatch);
+    if (posted != 0 || LastErrorText != kCountsMoved || attempt == kAttempts) return posted;
   }
-  return ExecuteBatch(SqlBatch);
 }
 
 }  // namespace store
