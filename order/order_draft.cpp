@@ -38,6 +38,7 @@ Draft OrderForm::DraftNow() const {
               .PartnerName = Text1.Text(),
               .Date = DTOrderDate.Value(),
               .Depot = Combo1.Text()};
+  draft.Lines.reserve(static_cast<size_t>(FLEX1.Rows()));
   for (int row = FLEX1.Rows() - 1; row >= 1; --row) {
     const auto cell = [&](int column) -> const std::string& {
       return FLEX1.TextMatrix(row, column);
@@ -70,7 +71,7 @@ void OrderForm::BringBack(const Draft& draft) {
   const bool hasDepot = ChooseDepot(Combo1, DepotCodeOf(draft.Depot));
   const std::vector<DraftLine> refused = BringLinesBack(draft, std::move(slipRows));
   SetFocus(inBox);
-  draft_.GoOnWith(draft);
+  draft_.GoOnWith(draft, refused);
   TellNotBroughtBack(refused, hasDepot ? "" : draft.Depot);
 }
 

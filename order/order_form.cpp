@@ -91,6 +91,7 @@ void OrderForm::PublishControls() {
 
 void OrderForm::ConnectPanes() {
   SupplierChanged = [this] {
+    draft_.ForgetRefused();
     ClearLines();
     inHand_.PutAside();
   };

@@ -14,6 +14,12 @@
 namespace store {
 namespace {
 
+/// Waits for a save under that key that is still running at the server.
+std::string LookStatement(const std::string& slipId) {
+  return Splice(" SELECT PE_ID FROM PEM22 WHERE PE_ID = '{slip}' LOCK IN SHARE MODE",
+                "slip"_a = slipId);
+}
+
 /// The lines of an order, with what its header holds of a draft.
 std::string ContentStatement(const std::string& slipId) {
   return Splice(
@@ -54,6 +60,8 @@ bool Holds(const std::string& slipId, const Draft& draft) {
 DraftFate FateOf(const Draft& draft) {
   const bool isOrder = draft.SlipTable == "PEM22";
   const std::string& key = draft.SlipId.empty() ? draft.TriedId : draft.SlipId;
+  // Asked without a key too: whoever goes on needs the server for the prices.
+  if (!FetchRecordset(LookStatement(key))) return DraftFate::Unreadable;
   if (key.empty()) return DraftFate::GoesOn;
   const std::optional<OrderAsRead> order = ReadOrder(key);
   if (!order && !LastErrorText.empty()) return DraftFate::Unreadable;

@@ -60,9 +60,10 @@ void TellNotBroughtBack(const std::vector<DraftLine>& refused, const std::string
     if (refused.size() > kLinesNamed) {
       text += "외 " + std::to_string(refused.size() - kLinesNamed) + "건\r";
     }
-    text += "\r";
+    text += "\r저장하지 않고 닫으면 이 품목도 쓰던 전표에 그대로 남습니다.";
   }
   if (!depot.empty()) {
+    if (!text.empty()) text += "\r\r";
     text += "하치장 [" + std::string(NameOfEntry(depot)) +
             "]은(는) 목록에 없습니다. 하치장을 다시 고르세요.";
   }

@@ -142,6 +142,17 @@ TEST_F(OrderDrafts, OnAnotherDayItemsAndPricesAreAskedAnew) {
   EXPECT_NE(after.find("P0005x6@1600 "), std::string::npos) << after;
   EXPECT_EQ(after.find("P0003x5@55 "), std::string::npos) << "that contract has ended";
   EXPECT_EQ(after.find("P0002"), std::string::npos) << after;
+  // What could not be ordered today is not lost with that.
+  Order().Close();
+  Sql("UPDATE PR SET PR_END='0' WHERE PR_CODE='P0002'");
+  Crash();
+  GoOn();
+  EXPECT_EQ(OrderLines(), after + "P0002x3@6000 ");
+  Supplier("#C0002");
+  Enter("88010003");
+  Crash();
+  GoOn();
+  EXPECT_EQ(OrderLines().find("P0005"), std::string::npos) << "another supplier, other lines";
 }
 
 TEST_F(OrderDrafts, AChangedOrderComesBackOntoItsSlipWithThatSlipsPrices) {
@@ -219,19 +230,46 @@ TEST_F(OrderDrafts, ASaveWhoseReplyWasLostIsNotMadeTwice) {
     EXPECT_EQ(Shown(), c.shown);
     EXPECT_EQ(OpenForm("frm_Order") != nullptr, c.edited);
     EXPECT_TRUE(!c.edited || OrderLines() == "P0001x13@700 P0002x3@6000 ");
+    if (c.edited) Order().Close();
+    ReleaseDroppedForms();
   }
+}
+
+TEST_F(OrderDrafts, WhatCouldNotBeSavedIsGoneOnWithAndSavedOnce) {
+  WriteOrder();
+  Sql("RENAME TABLE PSM22 TO PSM22_AWAY");
+  host.ExpectBox("저장이 실패하였습니다.");
+  Order().LaBtn_Click(0);
+  Sql("RENAME TABLE PSM22_AWAY TO PSM22; CREATE TABLE CT_AWAY AS SELECT * FROM CT; DELETE FROM CT "
+      "WHERE CT_CODE='C0001'");
+  Crash();
+  GoOn();
+  host.ExpectBox("거래처입력오류");  // the supplier is gone
+  Order().LaBtn_Click(0);
+  Order().Close();
+  Sql("INSERT INTO CT SELECT * FROM CT_AWAY WHERE CT_CODE='C0001'; DROP TABLE CT_AWAY");
+  GoOn();
+  const std::string orders = Value("SELECT COUNT(*)+1 FROM PEM22");
+  Save();
+  EXPECT_EQ(Value("SELECT COUNT(*) FROM PEM22"), orders);
+  EXPECT_EQ(Shown(), "");
 }
 
 TEST_F(OrderDrafts, WithoutTheServerItIsToldAndKept) {
   OpenOrder(kSlip);
   Enter("88010003");
   Order().Close();
+  ReleaseDroppedForms();
+  WriteOrder();
+  Order().Close();
   Disconnect();
-  host.ExpectBox("서버에 물어볼 수 없어");
-  GoOn();
+  for (const int row : {1, 2}) {
+    host.ExpectBox("서버에 물어볼 수 없어");
+    GoOn(row);
+    EXPECT_EQ(Shown(), "쓰던 전표 2건");
+    EXPECT_EQ(OpenForm("frm_Order"), nullptr);
+  }
   Reconnect();
-  EXPECT_EQ(Shown(), "쓰던 전표 1건");
-  EXPECT_EQ(OpenForm("frm_Order"), nullptr);
 }
 
 TEST_F(OrderDrafts, EachTypeComesBackInItsOwnForm) {
