@@ -45,7 +45,8 @@ class OrderInHand {
 
  private:
   bool IsNew() const { return openedId_.empty(); }
-  bool AskForTries(TriesFound& found) const;
+  const std::string& KeyToAskFor() const { return IsNew() ? keyOfTries_ : openedId_; }
+  TriesFound LookFor(const std::string& slipId, const StoredOrder& order) const;
   bool Post(const HeadArray& headValues, const StringTable& lineValues, const std::string& table);
   bool AfterLostAnswer(const std::string& slipId, const StoredOrder& order);
   bool AfterRefusal(const std::string& slipId, const StoredOrder& order);

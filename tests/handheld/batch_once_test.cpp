@@ -2,6 +2,7 @@
 #include <chrono>
 #include <future>
 #include <thread>
+#include <utility>
 
 #include "tests/handheld/batch_desk.h"
 #include "tests/support/cutting_proxy.h"
@@ -132,6 +133,20 @@ TEST_F(BatchOnce, OneRowTakenOffBetweenTwoTriesIsToldApart) {
   Press("앞서 시도한 내용으로 이미 저장되었습니다.");
   ExpectPosted(kRuns[0], true);
   EXPECT_EQ(Batch().FLEX.Rows(), 1) << "the list is read again";
+  ResetGateway();
+}
+
+// A server that fails at once after the look has lost what it had just shown.
+TEST_F(BatchOnce, WhatTheLookFindsHasToLast) {
+  CuttingProxy line(TestServer().Port());
+  StageAndOpen("66");
+  BuildConnectString(PrivateDbServer::ServerOption(line.Port()), "kt", "small");
+  const auto sleep = std::exchange(Host.Sleep, [this](int) {
+    Stage({"r1", "*", "P0001", "1", "100", "1002", "왕십리점"}, "66");
+  });
+  line.CutNextBatch(Cut::After);
+  Press(kNotFound);
+  Host.Sleep = sleep;
   ResetGateway();
 }
 

@@ -3,6 +3,7 @@
 #include <cstdlib>
 #include <functional>
 #include <thread>
+#include <utility>
 
 #include "basics/records.h"
 #include "forms/open_forms.h"
@@ -276,6 +277,19 @@ TEST_F(OrderOnce, ALostAnswerIsFollowedUp) {
     }
     EXPECT_EQ(Orders(), c.stored);
   }
+}
+
+// A server that fails at once after the look has lost what it had just shown.
+TEST_F(OrderOnce, WhatTheLookFindsHasToLast) {
+  Sql("DELETE FROM PEM22");
+  OpenAnew();
+  Type();
+  const auto sleep = std::exchange(Host.Sleep, [](int) { Sql("DELETE FROM PEM22"); });
+  proxy_.CutNextBatch(Cut::After);
+  Press(kNotYet);
+  Host.Sleep = sleep;
+  Press(kStored);
+  EXPECT_EQ(Orders(), "0:1,3 ");
 }
 
 TEST_F(OrderOnce, IdenticalOrdersOnPurposeStayTwo) {

@@ -31,6 +31,7 @@ Clerks::Clerks(std::string program, const std::string& folder, std::vector<int> 
   for (int store = 0; store < stores; ++store) {
     for (int terminal = 0; terminal < kTerminals; ++terminal) {
       const std::string own = folder + "/" + StoreCodeOf(store) + "." + std::to_string(terminal);
+      std::filesystem::remove_all(own);  // what an earlier run has left
       std::filesystem::create_directories(own);
       clerks_.push_back({store, terminal, own, 0, DayLogReader(own + "/log")});
     }

@@ -1,8 +1,10 @@
 #include "tests/soak/site.h"
 
 #include <algorithm>
+#include <chrono>
 #include <iterator>
 #include <thread>
+#include <utility>
 
 #include "private_db/free_port.h"
 
@@ -30,7 +32,8 @@ std::string NodeOptions(const std::string& members, int groupPort) {
 
 }  // namespace
 
-Site::Site(int nodes, const std::function<void(const std::string& what)>& failed) {
+Site::Site(int nodes, std::function<void(const std::string& what)> failed)
+    : failed_(std::move(failed)) {
   std::vector<int> groupPorts;
   std::string members;
   for (int i = 0; i < nodes; ++i) {
@@ -39,7 +42,8 @@ Site::Site(int nodes, const std::function<void(const std::string& what)>& failed
   }
   for (const int port : groupPorts) {
     nodes_.push_back(std::make_unique<PrivateDbServer>(
-        "store_soak", "", failed, nodes == 1 ? kOptions : NodeOptions(members, port)));
+        "store_soak", "", [this](const std::string& what) { Note(what); },
+        nodes == 1 ? kOptions : NodeOptions(members, port)));
   }
 }
 
@@ -47,6 +51,22 @@ void Site::Start(const std::string& database) {
   nodes_.front()->Start(IsCluster() ? "--wsrep-new-cluster" : "");
   nodes_.front()->MakeSchema(database);
   std::for_each(nodes_.begin() + 1, nodes_.end(), [](const auto& node) { node->Start(); });
+  TellWhatFailed();
+}
+
+void Site::Note(const std::string& what) {
+  const std::lock_guard lock(mutex_);
+  wrong_ += what + "\n";
+}
+
+void Site::TellWhatFailed() {
+  const std::lock_guard lock(mutex_);
+  if (!wrong_.empty()) failed_(wrong_);
+}
+
+bool Site::SomebodyIsAway() const {
+  return comingBack_.valid() &&
+         comingBack_.wait_for(std::chrono::seconds(0)) != std::future_status::ready;
 }
 
 std::vector<int> Site::Ports() const {
@@ -57,13 +77,11 @@ std::vector<int> Site::Ports() const {
 }
 
 void Site::Strike(std::mt19937& random, std::map<std::string, long>& faults) {
+  TellWhatFailed();
   PrivateDbServer& node = *nodes_[random() % nodes_.size()];
   const std::chrono::milliseconds away(200 + random() % 3500);
   const bool freezes = random() % 10 < kFreezeInTen;
-  if (comingBack_.valid() &&
-      comingBack_.wait_for(std::chrono::seconds(0)) != std::future_status::ready) {
-    return;
-  }
+  if (SomebodyIsAway()) return;
   ++faults[freezes ? "server frozen" : "server killed"];
   if (freezes) {
     node.Freeze();
@@ -83,6 +101,7 @@ void Site::Strike(std::mt19937& random, std::map<std::string, long>& faults) {
 
 void Site::AwaitEverybody() {
   if (comingBack_.valid()) comingBack_.get();
+  TellWhatFailed();
 }
 
 }  // namespace store

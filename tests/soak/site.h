@@ -1,10 +1,10 @@
 #pragma once
 
-#include <chrono>
 #include <functional>
 #include <future>
 #include <map>
 #include <memory>
+#include <mutex>
 #include <random>
 #include <string>
 #include <vector>
@@ -17,8 +17,8 @@ namespace store {
 /// serve terminals. What befalls it is drawn here.
 class Site {
  public:
-  /// `failed` is told what goes wrong, and must not return.
-  Site(int nodes, const std::function<void(const std::string& what)>& failed);
+  /// `failed` is told what goes wrong, and must not return. It is called in the caller's thread.
+  Site(int nodes, std::function<void(const std::string& what)> failed);
 
   /// Starts every node, with an empty database of that name.
   void Start(const std::string& database);
@@ -35,8 +35,13 @@ class Site {
   void AwaitEverybody();
 
  private:
-  void BringBackLater(PrivateDbServer& node, std::chrono::milliseconds away);
+  void Note(const std::string& what);
+  void TellWhatFailed();
+  bool SomebodyIsAway() const;
 
+  const std::function<void(const std::string& what)> failed_;
+  std::mutex mutex_;
+  std::string wrong_;  // what has failed, also in the thread that brings a node back
   std::vector<std::unique_ptr<PrivateDbServer>> nodes_;
   std::future<void> comingBack_;
 };

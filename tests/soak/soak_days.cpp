@@ -104,8 +104,9 @@ class Days {
     std::exit(2);
   }
 
+  /// A few in the shortest run.
   std::chrono::milliseconds NextPowerCut() {
-    const int mean = options_.Cluster || options_.Seconds < 120 ? 15'000 : 45'000;
+    const int mean = std::min(options_.Cluster ? 15'000 : 45'000, options_.Seconds * 1000 / 3);
     return std::chrono::milliseconds(mean / 2 +
                                      static_cast<int>(random_() % static_cast<unsigned>(mean)));
   }
