@@ -172,6 +172,22 @@ TEST_F(PostReceiptTest, WithQuantitiesOfZeroIsWrittenInFull) {
   EXPECT_EQ(Balances(), "C0001 202404 0/9350,C0001 202405 0/5280,C0002 202405 0/0");
 }
 
+TEST_F(PostReceiptTest, IsToldFromAnotherUnderItsKeyByTheLines) {
+  const std::vector<std::string> sent = ReceiptLine("1", "P0001", "18");
+  EXPECT_EQ(Post(ReceiptHead(), {sent}), -1);
+  const auto traced = [](const std::vector<std::vector<std::string>>& lines) {
+    return Value("SELECT COUNT(*) FROM (" + ReceiptTrace(ReceiptHead(), LineTable(lines), "PEM23") +
+                 ") t");
+  };
+  EXPECT_EQ(traced({sent}), "1");
+  EXPECT_EQ(traced({sent, ReceiptLine("2", "P0003", "1")}), "0");
+  for (const int column : {line::ProductCode, line::Quantity, line::Supply, line::DepotCode}) {
+    std::vector<std::string> other = sent;
+    other[static_cast<std::size_t>(column)] = "17";
+    EXPECT_EQ(traced({other}), "0") << column;
+  }
+}
+
 TEST_F(PostReceiptTest, InStateZeroMovesNeitherStockNorBalance) {
   HeadArray head = ReceiptHead();
   head[head::State] = "0";
