@@ -22,6 +22,13 @@ std::string ContentStatement(const std::string& slipId) {
       "slip"_a = slipId);
 }
 
+/// Waits for a save at which the server may still be working, though the program that sent it is
+/// gone.
+std::string WaitStatement(const std::string& slipId) {
+  return Splice(" SELECT PE_ID FROM PEM22 WHERE PE_ID = '{slip}' LOCK IN SHARE MODE",
+                "slip"_a = slipId);
+}
+
 using Quantities = std::vector<std::pair<std::string, double>>;
 
 Quantities QuantitiesOf(const Draft& draft) {
@@ -55,6 +62,9 @@ DraftFate FateOf(const Draft& draft) {
   const bool isOrder = draft.SlipTable == "PEM22";
   const std::string& key = draft.SlipId.empty() ? draft.TriedId : draft.SlipId;
   if (key.empty()) return DraftFate::GoesOn;
+  if (!draft.TriedId.empty() && !FetchRecordset(WaitStatement(draft.TriedId))) {
+    return DraftFate::Unreadable;
+  }
   const std::optional<OrderAsRead> order = ReadOrder(key);
   if (!order && !LastErrorText.empty()) return DraftFate::Unreadable;
   const std::string stand = order ? StandOf(*order) : std::string();
