@@ -38,10 +38,9 @@ void frm_PE_UNIT::NoteDraft() {
 }
 
 void frm_PE_UNIT::BringBack(const Draft& draft) {
-  // Changed in the moment between the look and the loading: it is shown as it stands.
   if (draft.Stamp != StandOf(order_)) {
     PutDraftAside(draft.Id);
-    TellSlipChanged(draft);
+    TellNotGoneOnWith(order_.Id.empty() ? "" : StandOf(order_));
     return;
   }
   DTPicker1.SetValue(draft.Date);

@@ -28,6 +28,13 @@ std::string ContentStatement(const std::string& slipId) {
       "slip"_a = slipId);
 }
 
+/// Waits for a save at which the server may still be working, though the program that sent it is
+/// gone.
+std::string WaitStatement(const std::string& slipId) {
+  return Splice(" SELECT PE_ID FROM PEM22 WHERE PE_ID = '{slip}' LOCK IN SHARE MODE",
+                "slip"_a = slipId);
+}
+
 using Quantities = std::vector<std::pair<std::string, double>>;
 
 Quantities QuantitiesOf(const Draft& draft) {
@@ -63,6 +70,9 @@ DraftFate FateOf(const Draft& draft) {
   // Asked without a key too: whoever goes on needs the server for the prices.
   if (!FetchRecordset(LookStatement(key))) return DraftFate::Unreadable;
   if (key.empty()) return DraftFate::GoesOn;
+  if (!draft.TriedId.empty() && !FetchRecordset(WaitStatement(draft.TriedId))) {
+    return DraftFate::Unreadable;
+  }
   const std::optional<OrderAsRead> order = ReadOrder(key);
   if (!order && !LastErrorText.empty()) return DraftFate::Unreadable;
   const std::string stand = order ? StandOf(*order) : std::string();

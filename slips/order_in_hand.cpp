@@ -31,7 +31,7 @@ constexpr const char* kKeyTaken =
 /// Whether what was found is just what was to be stored: the same content, in the state asked for
 /// or in one to which others have moved it since.
 bool HasBrought(const TriesFound& found, const StoredOrder& order) {
-  if (!found.Own || !SameContent(*found.Own, order)) return false;
+  if (!found.Own || !SameOrder(*found.Own, order)) return false;
   return found.State == order.State ||
          (found.Own->State == order.State && found.State > order.State);
 }
@@ -85,7 +85,7 @@ void OrderInHand::FindItsKey(HeadArray& headValues, StringTable& lineValues) {
   const StoredOrder order = OrderAsSent(headValues, lineValues);
   const auto same = std::find_if(Aside.begin(), Aside.end(), [&](const OrderInHand& aside) {
     return std::any_of(aside.tries_.begin(), aside.tries_.end(),
-                       [&](const StoredOrder& lost) { return SameContent(lost, order); });
+                       [&](const StoredOrder& lost) { return SameOrder(lost, order); });
   });
   if (same == Aside.end()) return;
   *this = std::move(*same);

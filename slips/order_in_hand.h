@@ -17,6 +17,9 @@ class OrderInHand {
   /// Reads what stands under the key of an order that the form is about to show. One that cannot be
   /// read can be looked at, but not saved.
   void Open(const std::string& slipId);
+  /// What the form shows of the opened order is not the whole of it: then it cannot be saved
+  /// either.
+  void IsNotShown() { opened_.reset(); }
   /// The depot of the opened order's first line; empty without one.
   std::string Depot() const;
   /// How the opened order stood (slips/received_order.h); empty of a new one, and of one that could

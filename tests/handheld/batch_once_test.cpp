@@ -181,6 +181,16 @@ TEST_F(BatchOnce, OfTwoStoresTheOneWhoseReplyIsLostIsTold) {
   ResetGateway();
 }
 
+TEST_F(BatchOnce, AReceivingDepotThatCannotBeReadStopsTheShipment) {
+  StageAndOpen("14");
+  Sql("RENAME TABLE HCT TO AWAY");
+  Press("저장이 실패하였습니다.");
+  Sql("RENAME TABLE AWAY TO HCT");
+  ExpectPosted(kRuns[2], false);
+  Press(kStored);
+  ExpectPosted(kRuns[2], true);
+}
+
 TEST_F(BatchOnce, TheDeletionOfRowsIsToldTruly) {
   const struct {
     Cut cut;

@@ -160,6 +160,18 @@ TEST_F(OrderOnce, AnOrderThatCouldNotBeReadIsNotReplacedByWhatWasTypedInstead) {
   EXPECT_EQ(Everything(), before);
 }
 
+// The look at the order goes well, and the read of its lines does not.
+TEST_F(OrderOnce, LinesThatCouldNotBeReadAreNotTakenForNone) {
+  const std::string id = StoredBefore();
+  const std::string before = Everything();
+  Sql("RENAME TABLE PR TO AWAY");
+  OpenAnew(id);
+  Sql("RENAME TABLE AWAY TO PR");
+  Type();
+  Press(kChanged);
+  EXPECT_EQ(Everything(), before);
+}
+
 TEST_F(OrderOnce, AReopenedOrderKeepsItsDepot) {
   const std::string id = StoredBefore();
   OpenAnew(id);
@@ -288,6 +300,16 @@ TEST_F(OrderOnce, WhatTheLookFindsHasToLast) {
   proxy_.CutNextBatch(Cut::After);
   Press(kNotYet);
   Host.Sleep = sleep;
+  Press(kStored);
+  EXPECT_EQ(Orders(), "0:1,3 ");
+}
+
+// The look waits for a new connection, and by then the order has stood for a while.
+TEST_F(OrderOnce, ALookThatTakesItsTimeFindsTheOrderAllTheSame) {
+  OpenAnew();
+  Type();
+  proxy_.CutNextBatch(Cut::After);
+  proxy_.KeepNextWaiting(std::chrono::milliseconds(3500));
   Press(kStored);
   EXPECT_EQ(Orders(), "0:1,3 ");
 }
