@@ -10,7 +10,8 @@ constexpr const char* kToday = "2024-05-17";
 
 class UnitPrice : public SmallStoreTest {
  protected:
-  std::optional<double> Price(const std::string& policy, const std::string& partner, const std::string& product) {
+  std::optional<double> Price(const std::string& policy, const std::string& partner,
+                              const std::string& product) {
     AppOptions.BulkOrderPrice = policy;
     return ResolveUnitPrice(partner, product, kToday, "", "23", "J");
   }
