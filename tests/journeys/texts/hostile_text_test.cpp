@@ -149,10 +149,11 @@ TEST_F(HostileText, OfNoBoxBecomesAStatement) {
   for (const char* form : kForms) ThrowIntoForm(form);
   // A box that no longer reaches a statement would make the rest of this test prove nothing.
   EXPECT_EQ(Reached,
-            (std::set<std::string>{"FRM_DT900_01.Text1_1", "FRM_NAMECHK.Text1", "HELP_CT.Text1",
-                                   "NEW_PR.txBox_6", "frmLogin.txtPassword", "frm_Order.Text1",
-                                   "frm_Order01.Text1", "frm_Order02.Text1", "frm_Order03.Text1",
-                                   "frm_Start.Text2"}));
+            (std::set<std::string>{
+                "FRM_DT900_01.Command1_0", "FRM_DT900_01.Text1_1", "FRM_NAMECHK.Text1",
+                "HELP_BPR.Command1", "HELP_BPR.Text1", "HELP_CT.Command1", "HELP_CT.Text1",
+                "NEW_PR.txBox_6", "frmLogin.cmdOK", "frmLogin.txtPassword", "frm_Order.Text1",
+                "frm_Order01.Text1", "frm_Order02.Text1", "frm_Order03.Text1", "frm_Start.Text2"}));
 
   for (const char* text : {"'", "' OR '1'='1", "\\", "\\' OR 1=1 -- ", "\" OR 1=1 -- ", "%_",
                            "';DELETE FROM CT;-- ", "''; -- "}) {
