@@ -48,8 +48,8 @@ std::string DataFolder() {
 }
 
 std::chrono::seconds ConnectTimeout() { return SecondsFromEnvironment("STORE_CONNECT_TIMEOUT", 5); }
-std::chrono::seconds LockWait() { return SecondsFromEnvironment("STORE_LOCK_WAIT", 10); }
-std::chrono::seconds ReadLimit() { return SecondsFromEnvironment("STORE_READ_LIMIT", 30); }
-std::chrono::seconds BatchLimit() { return SecondsFromEnvironment("STORE_BATCH_LIMIT", 120); }
+std::chrono::seconds LockWait() { return SecondsFromEnvironment("STORE_LOCK_WAIT", 4); }
+std::chrono::seconds ReadLimit() { return SecondsFromEnvironment("STORE_READ_LIMIT", 20); }
+std::chrono::seconds BatchLimit() { return SecondsFromEnvironment("STORE_BATCH_LIMIT", 20); }
 
 }  // namespace store

@@ -27,14 +27,15 @@ std::string SerialDevice(int port);
 /// where there is no such folder. Variable STORE_DATA_FOLDER.
 std::string DataFolder();
 
-/// How long the data tier waits; each variable is a number of seconds.
+/// How long the data tier waits; each variable is a number of seconds. A batch is sent four times
+/// at most when others stand against it, so four lock waits have to fit into its limit.
 std::chrono::seconds ConnectTimeout();  ///< For a server that does not answer a login: 5 seconds.
                                         ///< Variable STORE_CONNECT_TIMEOUT.
-std::chrono::seconds LockWait();        ///< For rows that another client holds: 10 seconds.
+std::chrono::seconds LockWait();        ///< For rows that another client holds: 4 seconds.
                                         ///< Variable STORE_LOCK_WAIT.
-std::chrono::seconds ReadLimit();       ///< For a read to be done: 30 seconds. Variable
+std::chrono::seconds ReadLimit();       ///< For a read to be done: 20 seconds. Variable
                                         ///< STORE_READ_LIMIT.
-std::chrono::seconds BatchLimit();      ///< For a batch to be done: 120 seconds. Variable
+std::chrono::seconds BatchLimit();      ///< For a batch to be done: 20 seconds. Variable
                                         ///< STORE_BATCH_LIMIT.
 
 }  // namespace store

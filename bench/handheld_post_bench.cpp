@@ -9,6 +9,7 @@
 #include "bench/delay_proxy.h"
 #include "forms/host.h"
 #include "gateway/gateway.h"
+#include "gateway/guard.h"
 #include "handheld/FRM_DT900_01.h"
 #include "slips/post_receipt.h"
 #include "slips/received_order.h"
@@ -27,7 +28,7 @@ bool IsCount(const std::string& statement) { return statement.starts_with("selec
 void SendOneByOne(ClientLibrary& client, const std::vector<std::string>& statements) {
   client.Run("START TRANSACTION");
   for (const std::string& statement : statements) {
-    if (IsCount(statement)) {
+    if (IsCount(statement) || IsGuard(statement)) {
       client.ReadAll(statement);
     } else {
       client.Run(statement);

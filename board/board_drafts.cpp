@@ -21,8 +21,8 @@ void frm_Start::CountDrafts() {
   const bool fails = !DraftsWork() && !Session.UserCode.empty();
   LaDraft.Visible = count > 0 || fails;
   LaDraft.Enabled = count > 0;
-  LaDraft.Caption =
-      count > 0 ? "쓰던 전표 " + std::to_string(count) + "건" : "쓰던 전표를 남기지 못함";
+  LaDraft.Caption = count > 0 ? "쓰던 전표 " + std::to_string(count) + "건" : "쓰던 전표를";
+  if (fails) LaDraft.Caption += count > 0 ? ", 더는 남기지 못함" : " 남기지 못함";
 }
 
 void frm_Start::TellDraftNotice() {

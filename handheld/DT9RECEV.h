@@ -112,17 +112,20 @@ class DT9RECEV : public HandheldForm {
   // Staging: receive_staging.cpp.
   void Save();
   bool StagesPartnerOf(int row);
-  StagedRow RowToStage(int row, const std::string& key) const;
+  StagedRow RowToStage(int row) const;
   std::optional<std::string> StagedPrice(int row, const StagedRow& staged) const;
-  Fate Stage(const std::vector<StagedRow>& rows);
+  Fate Stage(std::vector<StagedRow> rows);
+  void BeginTransfer(const std::string& content);
   bool TakeProduct(int row, const RecordsetSlot& products, StagedRow& staged) const;
 
   LineReceiver receiver_;
   std::deque<std::function<void()>> waiting_;  // what the line has brought meanwhile
   bool busy_ = false;                          // a piece of it is being worked at
   std::string taxColumn_;                      // of the product table, for this run
-  std::string transfer_;  // begins the keys of its rows; taken at its first save
-  StoredOnce staging_;    // of that transfer
+  std::string transfer_;       // begins the keys of its rows; taken at its first save
+  std::string content_;        // what was saved of it last
+  StoredOnce staging_;         // of that transfer
+  bool receivedAnew_ = false;  // since the last save the terminal has sent once more
 };
 
 }  // namespace store

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <optional>
 #include <vector>
 
 #include "basics/numbers.h"
@@ -75,13 +76,12 @@ struct Depot {
   std::string Name;
 };
 
-/// The default depot of a store, else its first; empty when it has none.
-Depot ReceivingDepot(const std::string& store) {
-  OpenRecordset(SlotA, DepotStatement(store));
-  Depot depot;
-  if (!AtEof(SlotA)) depot = {FieldText(SlotA, 0), FieldText(SlotA, 1)};
-  CloseRecordset(SlotA);
-  return depot;
+/// The default depot of a store, else its first; empty when it has none. Nothing when that cannot
+/// be read: the goods would arrive nowhere.
+std::optional<Depot> ReceivingDepot(const std::string& store) {
+  const RecordsetSlot depots = FetchRecordset(DepotStatement(store));
+  if (!depots) return std::nullopt;
+  return depots->Eof() ? Depot() : Depot{FieldText(depots, 0), FieldText(depots, 1)};
 }
 
 StringTable MirrorLines(StringTable lines, const std::string& key, const Depot& depot) {
@@ -141,13 +141,15 @@ bool PostStoreShipment(const HandheldSlip& slip) {
   const std::string mirrorKey = NextSlipId("PES23");
   if (!IsWholeKey(mirrorKey)) return false;
   const HeadFields head = FieldsOf(slip);
+  const std::optional<Depot> depot = ReceivingDepot(head.Field(head::ToCode));
+  if (!depot) return false;
   AddToBatch(HeaderStatement(head, "PEM13"));
-  const Depot depot = ReceivingDepot(head.Field(head::ToCode));
   AddPostedLines(slip.HandheldLines, "PSM13", kTerminalColumn);
   AddMovement(head, LinesOf(slip.HandheldLines),
               {.StockColumn = "OTQTY", .BalanceColumn = "CM_M13", .PartyKind = "R"});
   AddToBatch(MirrorHeaderStatement(head, mirrorKey));
-  AddPostedLines(MirrorLines(slip.HandheldLines, mirrorKey, depot), "PSS23", kMirrorTerminalColumn);
+  AddPostedLines(MirrorLines(slip.HandheldLines, mirrorKey, *depot), "PSS23",
+                 kMirrorTerminalColumn);
   return true;
 }
 

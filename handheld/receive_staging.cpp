@@ -58,19 +58,16 @@ bool DT9RECEV::SaveToStaging() {
   // Without the products every row would be staged as one that nobody can turn into a slip.
   const RecordsetSlot products = FetchRecordset(ProductsStatement(taxColumn_));
   if (products == nullptr) {
-    const Fate fate = staging_.FateOfEarlier("").value_or(Fate::Failed);
+    const Fate fate =
+        receivedAnew_ ? Fate::Failed : staging_.FateOfEarlier("").value_or(Fate::Failed);
     Tell(fate);
     return IsStaged(fate);
-  }
-  // The transfer keeps its key: one that is stored after all is known by it.
-  if (transfer_.empty()) {
-    transfer_ = FormatDateValue(Host.Now(), "YYYYMMDDHHNNSS") + Trim(Label7.Caption);
   }
   std::vector<StagedRow> rows;
   int unknownProducts = 0;
   for (int row = FLEX.FixedRows(); row < FLEX.Rows(); ++row) {
     if (!StagesPartnerOf(row)) return false;
-    StagedRow staged = RowToStage(row, transfer_);
+    StagedRow staged = RowToStage(row);
     if (!TakeProduct(row, products, staged)) ++unknownProducts;
     const std::optional<std::string> price = StagedPrice(row, staged);
     if (!price) {
@@ -88,13 +85,28 @@ bool DT9RECEV::SaveToStaging() {
   return IsStaged(fate);
 }
 
-Fate DT9RECEV::Stage(const std::vector<StagedRow>& rows) {
-  std::vector<std::string> statements = {"", NotStagedYet(rows.front())};
-  std::string content;
-  for (const StagedRow& row : rows) {
-    statements.push_back(StagedRowStatement(row));
-    content += statements.back();
+/// The transfer keeps its key: one that is stored after all is known by it. What the terminal sends
+/// once more is the same transfer when it is the same in everything, because a terminal is sent
+/// again when nobody knows whether its rows were saved.
+void DT9RECEV::BeginTransfer(const std::string& content) {
+  if (receivedAnew_ && content != content_) {
+    transfer_.clear();
+    staging_ = {};
   }
+  receivedAnew_ = false;
+  content_ = content;
+  if (transfer_.empty()) {
+    transfer_ = FormatDateValue(Host.Now(), "YYYYMMDDHHNNSS") + Trim(Label7.Caption);
+  }
+}
+
+Fate DT9RECEV::Stage(std::vector<StagedRow> rows) {
+  std::string content;
+  for (const StagedRow& row : rows) content += StagedRowStatement(row);
+  BeginTransfer(content);
+  for (StagedRow& row : rows) row.Id = StagedRowId(transfer_, row.Row);
+  std::vector<std::string> statements = {"", NotStagedYet(rows.front())};
+  for (const StagedRow& row : rows) statements.push_back(StagedRowStatement(row));
   const Fate fate = staging_.Send([&] { return ExecuteBatch(statements) != 0; },
                                   {.Trace = StagedRowTrace(rows.back()), .Content = content});
   // Refused although nothing of ours is there: another transfer has this key.
@@ -110,11 +122,10 @@ bool DT9RECEV::StagesPartnerOf(int row) {
   return false;
 }
 
-StagedRow DT9RECEV::RowToStage(int row, const std::string& transfer) const {
+StagedRow DT9RECEV::RowToStage(int row) const {
   const double quantity = ParseNumber(FLEX.TextMatrix(row, received::Quantity));
   StagedRow staged;
   staged.Row = row - FLEX.FixedRows() + 1;
-  staged.Id = StagedRowId(transfer, staged.Row);
   staged.Date = FormatDateValue(Today(), "YYYY-MM-DD");
   staged.Quantity = NumberText(ReturnMark == "R" ? std::abs(quantity) : quantity);
   staged.ReturnMark = ReturnMark;

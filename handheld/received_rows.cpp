@@ -39,7 +39,10 @@ std::array<std::string, received::Count> CellsOf(const HandheldRecord& record) {
 
 }  // namespace
 
-void DT9RECEV::ResetGrid() { FLEX.SetRows(FLEX.FixedRows()); }
+void DT9RECEV::ResetGrid() {
+  FLEX.SetRows(FLEX.FixedRows());
+  receivedAnew_ = true;
+}
 
 // Cell by cell: a tab in what the line brings must not move the cells behind it.
 void DT9RECEV::AddRow(const std::array<std::string, received::Count>& cells) {

@@ -134,17 +134,17 @@ void ItemBoxPane::ListHits() {
 
 void ItemBoxPane::AddItemLine() {
   const std::string code = ItemText(item::Code);
-  RemoveLinesOf(code);
-  double price = 0;
-  if (form_.NoPriceMode == 0) {
-    price = ResolveUnitPrice(supplier_.Text1.Tag, code, FormatDateValue(Today(), "YYYY-MM-DD"), "",
-                             "23", "J");
-    if (AppOptions.OrderZeroPrice == 0 && price == 0) {
-      RefuseForPrice();
-      return;
-    }
+  const std::optional<double> price = PriceOf(code);
+  if (!price) {
+    RefuseUnread();
+    return;
   }
-  InsertLine(price);
+  RemoveLinesOf(code);
+  if (form_.NoPriceMode == 0 && AppOptions.OrderZeroPrice == 0 && *price == 0) {
+    RefuseForPrice();
+    return;
+  }
+  InsertLine(*price);
   FLEX1.SetRow(1);
   RecalcLine(1);
   inBox.SetText("");
@@ -161,6 +161,20 @@ void ItemBoxPane::InsertLine(double price) {
   FLEX1.SetTextMatrix(1, order_line::Unit, unit);
 }
 
+/// Nothing when it could not be read.
+std::optional<double> ItemBoxPane::PriceOf(const std::string& code) const {
+  if (form_.NoPriceMode != 0) return 0;
+  return ResolveUnitPrice(supplier_.Text1.Tag, code, FormatDateValue(Today(), "YYYY-MM-DD"), "",
+                          "23", "J");
+}
+
+void ItemBoxPane::RefuseUnread() {
+  inBox.SetText("");
+  AddAccepted = 0;
+  PriceUnread = true;
+  Warn(ItemText(item::Name) + "의 단가를 읽지 못하였습니다. 다시 입력하세요.");
+}
+
 void ItemBoxPane::RefuseForPrice() {
   // The item's former line is gone for good, and a header must never count what it does not hold.
   RecalcTotals();
@@ -168,7 +182,11 @@ void ItemBoxPane::RefuseForPrice() {
   AddAccepted = 0;
   NoteRefused(ItemText(item::Barcode), "단가없음");
   if (AddInProgress == 0) Host.Beep();
-  Label6.Caption = "본부정책오류: " + ItemText(item::Name) + "의 단가가 정의되지 않았습니다.";
+  Warn("본부정책오류: " + ItemText(item::Name) + "의 단가가 정의되지 않았습니다.");
+}
+
+void ItemBoxPane::Warn(const std::string& text) {
+  Label6.Caption = text;
   Timer1.Restart();
 }
 
@@ -196,6 +214,7 @@ void ItemBoxPane::ShowRefused() {
 
 void ItemBoxPane::AddFromCode(const std::string& productCode) {
   AddInProgress = -1;
+  PriceUnread = false;
   EnterCode(productCode);
   AddInProgress = 0;
 }
@@ -208,6 +227,7 @@ void ItemBoxPane::EnterCode(const std::string& productCode) {
 bool ItemBoxPane::AddDraftLine(const std::string& productCode, const std::string& quantity) {
   if (!FindItem(productCode)) return false;
   AddAccepted = -1;
+  PriceUnread = false;
   AddItemLine();
   if (AddAccepted == 0) return false;
   FLEX1.SetTextMatrix(1, order_line::Money.Quantity, quantity);

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -37,6 +38,7 @@ class ItemBoxPane : public LinesPane {
   Timer Timer1;
   std::int16_t AddInProgress = 0;  ///< -1 while a routine and not a person feeds `inBox`.
   std::int16_t AddAccepted = 0;    ///< Set to 0 when an item was refused.
+  bool PriceUnread = false;        ///< Set when that was because its price could not be read.
 
   void inBox_KeyPress(Key key);
   void FLEX1_KeyDown(Key key);
@@ -53,7 +55,8 @@ class ItemBoxPane : public LinesPane {
   /// The same within a transfer that holds `AddInProgress` from its first item to its last.
   void EnterCode(const std::string& productCode);
   /// Writes a line of a draft on top: the item of today at the price of today, in that quantity.
-  /// False for an item that has left the list or has no price; the line is then not there.
+  /// False for an item that has left the list or has no price, or whose price could not be read
+  /// (`PriceUnread`); the line is then not there.
   bool AddDraftLine(const std::string& productCode, const std::string& quantity);
   /// Another order begins: no code was refused for it.
   void ForgetRefused();
@@ -78,10 +81,13 @@ class ItemBoxPane : public LinesPane {
   void AddItemLine();
   void InsertLine(double price);
   bool FitsUnit(double quantity, int row);
+  std::optional<double> PriceOf(const std::string& code) const;
   void RefuseForWantOfItem();
+  void RefuseUnread();
   void RefuseForPrice();
   void NoteRefused(const std::string& code, const std::string& reason);
   void ShowRefused();
+  void Warn(const std::string& text);
   void RemoveLinesOf(const std::string& productCode);
 
   SlipForm& form_;

@@ -38,6 +38,7 @@ Draft OrderForm::DraftNow() const {
               .PartnerName = Text1.Text(),
               .Date = DTOrderDate.Value(),
               .Depot = Combo1.Text()};
+  draft.Lines.reserve(static_cast<size_t>(FLEX1.Rows()));
   for (int row = FLEX1.Rows() - 1; row >= 1; --row) {
     const auto cell = [&](int column) -> const std::string& {
       return FLEX1.TextMatrix(row, column);
@@ -56,10 +57,9 @@ void OrderForm::NoteDraft() {
 void OrderForm::NoteSaveTry() { draft_.NoteTry(DraftNow(), HeadValues[head::Id]); }
 
 void OrderForm::BringBack(const Draft& draft) {
-  // Changed in the moment between the look and the loading: it is shown as it stands.
   if (!SlipId.empty() && draft.Stamp != inHand_.Stand()) {
     PutDraftAside(draft.Id);
-    TellSlipChanged(draft);
+    TellNotGoneOnWith(inHand_.Stand());
     return;
   }
   const Hourglass waiting;
@@ -68,10 +68,25 @@ void OrderForm::BringBack(const Draft& draft) {
   BringSupplierBack(draft);
   DTOrderDate.SetValue(draft.Date);
   const bool hasDepot = ChooseDepot(Combo1, DepotCodeOf(draft.Depot));
-  const std::vector<DraftLine> refused = BringLinesBack(draft, std::move(slipRows));
+  const auto refused = BringLinesBack(draft, std::move(slipRows));
+  if (!refused) {
+    PutDraftAside(draft.Id);
+    ShowAfresh();
+    TellDraftUnreadable();
+    return;
+  }
   SetFocus(inBox);
-  draft_.GoOnWith(draft);
-  TellNotBroughtBack(refused, hasDepot ? "" : draft.Depot);
+  draft_.GoOnWith(draft, *refused);
+  TellNotBroughtBack(*refused, hasDepot ? "" : draft.Depot);
+}
+
+void OrderForm::ShowAfresh() {
+  Combo1.SetListIndex(openedDepot_);
+  if (SlipId.empty()) {
+    ResetOrderForm();
+  } else {
+    LoadOrderSlip(SlipId);
+  }
 }
 
 void OrderForm::BringSupplierBack(const Draft& draft) {
@@ -82,9 +97,11 @@ void OrderForm::BringSupplierBack(const Draft& draft) {
 }
 
 // A line of the stored order keeps that order's price, as it does when the order is opened. Every
-// other one is written anew.
-std::vector<DraftLine> OrderForm::BringLinesBack(const Draft& draft, SlipRows slipRows) {
+// other one is written anew. Nothing when items or prices cannot be read.
+std::optional<std::vector<DraftLine>> OrderForm::BringLinesBack(const Draft& draft,
+                                                                SlipRows slipRows) {
   std::vector<DraftLine> refused;
+  if (!SlotC) return std::nullopt;
   ClearLines();
   for (const DraftLine& line : draft.Lines) {
     const auto row = std::find_if(slipRows.begin(), slipRows.end(), [&](const auto& cells) {
@@ -92,6 +109,7 @@ std::vector<DraftLine> OrderForm::BringLinesBack(const Draft& draft, SlipRows sl
     });
     if (row == slipRows.end()) {
       if (!AddDraftLine(line.Code, line.Quantity)) refused.push_back(line);
+      if (PriceUnread) return std::nullopt;
       continue;
     }
     FLEX1.AddItem("", 1);

@@ -91,6 +91,7 @@ void OrderForm::PublishControls() {
 
 void OrderForm::ConnectPanes() {
   SupplierChanged = [this] {
+    draft_.ForgetRefused();
     ClearLines();
     ForgetRefused();
     inHand_.PutAside();
@@ -111,6 +112,7 @@ void OrderForm::ConnectPanes() {
   SeveralHits = [this] { OpenQuickPickOnHits(); };
   QuantityEntered = [this](const std::string& code, const std::string& quantity) {
     AddFromCode(code);
+    if (PriceUnread) return;
     // Also when the item was refused for its price: the quantity then lands on the top line.
     inBox.SetText(quantity);
     if (FLEX1.Row() >= 1) TakeQuantity(1);
@@ -190,8 +192,9 @@ void OrderForm::FollowTheDay() {
 void OrderForm::LoadOrderSlip(const std::string& slipId) {
   // Read first, so that what has changed by the time the lines are read is noticed at the save.
   inHand_.Open(slipId);
-  LoadLines(
+  const bool read = LoadLines(
       OrderSlipStatement(slipId), [this] { LoadOrderHeader(); }, [this] { LoadOrderLine(); });
+  if (!read) inHand_.IsNotShown();
   loadedLines_ = FLEX1.Revision();
   loadedDate_ = DTOrderDate.Value();
 }

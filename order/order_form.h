@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <functional>
 #include <initializer_list>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -100,7 +101,8 @@ class OrderForm : public SlipForm,
   void BringBack(const Draft& draft);
   void BringSupplierBack(const Draft& draft);
   using SlipRows = std::vector<std::vector<std::string>>;
-  std::vector<DraftLine> BringLinesBack(const Draft& draft, SlipRows slipRows);
+  std::optional<std::vector<DraftLine>> BringLinesBack(const Draft& draft, SlipRows slipRows);
+  void ShowAfresh();
 
   void OpenQuickPick();
   void OpenQuickPickOnHits();

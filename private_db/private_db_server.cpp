@@ -24,7 +24,9 @@ PrivateDbServer::PrivateDbServer(const std::string& name, const std::string& dem
 
 PrivateDbServer::~PrivateDbServer() { TakeAway(); }
 
-void PrivateDbServer::Start() { Script("start " + folder_ + " " + std::to_string(port_)); }
+void PrivateDbServer::Start(const std::string& more) {
+  Script("start " + folder_ + " " + std::to_string(port_), more);
+}
 void PrivateDbServer::Stop() { Script("stop " + folder_); }
 void PrivateDbServer::Kill() { Script("kill " + folder_); }
 
@@ -77,9 +79,9 @@ std::string PrivateDbServer::ServerOption(int port) {
   return "127.0.0.1;PORT=" + std::to_string(port);
 }
 
-void PrivateDbServer::Script(const std::string& arguments) const {
-  const std::string command =
-      "PRIVATE_DB_OPTIONS='" + options_ + "' " + STORE_PRIVATE_DB + " " + arguments + " </dev/null";
+void PrivateDbServer::Script(const std::string& arguments, const std::string& more) const {
+  const std::string command = "PRIVATE_DB_OPTIONS='" + options_ + " " + more + "' " +
+                              STORE_PRIVATE_DB + " " + arguments + " </dev/null";
   if (std::system(command.c_str()) != 0) failed_(command + " failed");
 }
 

@@ -18,7 +18,8 @@ class PrivateDbServer {
   PrivateDbServer(const PrivateDbServer&) = delete;
   PrivateDbServer& operator=(const PrivateDbServer&) = delete;
 
-  void Start();   ///< Also again after `Stop` or `Kill`; the data stays.
+  /// Also again after `Stop` or `Kill`; the data stays. `more` are options of this start alone.
+  void Start(const std::string& more = "");
   void Stop();    ///< Ends it cleanly.
   void Kill();    ///< Ends it as when the machine loses its power.
   void Freeze();  ///< It stands still, as a machine that is out of memory, until `Thaw`.
@@ -37,7 +38,7 @@ class PrivateDbServer {
   static std::string ServerOption(int port);
 
  private:
-  void Script(const std::string& arguments) const;
+  void Script(const std::string& arguments, const std::string& more = "") const;
   void Signal(int number) const;
   std::string Pid() const;
   bool StandsStill() const;

@@ -105,8 +105,13 @@ void frm_PE_UNIT::Load() {
     FLEX1.Column(col).Format = FormatAmount;
   }
   CopyDepots(Combo1);
-  DTPicker1.SetValue(FormatDateValue(Today(), "yyyy-mm-dd"));
-  Text4.SetText(DTPicker1.Value());
+  GiveTodaysDate();
+}
+
+void frm_PE_UNIT::GiveTodaysDate() {
+  givenDate_ = FormatDateValue(Today(), "yyyy-mm-dd");
+  DTPicker1.SetValue(givenDate_);
+  Text4.SetText(givenDate_);
 }
 
 void frm_PE_UNIT::Activate() {
@@ -143,9 +148,10 @@ void frm_PE_UNIT::LoadReceiptSlip(const std::string& orderId) {
   const std::optional<OrderAsRead> order = ReadOrder(orderId);
   if (!order) return;
   order_ = *order;
-  LoadLines(
+  const bool read = LoadLines(
       ReceivedOrderStatement(orderId), [this] { LoadReceiptHeader(); },
       [this] { LoadReceiptLine(); });
+  if (!read) order_ = {};
 }
 
 void frm_PE_UNIT::LoadReceiptHeader() {

@@ -63,6 +63,7 @@ class frm_PE_UNIT : public SlipForm, public LinesPane {
  private:
   void SetUpGrid();
   void PublishControls();
+  void GiveTodaysDate();
   void LoadReceiptSlip(const std::string& orderId);
   void LoadReceiptHeader();
   void LoadReceiptLine();
@@ -86,7 +87,8 @@ class frm_PE_UNIT : public SlipForm, public LinesPane {
   void BringRowsBack(const Draft& draft);
 
   bool activated_ = false;
-  OrderAsRead order_;  // as it stood when its lines were read
+  std::string givenDate_;  // the date of receipt that the form itself put in
+  OrderAsRead order_;      // as it stood when its lines were read
   SlipDraft draft_;
 };
 

@@ -65,6 +65,9 @@ std::string frm_PE_UNIT::WhatIsEntered() const {
 
 void frm_PE_UNIT::ValidateReceipt(std::int16_t& valid) {
   valid = 0;
+  // A date that nobody has chosen is the day of the confirmation, however long the window stands
+  // open.
+  if (DTPicker1.Value() == givenDate_) GiveTodaysDate();
   HeadValues[head::Id] = NextSlipId(SlipTable);
   HeadValues[head::State] = "1";
   HeadValues[head::Date] = DTPicker1.Value();

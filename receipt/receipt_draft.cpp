@@ -24,6 +24,7 @@ Draft frm_PE_UNIT::DraftNow() const {
               .PartnerName = Text1.Text(),
               .Date = DTPicker1.Value(),
               .Depot = Combo1.Text()};
+  draft.Lines.reserve(static_cast<size_t>(FLEX1.Rows()));
   for (int row = FLEX1.Rows() - 1; row >= 1; --row) {
     draft.Lines.push_back({FLEX1.TextMatrix(row, receipt::Code),
                            NameInCell(FLEX1.TextMatrix(row, receipt::Name)),
@@ -37,16 +38,15 @@ void frm_PE_UNIT::NoteDraft() {
 }
 
 void frm_PE_UNIT::BringBack(const Draft& draft) {
-  // Changed in the moment between the look and the loading: it is shown as it stands.
   if (draft.Stamp != StandOf(order_)) {
     PutDraftAside(draft.Id);
-    TellSlipChanged(draft);
+    TellNotGoneOnWith(order_.Id.empty() ? "" : StandOf(order_));
     return;
   }
   DTPicker1.SetValue(draft.Date);
   const bool hasDepot = ChooseDepot(Combo1, DepotCodeOf(draft.Depot));
   BringRowsBack(draft);
-  draft_.GoOnWith(draft);
+  draft_.GoOnWith(draft, {});
   TellNotBroughtBack({}, hasDepot ? "" : draft.Depot);
 }
 

@@ -34,7 +34,7 @@ struct Draft {
 };
 
 /// Whether two drafts hold the same of what a person enters, wherever and whenever it was kept.
-bool SameContent(const Draft& one, const Draft& other);
+bool SameEntries(const Draft& one, const Draft& other);
 
 /// What the name cell of a line shows behind its barcode.
 std::string NameInCell(const std::string& cell);

@@ -14,12 +14,25 @@
 namespace store {
 namespace {
 
+/// Waits for a save under that key that is still running at the server.
+std::string LookStatement(const std::string& slipId) {
+  return Splice(" SELECT PE_ID FROM PEM22 WHERE PE_ID = '{slip}' LOCK IN SHARE MODE",
+                "slip"_a = slipId);
+}
+
 /// The lines of an order, with what its header holds of a draft.
 std::string ContentStatement(const std::string& slipId) {
   return Splice(
       "SELECT PSM22.PR_CODE,PS_SQTY,PE_PDATE,PE_TCTCODE,PS_HCTCODE FROM PEM22 JOIN PSM22 ON "
       "PEM22.PE_ID = PSM22.PE_ID WHERE PEM22.PE_ID='{slip}'",
       "slip"_a = slipId);
+}
+
+/// Waits for a save at which the server may still be working, though the program that sent it is
+/// gone.
+std::string WaitStatement(const std::string& slipId) {
+  return Splice(" SELECT PE_ID FROM PEM22 WHERE PE_ID = '{slip}' LOCK IN SHARE MODE",
+                "slip"_a = slipId);
 }
 
 using Quantities = std::vector<std::pair<std::string, double>>;
@@ -54,7 +67,12 @@ bool Holds(const std::string& slipId, const Draft& draft) {
 DraftFate FateOf(const Draft& draft) {
   const bool isOrder = draft.SlipTable == "PEM22";
   const std::string& key = draft.SlipId.empty() ? draft.TriedId : draft.SlipId;
+  // Asked without a key too: whoever goes on needs the server for the prices.
+  if (!FetchRecordset(LookStatement(key))) return DraftFate::Unreadable;
   if (key.empty()) return DraftFate::GoesOn;
+  if (!draft.TriedId.empty() && !FetchRecordset(WaitStatement(draft.TriedId))) {
+    return DraftFate::Unreadable;
+  }
   const std::optional<OrderAsRead> order = ReadOrder(key);
   if (!order && !LastErrorText.empty()) return DraftFate::Unreadable;
   const std::string stand = order ? StandOf(*order) : std::string();

@@ -1,41 +1,36 @@
 #include "slips/draft_file.h"
 
-#include <fcntl.h>
 #include <sqlite3.h>
-#include <sys/file.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 #include <array>
 #include <utility>
 
-#include "forms/host.h"
+#include "slips/draft_connection.h"
 
 namespace store {
 namespace {
 
-constexpr int kVersion = 1;
-constexpr int kBusyWait = 2000;  // milliseconds for another process's write
-
-constexpr const char* kSchema =
-    "CREATE TABLE draft (id TEXT PRIMARY KEY, owner TEXT NOT NULL, form TEXT, slip_id TEXT,"
-    " slip_table TEXT, no_price INTEGER, stamp TEXT, tried_id TEXT, partner_code TEXT,"
-    " partner_name TEXT, date TEXT, depot TEXT, changed_at TEXT);"
-    "CREATE TABLE line (draft TEXT REFERENCES draft (id) ON DELETE CASCADE, number INTEGER,"
-    " code TEXT, name TEXT, quantity TEXT, from_slip INTEGER, PRIMARY KEY (draft, number))"
-    " WITHOUT ROWID;"
-    "PRAGMA user_version = 1;";
-
 /// The statements of a file, in the order of `kTexts`.
-enum Text { kPutDraft, kPutLine, kCutLines, kPutAside, kRemove, kReadDrafts, kReadLines, kTake };
-constexpr std::array<const char*, 8> kTexts = {
+enum Text {
+  kPutDraft,
+  kPutLine,
+  kCutLine,
+  kCutLines,
+  kPutAside,
+  kRemove,
+  kReadDrafts,
+  kReadLines,
+  kTake
+};
+constexpr std::array<const char*, 9> kTexts = {
     "INSERT INTO draft (id,owner,form,slip_id,slip_table,no_price,stamp,tried_id,partner_code,"
     "partner_name,date,depot,changed_at) VALUES (?1,?2,?3,?4,?5,?6,?7,?8,?9,?10,?11,?12,?13)"
     " ON CONFLICT (id) DO UPDATE SET owner=?2,tried_id=?8,partner_code=?9,partner_name=?10,"
     "date=?11,depot=?12,changed_at=?13,slip_id=?4,stamp=?7",
     "INSERT OR REPLACE INTO line (draft,number,code,name,quantity,from_slip)"
     " VALUES (?1,?2,?3,?4,?5,?6)",
-    "DELETE FROM line WHERE draft=?1 AND number>?2",
+    "DELETE FROM line WHERE draft=?1 AND number=?2",
+    "DELETE FROM line WHERE draft=?1",
     "UPDATE draft SET owner='' WHERE id=?1",
     "DELETE FROM draft WHERE id=?1",
     "SELECT id,owner,form,slip_id,slip_table,no_price,stamp,tried_id,partner_code,partner_name,"
@@ -43,119 +38,8 @@ constexpr std::array<const char*, 8> kTexts = {
     "SELECT code,name,quantity,from_slip FROM line WHERE draft=?1 ORDER BY number",
     "UPDATE draft SET owner=?3 WHERE id=?1 AND owner=?2"};
 
-/// Keeps other processes out while the file is made, looked through or set aside.
-class OpeningLock {
- public:
-  explicit OpeningLock(const std::filesystem::path& path)
-      : file_(open((path.string() + ".lock").c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0600)) {
-    if (file_ >= 0) flock(file_, LOCK_EX);
-  }
-  ~OpeningLock() {
-    if (file_ >= 0) close(file_);
-  }
-  OpeningLock(const OpeningLock&) = delete;
-  OpeningLock& operator=(const OpeningLock&) = delete;
-  bool Holds() const { return file_ >= 0; }
-
- private:
-  int file_;
-};
-
-bool MakeFolder(const std::filesystem::path& folder) {
-  std::error_code failed;
-  std::filesystem::create_directories(folder, failed);
-  return chmod(folder.c_str(), 0700) == 0;
-}
-
-/// The owner's alone, whether it is new or was copied here with other rights.
-bool MakeOwnersAlone(const std::filesystem::path& path) {
-  const int made = open(path.c_str(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
-  if (made >= 0) close(made);
-  return chmod(path.c_str(), 0600) == 0;
-}
-
 bool Run(sqlite3* file, const char* text) {
   return sqlite3_exec(file, text, nullptr, nullptr, nullptr) == SQLITE_OK;
-}
-
-/// The first cell that a statement gives, and how that ended: SQLITE_ROW when there was one.
-struct Cell {
-  Cell(sqlite3* file, const char* text) {
-    sqlite3_stmt* statement = nullptr;
-    Code = sqlite3_prepare_v2(file, text, -1, &statement, nullptr);
-    if (Code == SQLITE_OK) Code = sqlite3_step(statement);
-    if (Code == SQLITE_ROW) {
-      Text = reinterpret_cast<const char*>(sqlite3_column_text(statement, 0));
-    }
-    sqlite3_finalize(statement);
-  }
-  bool Is(const std::string& text) const { return Code == SQLITE_ROW && Text == text; }
-  bool Damaged() const { return Code == SQLITE_CORRUPT || Code == SQLITE_NOTADB; }
-
-  int Code;
-  std::string Text;
-};
-
-enum class State { Usable, New, Newer, Damaged, OutOfReach };
-
-State StateOf(sqlite3* file) {
-  const Cell version(file, "PRAGMA user_version");
-  const Cell check(file, "PRAGMA quick_check(1)");
-  if (version.Damaged() || check.Damaged()) return State::Damaged;
-  // Busy, or without rights: no reason to throw anything out of the way.
-  if (version.Code != SQLITE_ROW || check.Code != SQLITE_ROW) return State::OutOfReach;
-  if (!check.Is("ok")) return State::Damaged;
-  if (version.Is(std::to_string(kVersion))) return State::Usable;
-  if (!version.Is("0")) return State::Newer;
-  return Cell(file, "SELECT COUNT(*) FROM sqlite_master").Is("0") ? State::New : State::Damaged;
-}
-
-/// Opened and made ready, or nothing; `state` says in which state the file was found.
-sqlite3* OpenUsable(const std::filesystem::path& path, State& state) {
-  sqlite3* file = nullptr;
-  const int flags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX;
-  bool ready = sqlite3_open_v2(path.c_str(), &file, flags, nullptr) == SQLITE_OK;
-  if (ready) sqlite3_busy_timeout(file, kBusyWait);
-  state = ready ? StateOf(file) : State::OutOfReach;
-  if (state == State::New) ready = Run(file, "BEGIN IMMEDIATE") && Run(file, kSchema);
-  if (state == State::New) ready = ready && Run(file, "COMMIT");
-  // Every write reaches the disk before the next begins: it is a thread of its own that waits.
-  ready = ready && (state == State::Usable || state == State::New) &&
-          Run(file, "PRAGMA journal_mode=WAL; PRAGMA synchronous=FULL; PRAGMA foreign_keys=ON");
-  if (ready) return file;
-  sqlite3_close(file);
-  return nullptr;
-}
-
-/// A free name beside the file that says why it was set aside.
-std::filesystem::path AsideName(const std::filesystem::path& path, const std::string& why) {
-  const std::string stem =
-      path.string() + "." + why + "-" + FormatDateValue(Host.Now(), "YYYYMMDD-HHNNSS");
-  std::string name = stem;
-  std::error_code failed;
-  for (int next = 2; std::filesystem::exists(name, failed); ++next) {
-    name = stem + "-" + std::to_string(next);
-  }
-  return name;
-}
-
-bool SetAside(const std::filesystem::path& path, const std::filesystem::path& aside) {
-  std::error_code failed;
-  std::filesystem::rename(path, aside, failed);
-  const bool done = !failed;
-  // What belongs to the file goes with it: the new one must not take it for its own.
-  for (const char* part : {"-wal", "-shm"}) {
-    std::filesystem::rename(path.string() + part, aside.string() + part, failed);
-  }
-  return done;
-}
-
-std::string AsideNotice(State state, const std::filesystem::path& aside) {
-  const std::string why =
-      state == State::Newer
-          ? "쓰던 전표를 담은 파일이 더 새로운 프로그램의 것이라 읽을 수 없습니다."
-          : "쓰던 전표를 담은 파일이 손상되어 읽을 수 없습니다.";
-  return why + "\r\r파일은 지우지 않고 다음 이름으로 옮겨 두었습니다.\r" + aside.string();
 }
 
 }  // namespace
@@ -195,17 +79,12 @@ class DraftFile::Use {
 };
 
 std::unique_ptr<DraftFile> DraftFile::Open(const std::filesystem::path& path, std::string& notice) {
-  if (!MakeFolder(path.parent_path())) return nullptr;
-  const OpeningLock lock(path);
-  if (!lock.Holds() || !MakeOwnersAlone(path)) return nullptr;
-  State state = State::Damaged;
-  sqlite3* file = OpenUsable(path, state);
-  if (file == nullptr && (state == State::Damaged || state == State::Newer)) {
-    const auto aside = AsideName(path, state == State::Newer ? "newer" : "damaged");
-    if (!SetAside(path, aside)) return nullptr;
-    notice = AsideNotice(state, aside);
-    if (MakeOwnersAlone(path)) file = OpenUsable(path, state);
-  }
+  return Ready(OpenDraftFile(path, notice));
+}
+
+std::unique_ptr<DraftFile> DraftFile::Beside() const { return Ready(OpenBeside(file_)); }
+
+std::unique_ptr<DraftFile> DraftFile::Ready(sqlite3* file) {
   if (file == nullptr) return nullptr;
   std::unique_ptr<DraftFile> drafts(new DraftFile(file));
   return drafts->Prepare() ? std::move(drafts) : nullptr;
@@ -233,7 +112,6 @@ bool DraftFile::Write(const std::map<std::string, DraftChange>& changes, const s
   for (const auto& [id, change] : changes) done = done && WriteOne(id, change, owner);
   if (done && Run(file_, "COMMIT")) {
     for (const auto& [id, change] : changes) {
-      if (change.Written) written_[id] = change.Content;
       if (change.Removed || change.PutAside) written_.erase(id);
     }
     return true;
@@ -258,22 +136,36 @@ bool DraftFile::WriteContent(const Draft& draft, const std::string& owner) {
   return use.Done() && WriteLines(draft);
 }
 
-// Of a long order only what a scan has changed goes to the disk.
+// Of a long order only what a scan has changed goes to the disk. A line keeps its number for as
+// long as those before it stay where they are; one that comes behind the last has the next.
 bool DraftFile::WriteLines(const Draft& draft) {
-  const auto before = written_.find(draft.Id);
-  const bool known = before != written_.end();
-  int number = 0;
+  const auto found = written_.find(draft.Id);
+  if (found == written_.end() && !Use(*this, kCutLines).Put(draft.Id).Done()) return false;
+  const NumberedLines before =
+      found == written_.end() ? NumberedLines() : std::exchange(found->second, {});
+  NumberedLines& now = written_[draft.Id];
+  now.reserve(draft.Lines.size());
+  auto old = before.begin();
+  int next = before.empty() ? 1 : before.back().first + 1;
+  bool done = true;
   for (const DraftLine& line : draft.Lines) {
-    const auto index = static_cast<size_t>(number++);
-    const bool stands =
-        known && index < before->second.Lines.size() && before->second.Lines[index] == line;
-    if (stands) continue;
-    Use use(*this, kPutLine);
-    use.Put(draft.Id).Put(number).Put(line.Code).Put(line.Name).Put(line.Quantity);
-    if (!use.Put(line.FromSlip ? 1 : 0).Done()) return false;
+    for (; old != before.end() && old->second.Code != line.Code; ++old) {
+      done = done && Use(*this, kCutLine).Put(draft.Id).Put(old->first).Done();
+    }
+    const bool stands = old != before.end() && old->second == line;
+    now.emplace_back(old == before.end() ? next++ : (old++)->first, line);
+    done = done && (stands || WriteLine(draft.Id, now.back()));
   }
-  if (known && before->second.Lines.size() <= draft.Lines.size()) return true;
-  return Use(*this, kCutLines).Put(draft.Id).Put(number).Done();
+  for (; old != before.end(); ++old) {
+    done = done && Use(*this, kCutLine).Put(draft.Id).Put(old->first).Done();
+  }
+  return done;
+}
+
+bool DraftFile::WriteLine(const std::string& id, const NumberedLine& line) {
+  Use use(*this, kPutLine);
+  use.Put(id).Put(line.first).Put(line.second.Code).Put(line.second.Name);
+  return use.Put(line.second.Quantity).Put(line.second.FromSlip ? 1 : 0).Done();
 }
 
 bool DraftFile::Remove(const std::string& id) { return Use(*this, kRemove).Put(id).Done(); }

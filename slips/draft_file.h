@@ -4,6 +4,7 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "slips/draft.h"
@@ -27,14 +28,14 @@ struct DraftChange {
   Draft Content = {};
 };
 
-/// The file in which one user of one store keeps drafts. Several processes may have it open; within
-/// a process only one thread at a time uses it. What a call has written is there after a power cut.
+/// The file in which one user of one store keeps drafts. Several processes may have it open; one
+/// thread at a time uses an object of this class. What a call has written is there after a power
+/// cut.
 class DraftFile {
  public:
-  /// Opens the file, which is made for its owner's eyes alone, with its folder. One that is damaged
-  /// or of a newer program is set aside under another name, and `notice` tells the person so.
-  /// Nothing when there can be no file in that place.
+  /// As `OpenDraftFile` and `OpenBeside` (slips/draft_connection.h).
   static std::unique_ptr<DraftFile> Open(const std::filesystem::path& path, std::string& notice);
+  std::unique_ptr<DraftFile> Beside() const;
   ~DraftFile();
   DraftFile(const DraftFile&) = delete;
   DraftFile& operator=(const DraftFile&) = delete;
@@ -48,17 +49,22 @@ class DraftFile {
 
  private:
   class Use;
+  using NumberedLine = std::pair<int, DraftLine>;
+  using NumberedLines = std::vector<NumberedLine>;
   explicit DraftFile(sqlite3* file) : file_(file) {}
+  /// What works on that connection, or nothing.
+  static std::unique_ptr<DraftFile> Ready(sqlite3* file);
   bool Prepare();
   bool WriteOne(const std::string& id, const DraftChange& change, const std::string& owner);
   bool WriteContent(const Draft& draft, const std::string& owner);
   bool WriteLines(const Draft& draft);
+  bool WriteLine(const std::string& id, const NumberedLine& line);
   void ReadLines(Draft& draft);
   bool Remove(const std::string& id);
 
   sqlite3* file_;
   std::vector<sqlite3_stmt*> statements_;
-  std::map<std::string, Draft> written_;  // as this process last wrote them
+  std::map<std::string, NumberedLines> written_;  // by draft, as they were last written here
 };
 
 }  // namespace store

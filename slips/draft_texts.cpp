@@ -33,6 +33,14 @@ void TellSlipChanged(const Draft& draft) {
   }
 }
 
+void TellNotGoneOnWith(const std::string& stand) {
+  if (stand.empty()) return TellDraftUnreadable();
+  Host.MsgBox(
+      "그 사이에 다른 곳에서 바뀐 전표라 지금 내용을 보여 줍니다.\r\r쓰던 내용은 쓰던 전표 목록에 "
+      "그대로 있습니다.",
+      box::Warning, kTitle);
+}
+
 void TellAlreadyStored(const Draft& draft) {
   Host.MsgBox("쓰던 내용 그대로 이미 저장되어 있습니다.\r\r전표번호 " + KeyOf(draft),
               box::Information, kTitle);
@@ -60,9 +68,10 @@ void TellNotBroughtBack(const std::vector<DraftLine>& refused, const std::string
     if (refused.size() > kLinesNamed) {
       text += "외 " + std::to_string(refused.size() - kLinesNamed) + "건\r";
     }
-    text += "\r";
+    text += "\r저장하지 않고 닫으면 이 품목도 쓰던 전표에 그대로 남습니다.";
   }
   if (!depot.empty()) {
+    if (!text.empty()) text += "\r\r";
     text += "하치장 [" + std::string(NameOfEntry(depot)) +
             "]은(는) 목록에 없습니다. 하치장을 다시 고르세요.";
   }

@@ -11,6 +11,9 @@ namespace store {
 
 /// The order behind the draft is not as it was when it was loaded.
 void TellSlipChanged(const Draft& draft);
+/// It was when the draft was looked up, and a moment later it stood otherwise (`stand`) or could
+/// not be read: the form shows it as it is, and the draft is kept.
+void TellNotGoneOnWith(const std::string& stand);
 /// What the draft holds stands in the database already.
 void TellAlreadyStored(const Draft& draft);
 /// The database could not be asked.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <string>
 #include <vector>
 
@@ -19,11 +20,12 @@ void KeepDraft(Draft draft);
 /// This run writes it no more; it can be brought back.
 void PutDraftAside(const std::string& id);
 void RemoveDraft(const std::string& id);
-/// Waits until everything is on the disk.
-void FlushDrafts();
+/// Waits until everything is on the disk. False when that takes longer than somebody can wait.
+bool FlushDrafts(std::chrono::milliseconds patience);
 
 /// The drafts that can be brought back, the newest first: put aside, or left by a run that is gone.
-/// Those of the last month; a slip that is older could not be saved any more.
+/// Those of the last month; a slip that is older could not be saved any more. Does not wait for the
+/// disk.
 std::vector<Draft> KeptDrafts();
 /// Makes a kept draft this run's. False when another run was quicker.
 bool TakeDraft(const std::string& id);

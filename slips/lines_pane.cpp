@@ -61,16 +61,18 @@ void LinesPane::ClearLines() {
   RecalcTotals();
 }
 
-void LinesPane::LoadLines(const std::string& statement, const std::function<void()>& header,
+bool LinesPane::LoadLines(const std::string& statement, const std::function<void()>& header,
                           const std::function<void()>& line) {
   const Hourglass waiting;
   SqlText = statement;
   OpenRecordset(SlotA, SqlText);
   FLEX1.SetRows(1);
+  const bool read = SlotA != nullptr;
   if (!AtEof(SlotA)) header();
   ForEachRow(SlotA, line);
   LaAmt[0].Caption = std::to_string(FLEX1.Rows() - 1);
   CloseRecordset(SlotA);
+  return read;
 }
 
 void LinesPane::ShowTotals(const std::string& total, const std::string& supply,

@@ -38,8 +38,9 @@ class LinesPane {
   void ClearLines();
 
   /// Fills the pane from a slip's statement, read through `SlotA`: `header` runs once at the first
-  /// row, `line` for each. A slip that cannot be read leaves no lines.
-  void LoadLines(const std::string& statement, const std::function<void()>& header,
+  /// row, `line` for each. A slip that cannot be read leaves no lines, and gives
+  /// false.
+  bool LoadLines(const std::string& statement, const std::function<void()>& header,
                  const std::function<void()>& line);
   /// The stored totals, as the database gives them.
   void ShowTotals(const std::string& total, const std::string& supply, const std::string& tax);

@@ -3,10 +3,12 @@
 #include <algorithm>
 #include <utility>
 
+#include "forms/host.h"
 #include "gateway/gateway.h"
 #include "slips/post_order.h"
 #include "slips/received_order.h"
 #include "slips/slip_keys.h"
+#include "slips/stored_once.h"
 
 namespace store {
 namespace {
@@ -29,9 +31,14 @@ constexpr const char* kKeyTaken =
 /// Whether what was found is just what was to be stored: the same content, in the state asked for
 /// or in one to which others have moved it since.
 bool HasBrought(const TriesFound& found, const StoredOrder& order) {
-  if (!found.Own || !SameContent(*found.Own, order)) return false;
+  if (!found.Own || !SameOrder(*found.Own, order)) return false;
   return found.State == order.State ||
          (found.Own->State == order.State && found.State > order.State);
+}
+
+bool WereAskedFor(const TriesFound& found) {
+  if (!found.Asked) LastErrorText = kStillUnknown;
+  return found.Asked;
 }
 
 void GiveKey(const std::string& slipId, HeadArray& headValues, StringTable& lineValues) {
@@ -59,16 +66,16 @@ std::string OrderInHand::Stand() const {
              : std::string();
 }
 
-bool OrderInHand::AskForTries(TriesFound& found) const {
-  if (tries_.empty()) return true;
-  found = LookForTries(IsNew() ? keyOfTries_ : openedId_, tries_);
-  if (!found.Asked) LastErrorText = kStillUnknown;
-  return found.Asked;
+bool OrderInHand::TriesCanBeAskedFor() const {
+  return tries_.empty() || WereAskedFor(LookForTries(KeyToAskFor(), tries_));
 }
 
-bool OrderInHand::TriesCanBeAskedFor() const {
-  TriesFound ignored;
-  return AskForTries(ignored);
+/// When the order is found it is looked for once more.
+TriesFound OrderInHand::LookFor(const std::string& slipId, const StoredOrder& order) const {
+  TriesFound found = LookForTries(slipId, tries_);
+  if (!HasBrought(found, order)) return found;
+  Host.Sleep(kUntilOnDisk);
+  return LookForTries(slipId, tries_);
 }
 
 void OrderInHand::FindItsKey(HeadArray& headValues, StringTable& lineValues) {
@@ -78,7 +85,7 @@ void OrderInHand::FindItsKey(HeadArray& headValues, StringTable& lineValues) {
   const StoredOrder order = OrderAsSent(headValues, lineValues);
   const auto same = std::find_if(Aside.begin(), Aside.end(), [&](const OrderInHand& aside) {
     return std::any_of(aside.tries_.begin(), aside.tries_.end(),
-                       [&](const StoredOrder& lost) { return SameContent(lost, order); });
+                       [&](const StoredOrder& lost) { return SameOrder(lost, order); });
   });
   if (same == Aside.end()) return;
   *this = std::move(*same);
@@ -91,7 +98,10 @@ bool OrderInHand::Save(const HeadArray& headValues, const StringTable& lineValue
   const StoredOrder order = OrderAsSent(headValues, lineValues);
   const std::string slipId = headValues[head::Id];
   TriesFound found;
-  if (!AskForTries(found)) return false;
+  if (!tries_.empty()) {
+    found = LookFor(KeyToAskFor(), order);
+    if (!WereAskedFor(found)) return false;
+  }
   const bool stored = HasBrought(found, order) || Post(headValues, lineValues, table) ||
                       (BatchInDoubt ? AfterLostAnswer(slipId, order) : AfterRefusal(slipId, order));
   if (stored) *this = {};
@@ -110,7 +120,7 @@ bool OrderInHand::AfterLostAnswer(const std::string& slipId, const StoredOrder& 
   const std::string words = LastErrorText;
   if (IsNew()) keyOfTries_ = slipId;
   tries_.push_back(order);
-  const TriesFound found = LookForTries(slipId, tries_);
+  const TriesFound found = LookFor(slipId, order);
   LastErrorText = found.Asked ? kNotYetStored : words + kSavedAtMostOnce;
   return HasBrought(found, order);
 }
@@ -120,7 +130,7 @@ bool OrderInHand::AfterRefusal(const std::string& slipId, const StoredOrder& ord
   if (IsNew()) SlipSeqCounter = 0;
   if (tries_.empty()) return false;
   const std::string words = LastErrorText;
-  const TriesFound found = LookForTries(slipId, tries_);
+  const TriesFound found = LookFor(slipId, order);
   LastErrorText = words;
   if (HasBrought(found, order)) return true;
   if (!IsNew() || !found.Taken) return false;

@@ -17,6 +17,9 @@ class OrderInHand {
   /// Reads what stands under the key of an order that the form is about to show. One that cannot be
   /// read can be looked at, but not saved.
   void Open(const std::string& slipId);
+  /// What the form shows of the opened order is not the whole of it: then it cannot be saved
+  /// either.
+  void IsNotShown() { opened_.reset(); }
   /// The depot of the opened order's first line; empty without one.
   std::string Depot() const;
   /// How the opened order stood (slips/received_order.h); empty of a new one, and of one that could
@@ -45,7 +48,8 @@ class OrderInHand {
 
  private:
   bool IsNew() const { return openedId_.empty(); }
-  bool AskForTries(TriesFound& found) const;
+  const std::string& KeyToAskFor() const { return IsNew() ? keyOfTries_ : openedId_; }
+  TriesFound LookFor(const std::string& slipId, const StoredOrder& order) const;
   bool Post(const HeadArray& headValues, const StringTable& lineValues, const std::string& table);
   bool AfterLostAnswer(const std::string& slipId, const StoredOrder& order);
   bool AfterRefusal(const std::string& slipId, const StoredOrder& order);

@@ -10,6 +10,8 @@
 namespace store {
 namespace {
 
+constexpr int kAttempts = 4;
+
 /// What the header table decides.
 struct Direction {
   std::string lines;
@@ -42,26 +44,26 @@ std::string CloseOrderStatement(const HeadFields& head) {
   return Splice(" UPDATE PEM22 SET PE_CK = '4' , PE_LINK = '{H0}' WHERE PE_ID = '{H20}'", head);
 }
 
+/// The user's other workstation may have received the same order under the same key, and where
+/// goods cost nothing with the same totals. So the lines are held against each other too.
 std::string TraceStatement(const HeadFields& head, const std::string& table,
-                           const std::string& lines, std::size_t count) {
+                           const std::string& lines, const std::vector<LineFields>& sent) {
+  std::string rows;
+  for (const LineFields& fields : sent) {
+    rows += Splice("{comma}({L1},'{L3}',{L8},{L12},'{L17}')", fields,
+                   "comma"_a = rows.empty() ? "" : ",");
+  }
   return Splice(
       " SELECT PE_ID FROM {table} WHERE PE_ID = '{H0}' AND PE_PDATE = '{H2}' AND PE_AMT = {H8} AND "
-      "PE_TAX = {H9} AND PE_TOT = {H10} AND PE_LINK = '{H20}' AND {count} = (SELECT COUNT(*) FROM "
-      "{lines} WHERE PE_ID = '{H0}')",
-      head, "table"_a = table, "lines"_a = lines, "count"_a = std::to_string(count));
+      "PE_TAX = {H9} AND PE_TOT = {H10} AND PE_LINK = '{H20}' AND (SELECT COUNT(*) = {count} AND "
+      "SUM((PS_NO,PR_CODE,PS_SQTY,PS_AMT,PS_HCTCODE) IN ({rows})) = {count} FROM {lines} WHERE "
+      "PE_ID = '{H0}')",
+      head, "table"_a = table, "lines"_a = lines, "count"_a = std::to_string(sent.size()),
+      "rows"_a = rows);
 }
 
-}  // namespace
-
-std::string ReceiptTrace(const HeadArray& headValues, const StringTable& lineValues,
-                         const std::string& table) {
-  return TraceStatement(HeadFields(headValues, head::Supply, head::Discount), table,
-                        DirectionOf(table).lines, LinesOf(lineValues).size());
-}
-
-std::int16_t PostReceipt(const HeadArray& headValues, const StringTable& lineValues,
-                         const std::string& table, const std::string& guard) {
-  const Hourglass waiting;
+void BuildReceipt(const HeadArray& headValues, const StringTable& lineValues,
+                  const std::string& table, const std::string& guard) {
   const Direction direction = DirectionOf(table);
   const HeadFields head(headValues, head::Supply, head::Discount);
   StartBatch();
@@ -72,7 +74,24 @@ std::int16_t PostReceipt(const HeadArray& headValues, const StringTable& lineVal
   if (ParseNumber(headValues[head::State]) != 0) {
     AddMovement(head, LinesOf(lineValues), direction.movement);
   }
-  return ExecuteBatch(SqlBatch);
+}
+
+}  // namespace
+
+std::string ReceiptTrace(const HeadArray& headValues, const StringTable& lineValues,
+                         const std::string& table) {
+  return TraceStatement(HeadFields(headValues, head::Supply, head::Discount), table,
+                        DirectionOf(table).lines, LinesOf(lineValues));
+}
+
+std::int16_t PostReceipt(const HeadArray& headValues, const StringTable& lineValues,
+                         const std::string& table, const std::string& guard) {
+  const Hourglass waiting;
+  for (int attempt = 1;; ++attempt) {
+    BuildReceipt(headValues, lineValues, table, guard);
+    const std::int16_t posted = ExecuteBatch(SqlBatch);
+    if (posted != 0 || LastErrorText != kCountsMoved || attempt == kAttempts) return posted;
+  }
 }
 
 }  // namespace store

@@ -42,7 +42,7 @@ std::string StillAsRead(const OrderAsRead& order) {
 
 std::string WhatHappenedTo(const OrderAsRead& order) {
   const RecordsetSlot row = FetchRecordset(OrderStatement(order.Id));
-  if (!row) return std::string(kOrderMoved) + "\r입고 처리하지 않았습니다.";
+  if (!row) return std::string(kOrderMoved).append("\r입고 처리하지 않았습니다.");
   if (row->Eof()) {
     return "다른 곳에서 삭제된 발주전표입니다. 입고 처리하지 않았습니다.\r창을 닫고 발주 목록을 "
            "새로고침하세요.";

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <string>
+#include <vector>
+
 #include "slips/draft.h"
 
 namespace store {
@@ -12,12 +15,16 @@ class SlipDraft {
   /// form before anybody has written.
   void Begin(Draft start);
   bool HasBegun() const { return begun_; }
-  /// The form goes on with a draft that was taken (`TakeDraft`).
-  void GoOnWith(const Draft& draft);
+  /// The form goes on with a draft that was taken (`TakeDraft`). Lines that it could not write
+  /// again stay in the draft until the slip is saved.
+  void GoOnWith(const Draft& draft, std::vector<DraftLine> refused);
+  /// The supplier has changed and the lines have gone: so do the refused ones.
+  void ForgetRefused() { refused_.clear(); }
   /// Something has changed; passed over before `Begin`. Returns before anything is on the disk.
   void Note(Draft now);
   /// A save under the key `triedId` is about to be sent: that is on the disk before this returns,
-  /// so that whoever brings the draft back knows where to look whether it was stored.
+  /// so that whoever brings the draft back knows where to look whether it was stored. A disk that
+  /// stands still holds the save up for half a second and no longer.
   void NoteTry(Draft now, const std::string& triedId);
   /// The slip is stored: there is nothing left to keep, until the form begins anew.
   void Saved();
@@ -29,6 +36,7 @@ class SlipDraft {
   bool hasLines_ = false;
   std::string id_;  // while a draft is kept
   std::string triedId_;
+  std::vector<DraftLine> refused_;
   Draft start_;
 };
 

@@ -43,16 +43,32 @@ std::string StockCountIdStatement() {
       "store"_a = Session.StoreCode);
 }
 
-/// The statement above sees the last four digits only, so that behind 9999 it always says 10000.
-std::string HighestNumberStatement(const std::string& table, const std::string& beginning) {
+std::string HighestNumberStatement(const std::string& table, const std::string& key,
+                                   const std::string& beginning) {
   return Splice(
-      " SELECT MAX(CAST(SUBSTRING(PE_ID,CHAR_LENGTH('{beginning}')+1) AS UNSIGNED)) FROM {table} "
-      "WHERE PE_ID LIKE '{beginning}%'",
-      "beginning"_a = beginning, "table"_a = table);
+      " SELECT MAX(CAST(SUBSTRING({key},CHAR_LENGTH('{beginning}')+1) AS UNSIGNED)) FROM {table} "
+      "WHERE {key} LIKE '{beginning}%'",
+      "beginning"_a = beginning, "table"_a = table, "key"_a = key);
+}
+
+/// The statements above see the last four digits only, so that behind 9999 they always say 10000.
+/// 0 when the database cannot be read.
+double BehindTheHighest(double number, const std::string& table, const std::string& key,
+                        const std::string& beginning) {
+  if (number <= kLastOfFourDigits) return number;
+  const std::string highest = QueryText(HighestNumberStatement(table, key, beginning), "");
+  return LastErrorText.empty() ? std::max(number, ParseNumber(highest) + 1) : 0;
 }
 
 std::string BeginningOf(const std::string& table) {
   return SlipKeyPrefix + Session.UserCode + RightChars(table, 2);
+}
+
+/// The workstation's day. Its midnight may come before the database's, which is then asked for each
+/// key until it has followed.
+CalendarDate DayOf(const std::string& prefix) {
+  const CalendarDate yesterday = AddDays(Today(), -1);
+  return LeftChars(prefix, 8) == FormatDateValue(yesterday, "YYYYMMDD") ? yesterday : Today();
 }
 
 bool CountsInMemory() {
@@ -75,13 +91,9 @@ double NextInDatabase(const std::string& table) {
   QueryRows(SlipIdStatement(table), found, rows, highestColumn);
   if (rows == 0) return 0;
   SlipKeyPrefix = found.At(1, 0);
-  SlipKeyDay = Today();
-  double number = ParseNumber(found.At(1, 1));
-  if (number > kLastOfFourDigits) {
-    const std::string highest = QueryText(HighestNumberStatement(table, BeginningOf(table)), "");
-    if (!LastErrorText.empty()) return 0;
-    number = std::max(number, ParseNumber(highest) + 1);
-  }
+  SlipKeyDay = DayOf(SlipKeyPrefix);
+  const double number =
+      BehindTheHighest(ParseNumber(found.At(1, 1)), table, "PE_ID", BeginningOf(table));
   ToInt16(number, SlipSeqCounter);
   return number;
 }
@@ -111,8 +123,9 @@ std::string NextStockCountId(int before) {
   std::int32_t highestColumn = 0;
   QueryRows(StockCountIdStatement(), found, rows, highestColumn);
   if (rows == 0) return kNoKey;
-  return found.At(1, 0) + Session.UserCode +
-         FormatNumber(ParseNumber(found.At(1, 1)) + before, kNumberMask);
+  const std::string beginning = found.At(1, 0) + Session.UserCode;
+  const double number = BehindTheHighest(ParseNumber(found.At(1, 1)), "ME", "ME_ID", beginning);
+  return number == 0 ? kNoKey : beginning + FormatNumber(number + before, kNumberMask);
 }
 
 bool IsWholeKey(const std::string& slipId) { return !slipId.empty() && slipId != kNoKey; }

@@ -16,8 +16,9 @@ namespace store {
 extern std::int16_t SlipSeqCounter;
 /// Date and store of the last database read.
 extern std::string SlipKeyPrefix;
-/// The workstation's day at that read, or no day when nobody noted it. On another day the date in
-/// the prefix may be over, so the next key reads the database, whose date alone counts.
+/// The workstation's day at that read, or no day when nobody noted it; the database's where that is
+/// the day before. On another day the date in the prefix may be over, so the next key reads the
+/// database, whose date alone counts.
 extern CalendarDate SlipKeyDay;
 
 /// A key for a header table ("PEM22", "PEM23", ...), whose last two characters are the kind. This

@@ -1,10 +1,12 @@
 #include "slips/stock_balance.h"
 
 #include <cstddef>
+#include <map>
 
 #include "basics/dates.h"
 #include "basics/numbers.h"
 #include "gateway/gateway.h"
+#include "gateway/guard.h"
 #include "slips/slip.h"
 
 namespace store {
@@ -56,6 +58,38 @@ std::string BalanceInsertStatement(const HeadFields& fields, const std::string& 
       fields, "kind"_a = kind, "month"_a = month, "column"_a = column);
 }
 
+std::string StockGuard(const std::string& store, const std::string& depot,
+                       const std::vector<std::string>& products) {
+  std::string list;
+  for (const std::string& product : products) {
+    list +=
+        Splice("{comma}'{product}'", "comma"_a = list.empty() ? "" : ",", "product"_a = product);
+  }
+  return Guard(
+      Splice(" SELECT COUNT(*) FROM IV WHERE RCT_CODE='{store}' AND HCT_CODE='{depot}' AND PR_CODE "
+             "IN ({products}) HAVING COUNT(*) = COUNT(DISTINCT PR_CODE) FOR UPDATE",
+             "store"_a = store, "depot"_a = depot, "products"_a = list),
+      kCountsMoved);
+}
+
+std::string BalanceGuard(const HeadFields& fields, const std::string& kind,
+                         const std::string& month) {
+  return Guard(BalanceCountStatement(fields, kind, month) + " HAVING count(*) = 1 FOR UPDATE",
+               kCountsMoved);
+}
+
+/// Others may make a further row between the count and the batch. Then the update would raise both,
+/// and every reader, who sums, would see the goods twice.
+void AddStockGuards(const std::string& store, const std::vector<LineFields>& lines,
+                    const std::vector<bool>& ones) {
+  std::map<std::string, std::vector<std::string>> raised;  // products by depot
+  for (std::size_t i = 0; i < lines.size(); ++i) {
+    if (ones[i])
+      raised[lines[i].Field(line::DepotCode)].push_back(lines[i].Field(line::ProductCode));
+  }
+  for (const auto& [depot, products] : raised) AddToBatch(StockGuard(store, depot, products));
+}
+
 /// All counts in one read. The rows of a union come in no promised order, so each count has its
 /// number beside it.
 std::string CountsStatement(const std::vector<std::string>& counts) {
@@ -96,11 +130,13 @@ void AddMovement(const HeadFields& head, const std::vector<LineFields>& lines,
   if (movesBalance) counts.push_back(BalanceCountStatement(head, kind, month));
   const std::vector<bool> ones = CountOne(counts);
 
+  AddStockGuards(store, lines, ones);
   for (std::size_t i = 0; i < lines.size(); ++i) {
     AddToBatch(ones[i] ? StockUpdateStatement(lines[i], store, movement.StockColumn)
                        : StockInsertStatement(lines[i], store, movement.StockColumn));
   }
   if (!movesBalance) return;
+  if (ones.back()) AddToBatch(BalanceGuard(head, kind, month));
   AddToBatch(ones.back() ? BalanceUpdateStatement(head, kind, month, movement.BalanceColumn)
                          : BalanceInsertStatement(head, kind, month, movement.BalanceColumn));
 }

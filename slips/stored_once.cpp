@@ -2,6 +2,7 @@
 
 #include <map>
 
+#include "forms/host.h"
 #include "gateway/gateway.h"
 #include "slips/slip_checks.h"
 
@@ -13,15 +14,25 @@ std::map<std::string, StoredOnce> Work;
 }  // namespace
 
 std::optional<Fate> StoredOnce::FateOfEarlier(const std::string& content) {
+  std::optional<Fate> fate = LookForLost(content);
+  if (fate && fate != Fate::Unknown) {
+    Host.Sleep(kUntilOnDisk);
+    fate = LookForLost(content);
+  }
+  if (fate && fate != Fate::Unknown) lost_.clear();
+  return fate;
+}
+
+std::optional<Fate> StoredOnce::LookForLost(const std::string& content) const {
+  std::optional<Fate> fate;
   for (const Try& lost : lost_) {
     const RecordsetSlot found = FetchRecordset(lost.Trace);
     if (!found) return Fate::Unknown;
     if (found->Eof()) continue;
-    const Fate fate = lost.Content == content ? Fate::Stored : Fate::StoredOther;
-    lost_.clear();
-    return fate;
+    fate = lost.Content == content ? Fate::Stored : Fate::StoredOther;
+    if (fate == Fate::Stored) break;
   }
-  return std::nullopt;
+  return fate;
 }
 
 Fate StoredOnce::Send(const std::function<bool()>& post, const Try& current) {

@@ -16,6 +16,11 @@ enum class Fate {
   Unknown,      ///< A try of it lost its answer, and the database could not be asked.
 };
 
+/// A server shows what it has committed an instant before that is on its disk; one that fails in
+/// this instant has never stored it. So what a look finds is looked for once more after so many
+/// milliseconds. An answer to a batch needs none of this: it comes when all is on the disk.
+inline constexpr int kUntilOnDisk = 1000;
+
 /// One try to store a piece of work.
 struct Try {
   std::string Trace;    ///< A SELECT that gives a row if this try was stored, and never otherwise.
@@ -38,6 +43,8 @@ class StoredOnce {
   std::optional<Fate> FateOfEarlier(const std::string& content);
 
  private:
+  std::optional<Fate> LookForLost(const std::string& content) const;
+
   std::vector<Try> lost_;
 };
 

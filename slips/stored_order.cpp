@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <tuple>
 
+#include "basics/deployment.h"
 #include "basics/numbers.h"
 #include "gateway/gateway.h"
 #include "gateway/guard.h"
@@ -66,12 +67,13 @@ std::string LinesCondition(const std::vector<StoredLine>& lines) {
       "count"_a = count, "rows"_a = Joined(lines, ",", LineRow));
 }
 
-/// Whole seconds that have certainly passed by when the server reads its clock, which knows no
-/// parts of a second, and one more.
+/// More whole seconds than will have passed when the server reads its clock, which knows no parts
+/// of a second: what is composed now may wait for a connection, or be sent again.
 std::string SecondsSince(const Moment& sent) {
   const auto passed = std::max<std::chrono::duration<double>>(
       std::chrono::steady_clock::now() - sent.Steady, std::chrono::system_clock::now() - sent.Wall);
-  return std::to_string(static_cast<long long>(passed.count()) + 2);
+  const std::chrono::duration<double> underWay = ConnectTimeout() + BatchLimit();
+  return std::to_string(static_cast<long long>((passed + underWay).count()) + 2);
 }
 
 std::string StampCondition(const StoredOrder& order) {
@@ -155,7 +157,7 @@ StoredOrder OrderAsSent(const HeadArray& headValues, const StringTable& lineValu
   return order;
 }
 
-bool SameContent(const StoredOrder& one, const StoredOrder& other) {
+bool SameOrder(const StoredOrder& one, const StoredOrder& other) {
   const auto content = [](const StoredOrder& order) {
     return std::tie(order.Store, order.Supplier, order.Date, order.Total, order.Lines);
   };

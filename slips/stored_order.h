@@ -48,7 +48,7 @@ std::optional<StoredOrder> ReadStoredOrder(const std::string& slipId);
 StoredOrder OrderAsSent(const HeadArray& headValues, const StringTable& lineValues);
 
 /// Whether the same was ordered, in whatever state.
-bool SameContent(const StoredOrder& one, const StoredOrder& other);
+bool SameOrder(const StoredOrder& one, const StoredOrder& other);
 
 /// The guard of a change: the order still stands under its key, which is locked from here on.
 std::string StillThereGuard(const std::string& slipId);

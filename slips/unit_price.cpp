@@ -92,19 +92,7 @@ std::string OrderSettingStatement(const std::string& partner, const std::string&
       "store"_a = Session.StoreCode, "product"_a = product, "partner"_a = partner);
 }
 
-double LastTradePrice(const std::string& partner, const std::string& product,
-                      const std::string& source) {
-  const std::string lines = source == "PES13" ? "PSS13" : "PSM23";
-  SqlText = LastTradeStatement(partner, product, source, lines);
-  StringTable found;
-  std::int32_t rows = 0;
-  std::int32_t highestColumn = 0;
-  QueryRows(SqlText, found, rows, highestColumn);
-  return rows > 0 ? ParseNumber(found.At(1, 1)) : 0;
-}
-
-/// The reads that a contract price is made of. A failed one counts as one without a row, and is
-/// remembered.
+/// The reads that a price is made of. A failed one counts as one without a row, and is remembered.
 class PriceReads {
  public:
   bool Failed = false;
@@ -124,6 +112,14 @@ class PriceReads {
     return Rows(statement, found) > 0 ? found.At(1, 0) : "0";
   }
 };
+
+double LastTradePrice(PriceReads& reads, const std::string& partner, const std::string& product,
+                      const std::string& source) {
+  const std::string lines = source == "PES13" ? "PSS13" : "PSM23";
+  StringTable found;
+  const std::int32_t rows = reads.Rows(LastTradeStatement(partner, product, source, lines), found);
+  return rows > 0 ? ParseNumber(found.At(1, 1)) : 0;
+}
 
 double PriceFromLevel(PriceReads& reads, Side side, const std::string& party,
                       const std::string& product, std::string level) {
@@ -154,19 +150,15 @@ double PriceOfContract(PriceReads& reads, Side side, const std::string& party,
   return price != 0 ? price : PriceFromLevel(reads, side, party, product, found.At(1, 0));
 }
 
-double ContractPrice(const std::string& partner, const std::string& product,
+double ContractPrice(PriceReads& reads, const std::string& partner, const std::string& product,
                      const std::string& date) {
-  PriceReads reads;
   return PriceOfContract(reads, Side::Partner, partner, product,
                          PartnerContractStatement(partner, product, date));
 }
 
-double OrderSettingPrice(const std::string& partner, const std::string& product) {
-  SqlText = OrderSettingStatement(partner, product);
-  OpenRecordset(SlotA, SqlText);
-  const double price = AtEof(SlotA) ? 0 : ParseNumber(FieldText(SlotA, 0));
-  CloseRecordset(SlotA);
-  return price;
+double OrderSettingPrice(PriceReads& reads, const std::string& partner,
+                         const std::string& product) {
+  return ParseNumber(reads.Text(OrderSettingStatement(partner, product)));
 }
 
 /// The header table that holds the trades of a slip kind's side; empty for a kind of neither.
@@ -179,40 +171,49 @@ std::string TradeTable(const std::string& slipKind) {
   return "";
 }
 
-}  // namespace
-
-double ResolveUnitPrice(const std::string& partner, const std::string& product,
-                        const std::string& date, const std::string& kindOverride,
-                        const std::string& slipKind, const std::string& /*unused*/) {
+double UnitPrice(PriceReads& reads, const std::string& partner, const std::string& product,
+                 const std::string& date, const std::string& kindOverride,
+                 const std::string& slipKind) {
   std::string policy = AppOptions.BulkOrderPrice;
   if (policy == kPartnerDecides) {
-    SqlText = PartnerPolicyStatement(partner);
-    policy = kindOverride.empty() ? QueryText(SqlText, "0") : kindOverride;
+    policy = kindOverride.empty() ? reads.Text(PartnerPolicyStatement(partner)) : kindOverride;
   }
   // Options that were never saved leave no digit; an order then has no price.
   if (!IsNumeric(policy)) return 0;
-  if (ParseNumber(policy) == 5) return OrderSettingPrice(partner, product);
+  if (ParseNumber(policy) == 5) return OrderSettingPrice(reads, partner, product);
   const std::string source = TradeTable(slipKind);
   if (source.empty()) return 0;
-  if (policy == "0") return LastTradePrice(partner, product, source);
-  if (policy == "1") return ContractPrice(partner, product, date);
+  if (policy == "0") return LastTradePrice(reads, partner, product, source);
+  if (policy == "1") return ContractPrice(reads, partner, product, date);
   if (policy == "2") {
-    const double price = LastTradePrice(partner, product, source);
-    return price != 0 ? price : ContractPrice(partner, product, date);
+    const double price = LastTradePrice(reads, partner, product, source);
+    return price != 0 ? price : ContractPrice(reads, partner, product, date);
   }
   if (policy == "3") {
-    const double price = ContractPrice(partner, product, date);
-    return price != 0 ? price : LastTradePrice(partner, product, source);
+    const double price = ContractPrice(reads, partner, product, date);
+    return price != 0 ? price : LastTradePrice(reads, partner, product, source);
   }
   return 0;
+}
+
+std::optional<double> Read(const PriceReads& reads, double price) {
+  return reads.Failed ? std::nullopt : std::optional<double>(price);
+}
+
+}  // namespace
+
+std::optional<double> ResolveUnitPrice(const std::string& partner, const std::string& product,
+                                       const std::string& date, const std::string& kindOverride,
+                                       const std::string& slipKind, const std::string& /*unused*/) {
+  PriceReads reads;
+  return Read(reads, UnitPrice(reads, partner, product, date, kindOverride, slipKind));
 }
 
 std::optional<double> ResolveStorePrice(const std::string& storeCode, const std::string& product,
                                         const std::string& date) {
   PriceReads reads;
-  const double price = PriceOfContract(reads, Side::Store, storeCode, product,
-                                       StoreContractStatement(storeCode, product, date));
-  return reads.Failed ? std::nullopt : std::optional<double>(price);
+  return Read(reads, PriceOfContract(reads, Side::Store, storeCode, product,
+                                     StoreContractStatement(storeCode, product, date)));
 }
 
 }  // namespace store

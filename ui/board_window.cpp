@@ -67,12 +67,13 @@ BoardWindow::BoardWindow(frm_Start& form) : FormWindow(form), board_(form) {
 
 QWidget* BoardWindow::Band() {
   auto* store = Named("LaCaption", new QLabel);
+  auto* drafts = Named("LaDraft", new KeyButton({}, QKeySequence(Qt::CTRL | Qt::Key_D)));
   auto* web = Named("Label4", new KeyButton("홈페이지", QKeySequence(Qt::ALT | Qt::Key_H)));
   auto* smaller = Named("Label5_1", new KeyButton("최소화", QKeySequence(Qt::CTRL | Qt::Key_M)));
   auto* end = Named("Label5_0", new KeyButton("종료", Qt::Key_F12));
   auto* row = Row();
   row->addWidget(store, 1);
-  for (KeyButton* button : {web, smaller, end}) row->addWidget(button);
+  for (KeyButton* button : {drafts, web, smaller, end}) row->addWidget(button);
   QFont font = store->font();
   font.setBold(true);
   store->setFont(font);
@@ -90,7 +91,6 @@ QWidget* BoardWindow::Actions() {
   add(1, QKeySequence(Qt::SHIFT | Qt::Key_F2));
   add(4, Qt::Key_F8);
   row->addWidget(Named("HandheldMenu", new KeyButton({}, Qt::Key_F7)));
-  row->addWidget(Named("LaDraft", new KeyButton({}, QKeySequence(Qt::CTRL | Qt::Key_D))));
   row->addStretch();
   row->addWidget(SlipFinder());
   return Holder(row);

@@ -1,6 +1,8 @@
 // An order that was written and not saved, from the crash or the close to the day it is gone on
 // with.
+#include <chrono>
 #include <fstream>
+#include <thread>
 
 #include "lookup/lookup_form.h"
 #include "slips/post_order.h"
@@ -142,6 +144,17 @@ TEST_F(OrderDrafts, OnAnotherDayItemsAndPricesAreAskedAnew) {
   EXPECT_NE(after.find("P0005x6@1600 "), std::string::npos) << after;
   EXPECT_EQ(after.find("P0003x5@55 "), std::string::npos) << "that contract has ended";
   EXPECT_EQ(after.find("P0002"), std::string::npos) << after;
+  // What could not be ordered today is not lost with that.
+  Order().Close();
+  Sql("UPDATE PR SET PR_END='0' WHERE PR_CODE='P0002'");
+  Crash();
+  GoOn();
+  EXPECT_EQ(OrderLines(), after + "P0002x3@6000 ");
+  Supplier("#C0002");
+  Enter("88010003");
+  Crash();
+  GoOn();
+  EXPECT_EQ(OrderLines().find("P0005"), std::string::npos) << "another supplier, other lines";
 }
 
 TEST_F(OrderDrafts, AChangedOrderComesBackOntoItsSlipWithThatSlipsPrices) {
@@ -219,19 +232,99 @@ TEST_F(OrderDrafts, ASaveWhoseReplyWasLostIsNotMadeTwice) {
     EXPECT_EQ(Shown(), c.shown);
     EXPECT_EQ(OpenForm("frm_Order") != nullptr, c.edited);
     EXPECT_TRUE(!c.edited || OrderLines() == "P0001x13@700 P0002x3@6000 ");
+    if (c.edited) Order().Close();
+    ReleaseDroppedForms();
   }
+}
+
+TEST_F(OrderDrafts, WhatCouldNotBeSavedIsGoneOnWithAndSavedOnce) {
+  WriteOrder();
+  Sql("RENAME TABLE PSM22 TO PSM22_AWAY");
+  host.ExpectBox("저장이 실패하였습니다.");
+  Order().LaBtn_Click(0);
+  Sql("RENAME TABLE PSM22_AWAY TO PSM22; CREATE TABLE CT_AWAY AS SELECT * FROM CT; DELETE FROM CT "
+      "WHERE CT_CODE='C0001'");
+  Crash();
+  GoOn();
+  host.ExpectBox("거래처입력오류");  // the supplier is gone
+  Order().LaBtn_Click(0);
+  Order().Close();
+  Sql("INSERT INTO CT SELECT * FROM CT_AWAY WHERE CT_CODE='C0001'; DROP TABLE CT_AWAY");
+  GoOn();
+  const std::string orders = Value("SELECT COUNT(*)+1 FROM PEM22");
+  Save();
+  EXPECT_EQ(Value("SELECT COUNT(*) FROM PEM22"), orders);
+  EXPECT_EQ(Shown(), "");
+}
+
+// The program was ended while the server still worked at the save.
+TEST_F(OrderDrafts, ASaveThatIsStillRunningIsWaitedFor) {
+  WriteOrder();
+  Sql("RENAME TABLE PSM22 TO PSM22_AWAY");
+  host.ExpectBox("저장이 실패하였습니다.");
+  Order().LaBtn_Click(0);
+  Sql("RENAME TABLE PSM22_AWAY TO PSM22");
+  EXPECT_EQ(PostNewOrder(Order().HeadValues, Order().LineValues, "PEM22"), -1);
+  const std::string ofKey = " WHERE PE_ID='" + Order().HeadValues[head::Id] + "'";
+  Crash();
+  std::thread save([&] {
+    Sql("CREATE TEMPORARY TABLE H AS SELECT * FROM PEM22" + ofKey +
+        "; CREATE TEMPORARY TABLE L AS SELECT * FROM PSM22" + ofKey + "; DELETE FROM PEM22" +
+        ofKey +
+        "; START TRANSACTION; INSERT INTO PEM22 SELECT * FROM H; DO SLEEP(1); INSERT INTO "
+        "PSM22 SELECT * FROM L; COMMIT");
+  });
+  std::this_thread::sleep_for(std::chrono::milliseconds(400));
+  host.ExpectBox("이미 저장되어 있습니다.");
+  GoOn();
+  save.join();
+  EXPECT_EQ(Shown(), "");
+}
+
+// It was as it had been when the draft was looked at, and a moment later it is not.
+TEST_F(OrderDrafts, AnOrderThatChangesWhileItsDraftIsOpenedIsShownAsItStands) {
+  OpenOrder(kSlip);
+  Enter("88010005");
+  Order().Close();
+  ReleaseDroppedForms();
+  host.DuringEvents = [] { Sql("UPDATE PEM22 SET PE_SDATE=NOW() WHERE PE_ID='" + kSlip + "'"); };
+  host.ExpectBox("쓰던 내용은 쓰던 전표 목록에 그대로 있습니다.");
+  GoOn();
+  host.DuringEvents = nullptr;
+  EXPECT_EQ(OrderLines(), "P0002x1@5000 P0001x10@700 ");
+  EXPECT_EQ(Shown(), "쓰던 전표 1건");
+}
+
+// Its items stand in the list, but nobody can say what they cost.
+TEST_F(OrderDrafts, PricesThatCannotBeReadCostTheDraftNothing) {
+  WriteOrder();
+  Crash();
+  Sql("RENAME TABLE CTP TO AWAY");
+  host.ExpectBox("쓰던 내용은 그대로 있습니다.");
+  GoOn();
+  Sql("RENAME TABLE AWAY TO CTP");
+  EXPECT_EQ(OrderLines(), "");
+  Order().Close();
+  EXPECT_EQ(Shown(), "쓰던 전표 1건");
+  GoOn();
+  EXPECT_EQ(OrderLines(), "P0001x12@700 P0002x3@6000 ");
 }
 
 TEST_F(OrderDrafts, WithoutTheServerItIsToldAndKept) {
   OpenOrder(kSlip);
   Enter("88010003");
   Order().Close();
+  ReleaseDroppedForms();
+  WriteOrder();
+  Order().Close();
   Disconnect();
-  host.ExpectBox("서버에 물어볼 수 없어");
-  GoOn();
+  for (const int row : {1, 2}) {
+    host.ExpectBox("서버에 물어볼 수 없어");
+    GoOn(row);
+    EXPECT_EQ(Shown(), "쓰던 전표 2건");
+    EXPECT_EQ(OpenForm("frm_Order"), nullptr);
+  }
   Reconnect();
-  EXPECT_EQ(Shown(), "쓰던 전표 1건");
-  EXPECT_EQ(OpenForm("frm_Order"), nullptr);
 }
 
 TEST_F(OrderDrafts, EachTypeComesBackInItsOwnForm) {

@@ -58,6 +58,20 @@ TEST_F(ReceiptDrafts, ClosingKeepsWhatWasCountedAndNothingElse) {
   EXPECT_EQ(KeptDrafts().size(), 1u) << "closed once more";
 }
 
+TEST_F(ReceiptDrafts, LinesThatCannotBeReadCostTheDraftNothing) {
+  OpenReceipt(kOrder);
+  Receive(1, "29");
+  Receipt().Close();
+  Board().Activate();
+  host.DuringEvents = [] { Sql("RENAME TABLE PR TO AWAY"); };
+  host.ExpectBox("쓰던 내용은 그대로 있습니다.");
+  OpenModally([] { EXPECT_EQ(Rows13(), ""); });
+  host.DuringEvents = nullptr;
+  Sql("RENAME TABLE AWAY TO PR");
+  EXPECT_EQ(Shown(), "쓰던 전표 1건");
+  OpenModally([] { EXPECT_EQ(Rows13(), "P0003x29@300 P0001x18@700 "); });
+}
+
 // What was received elsewhere must not be received again from a list of drafts.
 TEST_F(ReceiptDrafts, OfAnOrderThatHasMovedOnItIsOnlyLookedAt) {
   OpenReceipt(kOrder);

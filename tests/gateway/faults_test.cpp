@@ -8,6 +8,7 @@
 #include <cstdlib>
 #include <thread>
 
+#include "basics/deployment.h"
 #include "gateway/guard.h"
 #include "tests/gateway/gate.h"
 #include "tests/support/scripted_host.h"
@@ -214,6 +215,14 @@ TEST_F(Gate, AServerThatStandsStillHoldsUpACallOnlyUntilItsLimit) {
   EXPECT_EQ(Numbers(), "");
 }
 
+// A server that has gone mute must not hold a clerk up for half a minute, and a batch that waits
+// for others' locks each time it is sent must come to its own end.
+TEST(Limits, GiveUpWellWithinHalfAMinuteAndLeaveTimeForEverySending) {
+  EXPECT_LE(ReadLimit(), std::chrono::seconds(20));
+  EXPECT_LE(BatchLimit(), std::chrono::seconds(20));
+  EXPECT_LT(4 * LockWait() + std::chrono::seconds(1), BatchLimit());
+}
+
 TEST_F(Gate, ABatchTooLargeForOneBlockIsAllOrNothingToo) {
   const std::string large(3 << 20, 'x');
   std::vector<std::string> statements = {""};
@@ -284,6 +293,27 @@ TEST_F(Locks, WhatTheServerUndidForAnothersSakeIsSentAgain) {
     EXPECT_EQ(Text(1) + Text(2), "minemine");
   }
   EXPECT_EQ(Numbers(), "1 2 3 4 5 11 12 13 14 ");
+}
+
+// It ends in the middle, and the connection stands.
+TEST_F(Locks, ABatchThatIsStoppedAtTheServerLeavesNothingForTheNextOne) {
+  for (const char* way : {"DELETE FROM T WHERE N = -1", "SET @way = 1"}) {
+    const Somebody holds("UPDATE T SET A='held' WHERE N=1; DO SLEEP(1); ROLLBACK");
+    std::thread stop([] {
+      std::this_thread::sleep_for(std::chrono::milliseconds(200));
+      const auto running = TestServer().Rows(
+          "gate",
+          "SELECT ID FROM information_schema.PROCESSLIST WHERE INFO LIKE '%mine%' AND ID "
+          "<> CONNECTION_ID()");
+      for (const auto& row : running) TestServer().Sql("gate", "KILL QUERY " + row[0]);
+      EXPECT_EQ(running.size(), 1u);
+    });
+    EXPECT_EQ(ExecuteBatch({"", way, InsertNumber(9), "UPDATE T SET A='mine' WHERE N=1"}), 0);
+    stop.join();
+    EXPECT_FALSE(BatchInDoubt);
+    EXPECT_EQ(ExecuteBatch({"", "DELETE FROM T WHERE N = 10", InsertNumber(10)}), -1);
+    EXPECT_EQ(Numbers(), "1 2 3 4 5 10 ") << way;
+  }
 }
 
 TEST_F(Locks, AGuardMustFindARowWhenTheBatchRuns) {

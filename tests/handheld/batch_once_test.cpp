@@ -2,6 +2,7 @@
 #include <chrono>
 #include <future>
 #include <thread>
+#include <utility>
 
 #include "tests/handheld/batch_desk.h"
 #include "tests/support/cutting_proxy.h"
@@ -135,6 +136,36 @@ TEST_F(BatchOnce, OneRowTakenOffBetweenTwoTriesIsToldApart) {
   ResetGateway();
 }
 
+// A server that fails at once after the look has lost what it had just shown.
+TEST_F(BatchOnce, WhatTheLookFindsHasToLast) {
+  CuttingProxy line(TestServer().Port());
+  StageAndOpen("66");
+  BuildConnectString(PrivateDbServer::ServerOption(line.Port()), "kt", "small");
+  const auto sleep = std::exchange(Host.Sleep, [this](int) {
+    Stage({"r1", "*", "P0001", "1", "100", "1002", "왕십리점"}, "66");
+  });
+  line.CutNextBatch(Cut::After);
+  Press(kNotFound);
+  Host.Sleep = sleep;
+  ResetGateway();
+}
+
+TEST_F(BatchOnce, ALostReplyIsNotTakenForThatOfEarlierRows) {
+  CuttingProxy line(TestServer().Port());
+  StageAndOpen("23");
+  BuildConnectString(PrivateDbServer::ServerOption(line.Port()), "kt", "small");
+  line.CutNextBatch(Cut::After, true);
+  Press(kUnknown);
+  line.Return();
+  Batch().Close();
+  Stage({"r3", "*", "P0001", "1", "100", "1002", "왕십리점"}, "23");
+  Open("23");
+  line.CutNextBatch(Cut::After);
+  Press(kStored);
+  EXPECT_EQ(Left(), "");
+  ResetGateway();
+}
+
 TEST_F(BatchOnce, OfTwoStoresTheOneWhoseReplyIsLostIsTold) {
   CuttingProxy line(TestServer().Port());
   StageAndOpen("14");
@@ -148,6 +179,16 @@ TEST_F(BatchOnce, OfTwoStoresTheOneWhoseReplyIsLostIsTold) {
   Press(kStored);
   EXPECT_EQ(Stock("P0001"), "5/10/6");
   ResetGateway();
+}
+
+TEST_F(BatchOnce, AReceivingDepotThatCannotBeReadStopsTheShipment) {
+  StageAndOpen("14");
+  Sql("RENAME TABLE HCT TO AWAY");
+  Press("저장이 실패하였습니다.");
+  Sql("RENAME TABLE AWAY TO HCT");
+  ExpectPosted(kRuns[2], false);
+  Press(kStored);
+  ExpectPosted(kRuns[2], true);
 }
 
 TEST_F(BatchOnce, TheDeletionOfRowsIsToldTruly) {

@@ -99,6 +99,27 @@ TEST_F(StagingOnce, WhatWasChangedAfterALostReplyIsToldApart) {
   ResetGateway();
 }
 
+// Nobody knows whether the first is stored (it is), and the terminal sends once more.
+TEST_F(StagingOnce, WhatTheTerminalSendsAfterALostReplyIsStagedUnlessItIsTheSameAgain) {
+  for (const bool same : {false, true}) {
+    SCOPED_TRACE(same);
+    StartAgain();
+    CuttingProxy line(TestServer().Port());
+    BuildConnectString(PrivateDbServer::ServerOption(line.Port()), "kt", "small");
+    DT9RECEV& form = Received();
+    line.CutNextBatch(Cut::After, true);
+    Save(form, kUnknown);
+    line.Return();
+    ++host.Clock.Second;
+    Transfer(form, {Trade("1", "C0001", "8801000", "1", "10"),
+                    Trade("2", "C0001", "88010004", same ? "2" : "3", "20")});
+    Save(form, kSaved);
+    EXPECT_EQ(Rows(), same ? "2 2" : "4 4");
+    EXPECT_TRUE(form.IsClosed());
+    ResetGateway();
+  }
+}
+
 TEST_F(StagingOnce, AnotherTransferUnderTheSameKeyIsNotTakenForThisOne) {
   DT9RECEV& form = Received();
   Sql("INSERT INTO DT900 (PE_ID,PR_CODE) VALUES ('20240517102030u02000001','P0009')");

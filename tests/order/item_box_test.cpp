@@ -59,6 +59,32 @@ TEST_F(OrderDesk, AQuoteInASearchLeavesTheFormerFilterToDecide) {
   EXPECT_EQ(ColumnText(form.FLEX2, 0), "");
 }
 
+// Neither the next source of the policy, nor 0 where that is allowed, nor another line's quantity.
+TEST_F(OrderDesk, APriceThatCannotBeReadIsNoneAndLeavesTheLinesAsTheyAre) {
+  OrderForm& form = Open();
+  Supplier("#C0001");
+  AppOptions.OrderZeroPrice = 1;
+  Enter("88010005");
+  Enter("4");
+  Enter("88010003");
+  Enter("8801000");
+  ASSERT_EQ(form.FLEX2.TextMatrix(7, 0), "P0005");
+  for (const char* table : {"CTP", "PEM23", "SAFEIV", "CT"}) {
+    AppOptions.BulkOrderPrice = table == std::string("CTP")      ? "3"
+                                : table == std::string("PEM23")  ? "2"
+                                : table == std::string("SAFEIV") ? "5"
+                                                                 : "4";
+    Sql(std::string("RENAME TABLE ") + table + " TO AWAY");
+    Enter("88010005");
+    form.FLEX2.SetTextMatrix(7, 8, "9");
+    form.FLEX2_AfterEdit(7, 8);
+    Sql(std::string("RENAME TABLE AWAY TO ") + table);
+    EXPECT_EQ(Lines(), "P0003x1 P0005x4 ") << table;
+    EXPECT_EQ(form.Label6.Caption, "하우스감귤의 단가를 읽지 못하였습니다. 다시 입력하세요.");
+    form.Timer1_Timer();
+  }
+}
+
 TEST_F(OrderDesk, AnItemWithoutAPriceIsRefusedInALineThatGoesAway) {
   OrderForm& form = Open();
   Supplier("#C0001");

@@ -3,6 +3,7 @@
 #include <cstdlib>
 #include <functional>
 #include <thread>
+#include <utility>
 
 #include "basics/records.h"
 #include "forms/open_forms.h"
@@ -159,6 +160,18 @@ TEST_F(OrderOnce, AnOrderThatCouldNotBeReadIsNotReplacedByWhatWasTypedInstead) {
   EXPECT_EQ(Everything(), before);
 }
 
+// The look at the order goes well, and the read of its lines does not.
+TEST_F(OrderOnce, LinesThatCouldNotBeReadAreNotTakenForNone) {
+  const std::string id = StoredBefore();
+  const std::string before = Everything();
+  Sql("RENAME TABLE PR TO AWAY");
+  OpenAnew(id);
+  Sql("RENAME TABLE AWAY TO PR");
+  Type();
+  Press(kChanged);
+  EXPECT_EQ(Everything(), before);
+}
+
 TEST_F(OrderOnce, AReopenedOrderKeepsItsDepot) {
   const std::string id = StoredBefore();
   OpenAnew(id);
@@ -276,6 +289,29 @@ TEST_F(OrderOnce, ALostAnswerIsFollowedUp) {
     }
     EXPECT_EQ(Orders(), c.stored);
   }
+}
+
+// A server that fails at once after the look has lost what it had just shown.
+TEST_F(OrderOnce, WhatTheLookFindsHasToLast) {
+  Sql("DELETE FROM PEM22");
+  OpenAnew();
+  Type();
+  const auto sleep = std::exchange(Host.Sleep, [](int) { Sql("DELETE FROM PEM22"); });
+  proxy_.CutNextBatch(Cut::After);
+  Press(kNotYet);
+  Host.Sleep = sleep;
+  Press(kStored);
+  EXPECT_EQ(Orders(), "0:1,3 ");
+}
+
+// The look waits for a new connection, and by then the order has stood for a while.
+TEST_F(OrderOnce, ALookThatTakesItsTimeFindsTheOrderAllTheSame) {
+  OpenAnew();
+  Type();
+  proxy_.CutNextBatch(Cut::After);
+  proxy_.KeepNextWaiting(std::chrono::milliseconds(3500));
+  Press(kStored);
+  EXPECT_EQ(Orders(), "0:1,3 ");
 }
 
 TEST_F(OrderOnce, IdenticalOrdersOnPurposeStayTwo) {

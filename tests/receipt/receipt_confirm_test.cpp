@@ -27,6 +27,22 @@ TEST_F(ReceiptDesk, TheChosenDepotTakesEveryLineAndTheOrderIsClosed) {
   EXPECT_EQ(Value("SELECT SUM(INQTY) FROM IV WHERE HCT_CODE='100102'"), "47.0000");
 }
 
+TEST_F(ReceiptDesk, ADateThatNobodyHasChosenIsTheDayOfTheConfirmation) {
+  const ClockTime today = host.Clock;
+  for (const bool chosen : {false, true}) {
+    StartDay();
+    const CalendarDate past = AddDays(Today(), -32);
+    host.Clock = {past.Year, past.Month, past.Day, 10, 0, 0};
+    frm_PE_UNIT& form = Open(kApproved);
+    host.Clock = today;
+    if (chosen) form.DTPicker1.SetValue(FormatDateValue(AddDays(Today(), -3), "YYYY-MM-DD"));
+    host.ExpectBox("입고확정", box::Yes);
+    host.ExpectBox(kDone);
+    form.Command1_Click(1);
+    EXPECT_EQ(Value("SELECT MIN(DATEDIFF(NOW(),PE_PDATE)) FROM PEM23"), chosen ? "3" : "0");
+  }
+}
+
 TEST_F(ReceiptDesk, NoAndMissingThingsStopBeforeAnythingIsWritten) {
   frm_PE_UNIT& form = Open(kApproved);
   host.ExpectBox("입고확정", box::No);

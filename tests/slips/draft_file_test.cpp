@@ -8,6 +8,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <array>
 #include <chrono>
 #include <fstream>
@@ -25,6 +26,8 @@ namespace store {
 namespace {
 
 namespace fs = std::filesystem;
+
+constexpr std::chrono::minutes kForAsLongAsItTakes(5);
 
 class DraftFiles : public testing::Test {
  protected:
@@ -72,11 +75,16 @@ TEST_F(DraftFiles, AKeptDraftComesBackAsItWasLastWritten) {
   draft.PartnerCode = "C'0001";
   draft.Depot = "매장    100101";
   KeepDraft(draft);
-  FlushDrafts();
+  FlushDrafts(kForAsLongAsItTakes);
   draft.Lines.erase(draft.Lines.begin());  // every later line moves up
   draft.Lines.push_back({"P9", "탭\t과 줄\r끝", "1.5", false});
   draft.Lines.pop_back();
+  KeepDraft(draft);
+  FlushDrafts(kForAsLongAsItTakes);
   draft.Lines[0].Quantity = "77";
+  draft.Lines.push_back({"P10", "콩나물", "10", false});
+  std::rotate(draft.Lines.begin(), draft.Lines.begin() + 1, draft.Lines.end());
+  draft.Lines.insert(draft.Lines.begin() + 1, {"P11", "콩나물", "11", true});
   draft.TriedId = draft.SlipId;
   KeepDraft(draft);
   EXPECT_TRUE(KeptDrafts().empty()) << "it is still being written";
@@ -84,7 +92,7 @@ TEST_F(DraftFiles, AKeptDraftComesBackAsItWasLastWritten) {
 
   const auto kept = KeptDrafts();
   ASSERT_EQ(kept.size(), 1u);
-  EXPECT_TRUE(SameContent(kept[0], draft));
+  EXPECT_TRUE(SameEntries(kept[0], draft));
   EXPECT_EQ(kept[0].SlipId + kept[0].Stamp + kept[0].TriedId + kept[0].FormName,
             draft.SlipId + draft.Stamp + draft.TriedId + draft.FormName);
   EXPECT_EQ(kept[0].NoPriceMode, 1);
@@ -130,7 +138,7 @@ TEST_F(DraftFiles, AKilledProcessLeavesOneWholeState) {
       for (int lines = 1;; lines = lines % 60 + 1) {
         KeepDraft(Sample(lines, id));
         if (lines % 7 != 0) continue;
-        FlushDrafts();
+        FlushDrafts(kForAsLongAsItTakes);
         if (write(told[1], &lines, sizeof lines) < 0) return;
       }
     });
@@ -146,7 +154,7 @@ TEST_F(DraftFiles, AKilledProcessLeavesOneWholeState) {
     const auto kept = KeptDrafts();
     ASSERT_EQ(kept.size(), 1u) << round;
     const int lines = static_cast<int>(kept[0].Lines.size());
-    EXPECT_TRUE(SameContent(kept[0], Sample(lines))) << round;
+    EXPECT_TRUE(SameEntries(kept[0], Sample(lines))) << round;
     const int ahead = (lines - onDisk + 60) % 60;
     EXPECT_LE(ahead, 14) << lines << " after " << onDisk << ", round " << round;
     EXPECT_TRUE(TakeDraftNotice().empty());
@@ -160,7 +168,7 @@ TEST_F(DraftFiles, TwoProcessesOfAUserDoNotTreadOnEachOther) {
   const pid_t child = Fork([&] {
     const std::string id = NewDraftId();
     for (int i = 1; i <= 40; ++i) KeepDraft(Sample(i, id));
-    FlushDrafts();
+    FlushDrafts(kForAsLongAsItTakes);
     if (write(ready[1], "x", 1) < 0) return;
   });
   // A third one waits to be told which draft to take.
@@ -175,7 +183,7 @@ TEST_F(DraftFiles, TwoProcessesOfAUserDoNotTreadOnEachOther) {
   const std::string mine = NewDraftId();
   for (int i = 1; i <= 40; ++i) {
     KeepDraft(Sample(i, mine));
-    FlushDrafts();
+    FlushDrafts(kForAsLongAsItTakes);
   }
   char byte = 0;
   ASSERT_EQ(read(ready[0], &byte, 1), 1);
@@ -184,7 +192,7 @@ TEST_F(DraftFiles, TwoProcessesOfAUserDoNotTreadOnEachOther) {
   Kill(child);
   const auto left = KeptDrafts();
   ASSERT_EQ(left.size(), 1u);
-  EXPECT_TRUE(SameContent(left[0], Sample(40)));
+  EXPECT_TRUE(SameEntries(left[0], Sample(40)));
 
   // Of two that want it one gets it.
   const std::string& id = left[0].Id;
@@ -235,6 +243,7 @@ TEST_F(DraftFiles, AFileThatCannotBeReadIsSetAsideWithAText) {
          RunSql(File(), "CREATE TABLE other (x)");
        },
        "damaged", "손상"},
+      {"without its tables", [&] { RunSql(File(), "DROP TABLE line"); }, "damaged", "손상"},
       {"of a later program", [&] { RunSql(File(), "PRAGMA user_version = 2"); }, "newer",
        "더 새로운"},
   };
@@ -260,6 +269,43 @@ TEST_F(DraftFiles, AFileThatCannotBeReadIsSetAsideWithAText) {
   }
 }
 
+// A disk that stands still, or is full, holds nobody up and loses nothing while the run lasts.
+TEST_F(DraftFiles, WhatCannotBeWrittenNowIsListedAndWrittenLater) {
+  const std::string id = NewDraftId();
+  KeepDraft(Sample(2, id));
+  FlushDrafts(kForAsLongAsItTakes);
+  sqlite3* other = nullptr;
+  ASSERT_EQ(sqlite3_open(File().c_str(), &other), SQLITE_OK);
+  sqlite3_exec(other, "BEGIN IMMEDIATE", nullptr, nullptr, nullptr);
+  KeepDraft(Sample(3, id));
+  PutDraftAside(id);
+  EXPECT_FALSE(FlushDrafts(std::chrono::milliseconds(1)));
+  ASSERT_EQ(KeptDrafts().size(), 1u);
+  EXPECT_TRUE(SameEntries(KeptDrafts()[0], Sample(3)));
+  sqlite3_exec(other,
+               "CREATE TRIGGER full BEFORE INSERT ON draft BEGIN SELECT RAISE(ABORT,'full'); END; "
+               "COMMIT",
+               nullptr, nullptr, nullptr);
+  sqlite3_close(other);
+
+  FlushDrafts(kForAsLongAsItTakes);
+  EXPECT_FALSE(DraftsWork());
+  ASSERT_EQ(KeptDrafts().size(), 1u);
+  EXPECT_TRUE(TakeDraft(id));
+  EXPECT_TRUE(KeptDrafts().empty());
+  KeepDraft(Sample(4, id));
+  PutDraftAside(id);
+  FlushDrafts(kForAsLongAsItTakes);
+  RunSql(File(), "DROP TRIGGER full");
+  KeepDraft(Sample(5));
+  FlushDrafts(kForAsLongAsItTakes);
+  EXPECT_TRUE(DraftsWork());
+  ResetDrafts();
+  ASSERT_EQ(KeptDrafts().size(), 2u);
+  EXPECT_TRUE(SameEntries(KeptDrafts()[0], Sample(5)));
+  EXPECT_TRUE(SameEntries(KeptDrafts()[1], Sample(4)));
+}
+
 TEST_F(DraftFiles, OnlyTheOwnerMayReadIt) {
   const auto rights = [](const fs::path& path) {
     struct stat found {};
@@ -274,14 +320,14 @@ TEST_F(DraftFiles, OnlyTheOwnerMayReadIt) {
   };
   const mode_t before = umask(0);
   KeepDraft(Sample(1));
-  FlushDrafts();
+  FlushDrafts(kForAsLongAsItTakes);
   expectOwnersAlone();
   ResetDrafts();
   chmod(File().c_str(), 0644);  // as a copy from elsewhere may be
   chmod(Folder().c_str(), 0755);
   EXPECT_EQ(KeptDrafts().size(), 1u);
   KeepDraft(Sample(2));
-  FlushDrafts();
+  FlushDrafts(kForAsLongAsItTakes);
   expectOwnersAlone();
   umask(before);
 }
@@ -289,7 +335,7 @@ TEST_F(DraftFiles, OnlyTheOwnerMayReadIt) {
 TEST_F(DraftFiles, WithoutAPlaceForItNothingElseFails) {
   std::ofstream(host.Folder / "data") << "a file where the folder should be";
   KeepDraft(Sample(1, "x"));
-  FlushDrafts();
+  FlushDrafts(kForAsLongAsItTakes);
   EXPECT_TRUE(KeptDrafts().empty());
   EXPECT_FALSE(DraftsWork());
   EXPECT_FALSE(TakeDraft("x"));

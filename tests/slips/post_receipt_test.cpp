@@ -1,5 +1,8 @@
 #include "slips/post_receipt.h"
 
+#include <chrono>
+#include <thread>
+
 #include "tests/slips/slip_samples.h"
 #include "tests/support/small_store_test.h"
 
@@ -96,6 +99,19 @@ TEST_F(PostReceiptTest, AddsAFurtherRowWhereStockHasNoSingleRow) {
   EXPECT_EQ(Stock("P0003"), "0/4/0,0/5/0,0/30/0");
 }
 
+TEST_F(PostReceiptTest, CountsOnceWhereOthersMakeFurtherRowsMeanwhile) {
+  std::thread others([] {
+    Sql("START TRANSACTION; INSERT INTO IV (RCT_CODE,HCT_CODE,PR_CODE) VALUES "
+        "('1001','100101','P0001'); INSERT INTO CMM (CM_FCTCODE,CM_TCTCODE,CM_MGU,CM_MM) VALUES "
+        "('1001','C0001','C','202405'); DO SLEEP(1); COMMIT");
+  });
+  std::this_thread::sleep_for(std::chrono::milliseconds(400));
+  EXPECT_EQ(Post(ReceiptHead(), {ReceiptLine("1", "P0001", "18")}), -1);
+  others.join();
+  EXPECT_EQ(Value("SELECT SUM(INQTY)+0e0 FROM IV WHERE PR_CODE='P0001'"), "28");
+  EXPECT_EQ(Value("SELECT SUM(CM_M23)+0e0 FROM CMM WHERE CM_MM='202405'"), "29680");
+}
+
 TEST_F(PostReceiptTest, HoldsEachCountAgainstItsOwnLine) {
   // Of 40 products each third has one row, each fifth two.
   std::vector<std::vector<std::string>> lines;
@@ -154,6 +170,22 @@ TEST_F(PostReceiptTest, WithQuantitiesOfZeroIsWrittenInFull) {
   EXPECT_EQ(Value("SELECT COUNT(*) FROM PSM23" + ofReceipt), "1");
   EXPECT_EQ(Stock("P0003"), "0/0/0");
   EXPECT_EQ(Balances(), "C0001 202404 0/9350,C0001 202405 0/5280,C0002 202405 0/0");
+}
+
+TEST_F(PostReceiptTest, IsToldFromAnotherUnderItsKeyByTheLines) {
+  const std::vector<std::string> sent = ReceiptLine("1", "P0001", "18");
+  EXPECT_EQ(Post(ReceiptHead(), {sent}), -1);
+  const auto traced = [](const std::vector<std::vector<std::string>>& lines) {
+    return Value("SELECT COUNT(*) FROM (" + ReceiptTrace(ReceiptHead(), LineTable(lines), "PEM23") +
+                 ") t");
+  };
+  EXPECT_EQ(traced({sent}), "1");
+  EXPECT_EQ(traced({sent, ReceiptLine("2", "P0003", "1")}), "0");
+  for (const int column : {line::ProductCode, line::Quantity, line::Supply, line::DepotCode}) {
+    std::vector<std::string> other = sent;
+    other[static_cast<std::size_t>(column)] = "17";
+    EXPECT_EQ(traced({other}), "0") << column;
+  }
 }
 
 TEST_F(PostReceiptTest, InStateZeroMovesNeitherStockNorBalance) {

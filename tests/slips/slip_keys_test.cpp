@@ -1,5 +1,6 @@
 #include "slips/slip_keys.h"
 
+#include "basics/dates.h"
 #include "tests/support/small_store_test.h"
 
 namespace store {
@@ -70,6 +71,28 @@ TEST_F(SlipKeys, GoOnBehind9999AlsoAfterAnotherStart) {
     if (number == std::string("10001")) AddSlip("PEM22", today + "1001u012232766");
   }
   EXPECT_EQ(NextSlipId("PEM22"), today + "1001u012232770") << "the counter has no place for it";
+}
+
+TEST_F(SlipKeys, OfStockCountsGoOnBehind9999) {
+  const auto add = [&](const std::string& number) {
+    Sql("INSERT INTO ME (ME_ID,ME_CK,ME_GU,ME_IO,ME_PDATE,ME_SDATE,ME_FCTCODE) VALUES ('" + today +
+        "1001u01" + number + "','1','82','I','2024-05-17',now(),'1001')");
+  };
+  for (const char* number : {"9999", "10000", "10001"}) {
+    add(number);
+    const std::string next = std::to_string(std::stoi(number) + 1);
+    EXPECT_EQ(NextStockCountId(), today + "1001u01" + next);
+    EXPECT_EQ(NextStockCountId(1), today + "1001u01" + std::to_string(std::stoi(next) + 1));
+  }
+}
+
+// The workstation's midnight comes before the database's: what was read in between must not stand
+// for the whole day.
+TEST_F(SlipKeys, ReadWhileTheDatabaseIsADayBehindAreNotCountedOn) {
+  ParseDateText(Value("SELECT DATE_FORMAT(NOW() + INTERVAL 1 DAY,'%Y-%m-%d')"), host.Clock);
+  EXPECT_EQ(NextSlipId("PEM22"), today + "1001u01220001");
+  AddSlip("PEM22", today + "1001u01220007");
+  EXPECT_EQ(NextSlipId("PEM22"), today + "1001u01220008");
 }
 
 TEST_F(SlipKeys, OfAnotherDayAreReadFromTheDatabase) {

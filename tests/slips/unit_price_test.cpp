@@ -10,7 +10,8 @@ constexpr const char* kToday = "2024-05-17";
 
 class UnitPrice : public SmallStoreTest {
  protected:
-  double Price(const std::string& policy, const std::string& partner, const std::string& product) {
+  std::optional<double> Price(const std::string& policy, const std::string& partner,
+                              const std::string& product) {
     AppOptions.BulkOrderPrice = policy;
     return ResolveUnitPrice(partner, product, kToday, "", "23", "J");
   }
@@ -149,10 +150,10 @@ TEST_F(UnitPrice, OfASaleComesFromSaleSlips) {
 
 TEST_F(UnitPrice, IsNothingWhenItCannotBeRead) {
   for (const char* policy : {"0", "1", "2", "3", "5"})
-    EXPECT_EQ(Price(policy, "C0001'", "P0001"), 0) << policy;
+    EXPECT_EQ(Price(policy, "C0001'", "P0001"), std::nullopt) << policy;
   Disconnect();
   for (const char* policy : {"0", "1", "2", "3", "4", "5"})
-    EXPECT_EQ(Price(policy, "C0001", "P0001"), 0) << policy;
+    EXPECT_EQ(Price(policy, "C0001", "P0001"), std::nullopt) << policy;
 }
 
 TEST_F(UnitPrice, TowardsAStoreAppliesNoPolicy) {

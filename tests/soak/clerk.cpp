@@ -36,25 +36,27 @@ constexpr int kManyWaiting = 25;  // orders: the goods come first
 constexpr std::array<std::string_view, 5> kStoredWords = {
     "발주가 정상적으로 처리되었습니다", "입고처리가 정상적으로 처리되었습니다",
     "전표가 삭제되었습니다", "상태로 전환되었습니다", "저장이 완료되었습니다"};
-constexpr std::string_view kUnknownWords = "알 수 없습니다";
-constexpr std::string_view kSomeOfMany = "건 중 ";
+/// And when nobody can be sure. A try that was looked for and not found may still be running.
+constexpr std::array<std::string_view, 4> kOpenWords = {
+    "알 수 없습니다", "아직 저장되지 않았습니다", "저장이 확인되지 않았습니다", "건 중 "};
+/// The clerk is asked to look into the list before she goes on.
+constexpr std::string_view kLookFirst = "저장되지 않았으면 다시 저장하세요";
 
 bool Holds(const std::string& text, std::string_view words) {
   return text.find(words) != std::string::npos;
 }
 
-const char* VerdictOf(const std::vector<std::string>& boxes) {
-  const auto any = [&](const auto& test) { return std::any_of(boxes.begin(), boxes.end(), test); };
-  if (any([](const std::string& text) {
-        return Holds(text, kUnknownWords) || Holds(text, kSomeOfMany);
-      })) {
-    return verdict::Unknown;
-  }
-  const bool stored = any([](const std::string& text) {
-    return std::any_of(kStoredWords.begin(), kStoredWords.end(),
+template <class Words>
+bool AnyHolds(const std::vector<std::string>& boxes, const Words& anyOf) {
+  return std::any_of(boxes.begin(), boxes.end(), [&](const std::string& text) {
+    return std::any_of(anyOf.begin(), anyOf.end(),
                        [&](std::string_view words) { return Holds(text, words); });
   });
-  return stored ? verdict::Stored : verdict::Failed;
+}
+
+const char* VerdictOf(const std::vector<std::string>& boxes) {
+  if (AnyHolds(boxes, kOpenWords)) return verdict::Unknown;
+  return AnyHolds(boxes, kStoredWords) ? verdict::Stored : verdict::Failed;
 }
 
 /// A fault and how often it is drawn.
@@ -95,7 +97,7 @@ Clerk::Clerk(const ClerkPlace& place)
       numbers_(NumbersOf(place)),
       log_(place.Folder + "/log"),
       host_(place.Folder),
-      proxy_(place.ServerPort,
+      proxy_(place.ServerPorts,
              [this](Fault fault) {
                log_.Line({entry::Fault, FaultName(fault)});
              }),
@@ -222,7 +224,10 @@ std::string Clerk::PressOnce(const Work& work) {
 
 bool Clerk::PressUntilDone(const Work& work) {
   std::string told = PressOnce(work);
-  for (int tries = 1; told != verdict::Stored && tries < kMostTries && Percent(80); ++tries) {
+  const auto mayPressAgain = [&] {
+    return told != verdict::Stored && !AnyHolds(host_.Boxes, std::array{kLookFirst});
+  };
+  for (int tries = 1; mayPressAgain() && tries < kMostTries && Percent(80); ++tries) {
     const bool atOnce = Percent(50);
     if (atOnce) {
       log_.Line({entry::Fault, "duplicate press"});

@@ -19,8 +19,8 @@ class LookupForm;
 
 /// Which clerk works where, as the driver tells the process.
 struct ClerkPlace {
-  std::string Folder;  ///< Log, numbers and the program's folder of this terminal.
-  int ServerPort = 0;
+  std::string Folder;            ///< Log, numbers and the program's folder of this terminal.
+  std::vector<int> ServerPorts;  ///< The one it goes to first, then the others.
   int Store = 0;
   int Terminal = 0;  ///< Of the store; the first two belong to one user.
   int Stores = 0;

@@ -1,6 +1,8 @@
 #include "tests/soak/clerk_host.h"
 
+#include <chrono>
 #include <ctime>
+#include <thread>
 
 #include "basics/dates.h"
 #include "forms/host.h"
@@ -38,6 +40,9 @@ ClerkHost::ClerkHost(const std::string& folder) {
     if (!form.IsClosed()) form.Activate();
   };
   Host.Now = [this] { return NowAhead(DaysAhead); };
+  Host.Sleep = [](int milliseconds) {
+    std::this_thread::sleep_for(std::chrono::milliseconds(milliseconds));
+  };
   Host.ProgramFolder = folder;
   Host.ProgramTitle = "STORE";
   Host.Version = {1, 0, 1};

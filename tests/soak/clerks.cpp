@@ -1,12 +1,12 @@
 #include "tests/soak/clerks.h"
 
 #include <fcntl.h>
+#include <sys/prctl.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <chrono>
 #include <csignal>
-#include <cstdio>
 #include <cstdlib>
 #include <filesystem>
 #include <thread>
@@ -21,12 +21,17 @@ constexpr auto kPatience = std::chrono::seconds(20);
 
 }  // namespace
 
-Clerks::Clerks(std::string program, const std::string& folder, int serverPort, int stores,
-               unsigned seed)
-    : program_(std::move(program)), serverPort_(serverPort), stores_(stores), seed_(seed) {
+Clerks::Clerks(std::string program, const std::string& folder, std::vector<int> ports, int stores,
+               unsigned seed, Findings& findings)
+    : program_(std::move(program)),
+      ports_(std::move(ports)),
+      stores_(stores),
+      seed_(seed),
+      findings_(findings) {
   for (int store = 0; store < stores; ++store) {
     for (int terminal = 0; terminal < kTerminals; ++terminal) {
       const std::string own = folder + "/" + StoreCodeOf(store) + "." + std::to_string(terminal);
+      std::filesystem::remove_all(own);  // what an earlier run has left
       std::filesystem::create_directories(own);
       clerks_.push_back({store, terminal, own, 0, DayLogReader(own + "/log")});
     }
@@ -41,12 +46,23 @@ Clerks::~Clerks() {
   }
 }
 
+std::string Clerks::PortsOf(const Clerk& clerk) const {
+  std::string ports;
+  for (size_t i = 0; i < ports_.size(); ++i) {
+    const size_t turn = static_cast<size_t>(clerk.Store + clerk.Terminal) + i;
+    ports += (i == 0 ? "" : ",") + std::to_string(ports_[turn % ports_.size()]);
+  }
+  return ports;
+}
+
 void Clerks::Start(Clerk& clerk) {
-  const std::string numbers[] = {std::to_string(serverPort_), std::to_string(clerk.Store),
+  const std::string numbers[] = {PortsOf(clerk), std::to_string(clerk.Store),
                                  std::to_string(clerk.Terminal), std::to_string(stores_),
                                  std::to_string(seed_)};
   clerk.Pid = fork();
   if (clerk.Pid != 0) return;
+  std::signal(SIGINT, SIG_IGN);      // of the terminal on which the driver was started
+  prctl(PR_SET_PDEATHSIG, SIGKILL);  // nobody works on when the driver is gone
   // What a clerk keeps for the user goes to the terminal's own folder. Nobody waits long here: a
   // mute server must not stop a day.
   setenv("HOME", clerk.Folder.c_str(), 1);
@@ -63,7 +79,7 @@ void Clerks::Start(Clerk& clerk) {
 }
 
 /// A kill is a fault of ours; anything else that ends a clerk is a fault of the program's.
-void Clerks::Ended(Clerk& clerk, int status) const {
+void Clerks::Ended(Clerk& clerk, int status) {
   clerk.Pid = 0;
   if (WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL) return;
   if (WIFEXITED(status)) {
@@ -71,10 +87,8 @@ void Clerks::Ended(Clerk& clerk, int status) const {
       if (WEXITSTATUS(status) == code) return;
     }
   }
-  std::fprintf(stderr,
-               "soak_days: the clerk in %s ended with status %d; repeat it with --seed %u\n",
-               clerk.Folder.c_str(), status, seed_);
-  std::exit(1);
+  findings_.Add("a clerk's program that ended by itself", clerk.Folder,
+                "status " + std::to_string(status));
 }
 
 void Clerks::KeepWorking() {
@@ -101,9 +115,8 @@ void Clerks::SendHome() {
       if (waitpid(clerk.Pid, &status, WNOHANG) == clerk.Pid) {
         Ended(clerk, status);
       } else if (std::chrono::steady_clock::now() > limit) {
-        std::fprintf(stderr, "soak_days: the clerk in %s does not come to an end\n",
-                     clerk.Folder.c_str());
-        std::exit(1);
+        findings_.Add("a clerk's program that does not come to its end", clerk.Folder, "");
+        kill(clerk.Pid, SIGKILL);
       }
       std::this_thread::sleep_for(std::chrono::milliseconds(5));
     }

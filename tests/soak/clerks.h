@@ -7,14 +7,17 @@
 #include <vector>
 
 #include "tests/soak/day_log.h"
+#include "tests/soak/findings.h"
 
 namespace store {
 
 /// The clerks' processes: started, watched, killed and started again.
 class Clerks {
  public:
-  /// `program` is soak_clerk; each terminal has a folder of its own under `folder`.
-  Clerks(std::string program, const std::string& folder, int serverPort, int stores, unsigned seed);
+  /// `program` is soak_clerk; each terminal has a folder of its own under `folder`,
+  /// and the servers at `ports` take turns as the one that it goes to first.
+  Clerks(std::string program, const std::string& folder, std::vector<int> ports, int stores,
+         unsigned seed, Findings& findings);
   ~Clerks();
   Clerks(const Clerks&) = delete;
   Clerks& operator=(const Clerks&) = delete;
@@ -28,7 +31,7 @@ class Clerks {
   };
   std::vector<Clerk>& All() { return clerks_; }
 
-  /// Starts those that are not running. Ends the program when one ended as none may.
+  /// Starts those that are not running. One that ended as none may is a finding.
   void KeepWorking();
   /// Kills one of them, as `random` draws.
   void KillOne(std::mt19937& random);
@@ -37,12 +40,15 @@ class Clerks {
 
  private:
   void Start(Clerk& clerk);
-  void Ended(Clerk& clerk, int status) const;
+  void Ended(Clerk& clerk, int status);
 
   const std::string program_;
-  const int serverPort_;
+  std::string PortsOf(const Clerk& clerk) const;
+
+  const std::vector<int> ports_;
   const int stores_;
   const unsigned seed_;
+  Findings& findings_;
   std::vector<Clerk> clerks_;
 };
 

@@ -10,6 +10,11 @@
 #include "tests/soak/franchise.h"
 
 namespace store {
+namespace {
+
+constexpr auto kPatience = std::chrono::minutes(1);
+
+}  // namespace
 
 DbClient::~DbClient() {
   if (client_ != nullptr) mysql_close(client_);
@@ -20,14 +25,20 @@ bool DbClient::Connect() {
   client_ = mysql_init(nullptr);
   mysql_options(client_, MYSQL_SET_CHARSET_NAME, "utf8mb4");
   if (mysql_real_connect(client_, "127.0.0.1", "kt", "qz4471", kCompany,
-                         static_cast<unsigned>(port_), nullptr,
+                         static_cast<unsigned>(ports_[next_]), nullptr,
                          CLIENT_MULTI_STATEMENTS) != nullptr) {
     return true;
   }
+  Leave();
+  return false;
+}
+
+/// What failed here may work at the next server.
+void DbClient::Leave() {
   Error = mysql_error(client_);
   mysql_close(client_);
   client_ = nullptr;
-  return false;
+  next_ = (next_ + 1) % ports_.size();
 }
 
 bool DbClient::Send(const std::string& statements, Rows& rows) {
@@ -49,9 +60,7 @@ bool DbClient::Send(const std::string& statements, Rows& rows) {
     next = mysql_next_result(client_);
   }
   if (next < 0) return true;
-  Error = mysql_error(client_);
-  mysql_close(client_);
-  client_ = nullptr;
+  Leave();
   return false;
 }
 
@@ -62,10 +71,11 @@ bool DbClient::Run(const std::string& statements) {
 
 Rows DbClient::Select(const std::string& statements) {
   Rows rows;
-  for (int tries = 0; tries < 3; ++tries) {
+  const auto limit = std::chrono::steady_clock::now() + kPatience;
+  do {
     if (Send(statements, rows)) return rows;
     std::this_thread::sleep_for(std::chrono::milliseconds(200));
-  }
+  } while (std::chrono::steady_clock::now() < limit);
   std::fprintf(stderr, "soak_days: %s\n%s\n", Error.c_str(), statements.substr(0, 500).c_str());
   std::exit(2);
 }

@@ -79,8 +79,8 @@ const char* FaultName(Fault fault) {
   return "none";
 }
 
-FaultProxy::FaultProxy(int serverPort, std::function<void(Fault)> struck)
-    : serverPort_(serverPort),
+FaultProxy::FaultProxy(std::vector<int> serverPorts, std::function<void(Fault)> struck)
+    : serverPorts_(std::move(serverPorts)),
       struck_(std::move(struck)),
       listener_(socket(AF_INET, SOCK_STREAM, 0)) {
   sockaddr_in address = Loopback(0);
@@ -124,12 +124,23 @@ void FaultProxy::Serve() {
   for (Line& line : lines_) Close(line);
 }
 
+/// A connection to a server; -1 when there is none.
+int FaultProxy::Reach() const {
+  for (const int port : serverPorts_) {
+    const int server = socket(AF_INET, SOCK_STREAM, 0);
+    const sockaddr_in address = Loopback(port);
+    if (connect(server, reinterpret_cast<const sockaddr*>(&address), sizeof(address)) == 0) {
+      return server;
+    }
+    close(server);
+  }
+  return -1;
+}
+
 void FaultProxy::Accept() {
   Line line{.client = accept(listener_, nullptr, nullptr),
-            .server = socket(AF_INET, SOCK_STREAM, 0)};
-  const sockaddr_in address = Loopback(serverPort_);
-  if (steady_clock::now() < away_ ||
-      connect(line.server, reinterpret_cast<const sockaddr*>(&address), sizeof(address)) != 0) {
+            .server = steady_clock::now() < away_ ? -1 : Reach()};
+  if (line.server < 0) {
     Close(line);
     return;
   }
@@ -142,7 +153,7 @@ void FaultProxy::Accept() {
 
 void FaultProxy::Close(Line& line) {
   close(line.client);
-  close(line.server);
+  if (line.server >= 0) close(line.server);
   line.client = line.server = -1;
 }
 

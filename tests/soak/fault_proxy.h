@@ -32,9 +32,10 @@ const char* FaultName(Fault fault);
 /// and strikes once.
 class FaultProxy {
  public:
-  /// Listens on a free port of the loopback and passes on to `serverPort`. `struck` is told of each
-  /// fault as it strikes, before a killing one kills; it runs in the proxy's thread.
-  FaultProxy(int serverPort, std::function<void(Fault)> struck);
+  /// Listens on a free port of the loopback and passes on to the first of `serverPorts` on which
+  /// somebody listens. `struck` is told of each fault as it strikes, before a killing one kills; it
+  /// runs in the proxy's thread.
+  FaultProxy(std::vector<int> serverPorts, std::function<void(Fault)> struck);
   ~FaultProxy();
   FaultProxy(const FaultProxy&) = delete;
   FaultProxy& operator=(const FaultProxy&) = delete;
@@ -57,6 +58,7 @@ class FaultProxy {
 
   void Serve();
   void Accept();
+  int Reach() const;
   bool FromClient(Line& line);
   bool FromServer(Line& line);
   bool PassRequest(Line& line);
@@ -64,7 +66,7 @@ class FaultProxy {
   bool Broken();
   static void Close(Line& line);
 
-  const int serverPort_;
+  const std::vector<int> serverPorts_;
   const std::function<void(Fault)> struck_;
   std::atomic<Fault> armed_{Fault::None};
   std::atomic<int> outage_{0};

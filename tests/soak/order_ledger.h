@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <functional>
 #include <map>
 #include <set>
@@ -16,7 +17,9 @@ namespace store {
 /// told.
 class OrderLedger {
  public:
-  OrderLedger(DayBook& book, Findings& findings) : book_(book), findings_(findings) {}
+  /// A transaction commits within `slowest` after it has taken the number of a step.
+  OrderLedger(DayBook& book, Findings& findings, std::chrono::seconds slowest)
+      : book_(book), findings_(findings), slowest_(slowest) {}
 
   /// Reads the steps that were committed since the last call, and the receipts among them.
   /// `readIntentions` brings into the book what was meant before that.
@@ -37,6 +40,8 @@ class OrderLedger {
     int Inserts = 0;
     int Deletes = 0;
     int Rewritten = 0;  // versions that took the place of one
+    // The same after a try without an answer, unless somebody had deleted what that had stored.
+    int PerhapsRewritten = 0;
     int Reverts = 0;
   };
   /// An order was closed by a receipt whose slip has yet to be looked at.
@@ -64,7 +69,9 @@ class OrderLedger {
   std::map<std::string, Slip> slips_;
   std::map<std::string, Closing> closings_;  // by receipt
   long long lastStep_ = 0;
-  std::map<long long, int> gaps_;  // numbers not seen yet, with the rounds they were looked for
+  const std::chrono::seconds slowest_;
+  // Numbers not seen yet, and how long they are looked for.
+  std::map<long long, std::chrono::steady_clock::time_point> gaps_;
 };
 
 }  // namespace store

@@ -3,6 +3,7 @@
 #include <csignal>
 #include <cstring>
 #include <string>
+#include <vector>
 
 #include "tests/soak/clerk.h"
 
@@ -18,11 +19,23 @@ bool TakeNumber(const char* text, Number& number) {
   return error == std::errc() && *end == '\0';
 }
 
+/// Numbers parted by commas.
+bool TakePorts(const char* text, std::vector<int>& ports) {
+  const char* last = text + std::strlen(text);
+  for (int port = 0;; ++text) {
+    const auto [end, error] = std::from_chars(text, last, port);
+    if (error != std::errc()) return false;
+    ports.push_back(port);
+    if (end == last) return true;
+    text = end;
+  }
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
   store::ClerkPlace place;
-  if (argc != 7 || !TakeNumber(argv[2], place.ServerPort) || !TakeNumber(argv[3], place.Store) ||
+  if (argc != 7 || !TakePorts(argv[2], place.ServerPorts) || !TakeNumber(argv[3], place.Store) ||
       !TakeNumber(argv[4], place.Terminal) || !TakeNumber(argv[5], place.Stores) ||
       !TakeNumber(argv[6], place.Seed)) {
     return 2;

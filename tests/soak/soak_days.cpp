@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <charconv>
 #include <chrono>
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -16,14 +17,15 @@
 #include <string_view>
 #include <thread>
 
-#include "private_db/private_db_server.h"
 #include "tests/soak/clerks.h"
 #include "tests/soak/day_book.h"
 #include "tests/soak/db_client.h"
 #include "tests/soak/findings.h"
 #include "tests/soak/franchise.h"
+#include "tests/soak/node_check.h"
 #include "tests/soak/order_ledger.h"
 #include "tests/soak/pass_ledger.h"
+#include "tests/soak/site.h"
 #include "tests/soak/soak_database.h"
 #include "tests/soak/store_rules.h"
 
@@ -36,26 +38,33 @@ struct Options {
   int Seconds = 30 * 60;
   unsigned Seed = 1;
   int Stores = 12;
+  bool Cluster = false;
   std::string Logs;  // where the clerks' logs are kept
 };
 
 constexpr auto kRound = std::chrono::milliseconds(200);
 /// A batch whose client was cut off may still be running at the server for so long.
-constexpr auto kSettling = std::chrono::seconds(6);
+constexpr auto kSettlingAlone = std::chrono::seconds(8);
+constexpr auto kSettlingOfCluster = std::chrono::seconds(25);
+constexpr int kNodes = 3;
+
+volatile std::sig_atomic_t interrupted = 0;
+
+void Interrupt(int /*signal*/) { interrupted = 1; }
 
 class Days {
  public:
   Days(const Options& options, const std::string& program)
       : options_(options),
-        server_("store_soak", "", Fail, "--innodb-lock-wait-timeout=2 --max-connections=300"),
+        site_(options.Cluster ? kNodes : 1, Fail),
+        settling_(options.Cluster ? kSettlingOfCluster : kSettlingAlone),
         random_(options.Seed) {
-    server_.Start();
-    server_.MakeSchema(kCompany);
-    db_ = std::make_unique<DbClient>(server_.Port());
+    site_.Start(kCompany);
+    db_ = std::make_unique<DbClient>(site_.Ports());
     FillFranchise(*db_, options.Stores);
-    folder_ = options.Logs.empty() ? server_.Folder() + "/clerks" : options.Logs;
-    clerks_ =
-        std::make_unique<Clerks>(program, folder_, server_.Port(), options.Stores, options.Seed);
+    folder_ = options.Logs.empty() ? site_.Folder() + "/clerks" : options.Logs;
+    clerks_ = std::make_unique<Clerks>(program, folder_, site_.Ports(), options.Stores,
+                                       options.Seed, findings_);
   }
 
   int Run() {
@@ -63,7 +72,7 @@ class Days {
     const auto end = begin + std::chrono::seconds(options_.Seconds);
     auto minute = begin + std::chrono::minutes(1);
     auto power = begin + NextPowerCut();
-    while (steady_clock::now() < end) {
+    while (steady_clock::now() < end && interrupted == 0) {
       clerks_->KeepWorking();
       for (int store = 0; store < options_.Stores; ++store) {
         MoveOrders(*db_, StoreCodeOf(store), 1 + static_cast<int>(random_() % 4));
@@ -74,7 +83,7 @@ class Days {
         ++driverFaults_["client killed at any time"];
       }
       if (steady_clock::now() > power) {
-        CutPower();
+        site_.Strike(random_, driverFaults_);
         power = steady_clock::now() + NextPowerCut();
       }
       if (steady_clock::now() > minute) {
@@ -83,8 +92,9 @@ class Days {
       }
       std::this_thread::sleep_for(kRound);
     }
+    site_.AwaitEverybody();
     clerks_->SendHome();
-    std::this_thread::sleep_for(kSettling);
+    std::this_thread::sleep_for(settling_);
     return Finish(begin);
   }
 
@@ -94,16 +104,11 @@ class Days {
     std::exit(2);
   }
 
+  /// A few in the shortest run.
   std::chrono::milliseconds NextPowerCut() {
-    const int mean = options_.Seconds < 120 ? 10'000 : 45'000;
+    const int mean = std::min(options_.Cluster ? 15'000 : 45'000, options_.Seconds * 1000 / 3);
     return std::chrono::milliseconds(mean / 2 +
                                      static_cast<int>(random_() % static_cast<unsigned>(mean)));
-  }
-
-  void CutPower() {
-    server_.Kill();
-    server_.Start();
-    ++driverFaults_["server killed"];
   }
 
   void ReadLogs() {
@@ -124,11 +129,11 @@ class Days {
       if (work->Verdict == Work::Known::Stored) {
         told_.push_back(work);
       } else {
-        settling_.push_back({now + kSettling, work});
+        open_.push_back({now + settling_, work});
       }
     }
     for (PassPress& press : book_.TakePasses())
-      passes_.push_back({now + kSettling, std::move(press)});
+      passes_.push_back({now + settling_, std::move(press)});
     ledger_.ReadSteps(*db_, [this] { ReadLogs(); });
     JudgeWhatIsDue(now);
     CheckStore(*db_, StoreCodeOf(nextStore_), findings_);
@@ -136,9 +141,9 @@ class Days {
   }
 
   void JudgeWhatIsDue(steady_clock::time_point now) {
-    while (!settling_.empty() && settling_.front().first <= now) {
-      told_.push_back(settling_.front().second);
-      settling_.pop_front();
+    while (!open_.empty() && open_.front().first <= now) {
+      told_.push_back(open_.front().second);
+      open_.pop_front();
     }
     ledger_.Judge(*db_, told_);
     told_.clear();
@@ -151,27 +156,33 @@ class Days {
   }
 
   int Finish(steady_clock::time_point begin) {
+    ReadLogs();
     book_.CloseEverything();
     Look();
-    JudgeWhatIsDue(steady_clock::now() + kSettling);
+    JudgeWhatIsDue(steady_clock::now() + settling_);
     ledger_.JudgeCounts();
     JudgeProgress();
     passLedger_.JudgeRows(*db_);
     for (int store = 0; store < options_.Stores; ++store) {
       CheckStore(*db_, StoreCodeOf(store), findings_);
     }
+    if (site_.IsCluster()) CheckNodesAgree(site_.Ports(), findings_);
     PrintMinute(begin);
     PrintCounts();
     if (findings_.Empty()) return EXIT_SUCCESS;
     findings_.Print();
-    std::printf("repeat it with --seed %u; what the clerks wrote down stands in %s\n",
-                options_.Seed, KeepLogs().c_str());
+    std::printf("repeat it with --seed %u; what the clerks wrote down and the data stand in %s\n",
+                options_.Seed, KeepFacts().c_str());
     return EXIT_FAILURE;
   }
 
-  std::string KeepLogs() const {
+  std::string KeepFacts() const {
+    const std::string dump = "mariadb-dump --no-defaults -h 127.0.0.1 -P " +
+                             std::to_string(site_.Ports().front()) + " -u kt -pqz4471 " + kCompany +
+                             " >'" + folder_ + "/data.sql'";
+    if (std::system(dump.c_str()) != 0) std::printf("the data could not be kept\n");
     if (!options_.Logs.empty()) return options_.Logs;
-    const std::string kept = server_.Folder() + "_logs";
+    const std::string kept = site_.Folder() + "_logs";
     std::error_code failed;
     std::filesystem::rename(folder_, kept, failed);
     return failed ? folder_ : kept;
@@ -216,20 +227,24 @@ class Days {
     print("told", book_.Verdicts);
     print("faults at terminals", book_.Faults);
     print("others", driverFaults_);
+    if (!site_.IsCluster()) return;
+    std::printf("undone by the cluster since each node's last start: %s\n",
+                UndoneByCluster(site_.Ports()).c_str());
   }
 
   const Options options_;
-  PrivateDbServer server_;
+  Site site_;
+  const std::chrono::seconds settling_;
   std::mt19937 random_;
   std::string folder_;
   std::unique_ptr<DbClient> db_;
-  std::unique_ptr<Clerks> clerks_;
   Findings findings_;
+  std::unique_ptr<Clerks> clerks_;
   DayBook book_;
-  OrderLedger ledger_{book_, findings_};
+  OrderLedger ledger_{book_, findings_, settling_};
   PassLedger passLedger_{book_, findings_};
   std::vector<Work*> told_;
-  std::deque<std::pair<steady_clock::time_point, Work*>> settling_;
+  std::deque<std::pair<steady_clock::time_point, Work*>> open_;
   std::deque<std::pair<steady_clock::time_point, PassPress>> passes_;
   std::map<std::string, long> driverFaults_;
   int nextStore_ = 0;
@@ -242,8 +257,15 @@ bool TakeNumber(const char* text, Number& number) {
 }
 
 bool ParseArguments(int argc, char** argv, Options& options) {
-  for (int i = 1; i + 1 < argc; i += 2) {
+  int i = 1;
+  for (; i < argc; i += 2) {
     const std::string_view option = argv[i];
+    if (option == "--cluster") {
+      options.Cluster = true;
+      --i;
+      continue;
+    }
+    if (i + 1 == argc) return false;
     int minutes = 0;
     bool taken = false;
     if (option == "--minutes") {
@@ -262,7 +284,7 @@ bool ParseArguments(int argc, char** argv, Options& options) {
     }
     if (!taken) return false;
   }
-  return argc % 2 == 1;
+  return true;
 }
 
 }  // namespace
@@ -271,12 +293,17 @@ bool ParseArguments(int argc, char** argv, Options& options) {
 int main(int argc, char** argv) {
   store::Options options;
   if (!store::ParseArguments(argc, argv, options)) {
-    std::fprintf(
-        stderr,
-        "usage: soak_days [--minutes M | --seconds S] [--seed N] [--stores N] [--logs DIR]\n");
+    std::fprintf(stderr,
+                 "usage: soak_days [--cluster] [--minutes M | --seconds S] [--seed N] [--stores N] "
+                 "[--logs DIR]\n");
     return 2;
   }
+  // An interrupted run closes the stores, looks at everything, and leaves no server behind.
+  std::signal(SIGINT, store::Interrupt);
+  std::signal(SIGTERM, store::Interrupt);
   const std::string program =
       std::filesystem::read_symlink("/proc/self/exe").parent_path() / "soak_clerk";
-  return store::Days(options, program).Run();
+  // Static, so that its server goes with it also where something ends the program.
+  static store::Days days(options, program);
+  return days.Run();
 }

@@ -71,6 +71,7 @@ void CuttingProxy::CutNextBatch(Cut when, bool staysAway) {
 void CuttingProxy::Accept() {
   for (int client = accept(listener_, nullptr, nullptr); client >= 0;
        client = accept(listener_, nullptr, nullptr)) {
+    if (cut_ == Cut::Never) std::this_thread::sleep_for(waiting_.exchange({}));
     const int server = socket(AF_INET, SOCK_STREAM, 0);
     const sockaddr_in address = Loopback(targetPort_);
     if (away_ ||

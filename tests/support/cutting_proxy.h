@@ -1,6 +1,7 @@
 #pragma once
 
 #include <atomic>
+#include <chrono>
 #include <string>
 #include <thread>
 #include <vector>
@@ -28,6 +29,8 @@ class CuttingProxy {
   /// until `Return`.
   void CutNextBatch(Cut when, bool staysAway = false);
   void Return() { away_ = false; }
+  /// Whoever connects next after a cut is let through so much later.
+  void KeepNextWaiting(std::chrono::milliseconds time) { waiting_ = time; }
 
  private:
   void Accept();
@@ -40,6 +43,7 @@ class CuttingProxy {
   std::atomic<bool> staysAway_{false};
   std::atomic<bool> away_{false};
   std::atomic<bool> ending_{false};
+  std::atomic<std::chrono::milliseconds> waiting_{};
   std::vector<std::thread> lines_;
   std::thread acceptor_;
 };
