@@ -172,6 +172,8 @@ void ItemBoxPane::RefuseUnread() {
   inBox.SetText("");
   AddAccepted = 0;
   PriceUnread = true;
+  NoteRefused(ItemText(item::Barcode), "단가 못 읽음");
+  if (AddInProgress == 0) Host.Beep();
   Warn(ItemText(item::Name) + "의 단가를 읽지 못하였습니다. 다시 입력하세요.");
 }
 
