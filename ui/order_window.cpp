@@ -50,7 +50,8 @@ OrderWindow::OrderWindow(OrderForm& form) : FormWindow(form), order_(form) {
   FillWindow(*this, content);
   new ProgressPanel(*this);
   BindControls();
-  resize(kSize);
+  TitleTells([this] { return StoreAnd(order_.Text1); });
+  Layout().OpenAs(kSize, 1);
 }
 
 QWidget* OrderWindow::Header() {
@@ -116,8 +117,9 @@ QWidget* OrderWindow::ItemBox() {
 }
 
 QWidget* OrderWindow::Lines() {
-  return Titled(HeadingLabel("발주 내역   (Del 행 삭제)"),
-                Named("FLEX1", new GridView(order_.FLEX1, kTwoLines)));
+  auto* lines = Named("FLEX1", new GridView(order_.FLEX1, kTwoLines));
+  OnShortcut(QKeySequence(Qt::CTRL | Qt::Key_G), [lines] { lines->SwitchOptionalColumns(); });
+  return Titled(HeadingLabel("발주 내역   (Del 행 삭제,  Ctrl+G 규격)"), lines);
 }
 
 QWidget* OrderWindow::PickList() {
