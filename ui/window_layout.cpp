@@ -86,8 +86,18 @@ void WindowLayout::GiveFirstSize() {
 }
 
 bool WindowLayout::TakeGeometry(const QString& text) {
+  const QByteArray before = window_.saveGeometry();
   const QByteArray kept = QByteArray::fromBase64(text.toLatin1());
-  return kept.size() == window_.saveGeometry().size() && window_.restoreGeometry(kept);
+  if (kept.size() != before.size() || !window_.restoreGeometry(kept)) return false;
+  // As large as it will be: a window of one pixel in a corner grows out of the screen.
+  const QRect place(window_.geometry().topLeft(),
+                    window_.size().expandedTo(window_.minimumSizeHint()));
+  const QList<QScreen*> screens = QGuiApplication::screens();
+  const bool isSeen = std::any_of(screens.begin(), screens.end(), [&](const QScreen* screen) {
+    return screen->availableGeometry().contains(place.center());
+  });
+  if (!isSeen) window_.restoreGeometry(before);
+  return isSeen;
 }
 
 bool WindowLayout::Restore() {
