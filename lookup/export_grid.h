@@ -9,7 +9,7 @@ namespace store {
 
 /// Copies a grid, its header first, into a new workbook among the user's documents and opens it
 /// with the desktop's own program. The file is named after the window and the time
-/// ("거래처도움창_2026-11-26_1031.xlsx") and never stands for an older one; `where` says where it
+/// ("거래처 도움창_2026-11-26_1031.xlsx") and never stands for an older one; `where` says where it
 /// is. What cannot be opened or written is told in a message box; then `where` is empty or, where
 /// only the opening failed, still says it.
 void ExportGrid(const Grid& grid, const std::string& window, Label& where);
