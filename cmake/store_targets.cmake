@@ -23,7 +23,7 @@ function(store_test name)
   endif()
 endfunction()
 
-# The same for tests at real widgets, which share a main of their own.
+# The same for tests at real widgets, which share a main of their own and the screen of a store.
 function(store_widget_test name)
   cmake_parse_arguments(T "DATABASE" "" "SOURCES;LIBS" ${ARGN})
   add_executable(${name} ${T_SOURCES} ${PROJECT_SOURCE_DIR}/tests/support/widget_test_main.cpp)
@@ -31,7 +31,7 @@ function(store_widget_test name)
   target_link_libraries(${name} PRIVATE ${T_LIBS} store_ui Qt6::Test GTest::gtest)
   add_test(NAME ${name} COMMAND ${name})
   set_tests_properties(${name} PROPERTIES TIMEOUT 600 ENVIRONMENT
-                       "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8")
+                       "QT_QPA_PLATFORM=offscreen:configfile=${PROJECT_SOURCE_DIR}/tests/support/screen.json;LC_ALL=C.UTF-8")
   if(T_DATABASE)
     set_tests_properties(${name} PROPERTIES RESOURCE_LOCK database)
   endif()

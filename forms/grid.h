@@ -18,6 +18,7 @@ struct GridColumn {
   Align Alignment = Align::General;
   std::string Format = {};  ///< A number mask for what is shown; the cell keeps its text.
   bool Hidden = false;
+  bool Optional = false;  ///< Hidden, but a person may have it shown.
   bool CheckBox = false;  ///< A cell whose number is not 0 is ticked; ticking puts in "-1" or "0".
   bool Editable = false;  ///< The window may open an editor in its cells, or tick them.
   int BackColor = -1;     ///< 0xRRGGBB behind its data cells, -1 for the grid's own.

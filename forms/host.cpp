@@ -27,6 +27,7 @@ HostDoor EmptyHost() {
   };
   host.SaveSetting = [](const std::string&, const std::string&, const std::string&,
                         const std::string&) {};
+  host.ForgetSettings = [](const std::string&, const std::string&) {};
   host.MakeSerialPort = MakeAbsentPort;
   host.PreviousInstance = [] { return false; };
   return host;

@@ -85,6 +85,9 @@ struct HostDoor {
                      const std::string& key, const std::string& value)>
       SaveSetting;
 
+  /// Removes all settings of a section, and of those below it ("a/b" is below "a").
+  std::function<void(const std::string& application, const std::string& section)> ForgetSettings;
+
   /// A serial port of the workstation, closed and with its first settings. Where there is no such
   /// thing it gives one that cannot be opened.
   std::function<std::unique_ptr<SerialPort>()> MakeSerialPort;
@@ -92,8 +95,9 @@ struct HostDoor {
   /// True when another instance of this program file is running on the workstation.
   std::function<bool()> PreviousInstance;
 
-  bool Ending = false;        ///< Set by `store::EndProgram`.
-  std::string ProgramFolder;  ///< Without a slash at the end.
+  bool Ending = false;          ///< Set by `store::EndProgram`.
+  std::string ProgramFolder;    ///< Without a slash at the end.
+  std::string DocumentsFolder;  ///< Of the user, without a slash at the end.
   std::string ProgramTitle;
   ProgramVersionNumbers Version;
 };

@@ -2,10 +2,14 @@
 
 #include <xlsxwriter.h>
 
+#include <cerrno>
+#include <cstdio>
 #include <filesystem>
+#include <string_view>
 
 #include "basics/dates.h"
 #include "basics/numbers.h"
+#include "basics/text.h"
 #include "forms/host.h"
 
 namespace store {
@@ -38,16 +42,33 @@ void WriteCell(lxw_worksheet* sheet, const std::string& address, const std::stri
   }
 }
 
-/// A fresh file each time: the last one may still be open on the screen. Empty when there is no
-/// folder to put it in.
-std::string NewFileName() {
-  std::error_code failed;
-  const auto folder = std::filesystem::temp_directory_path(failed);
-  if (failed) return {};
-  const std::string stamp = FormatDateValue(Host.Now(), "YYYYMMDDHHNNSS");
+/// A window's caption as a part of a file's name.
+std::string FileWord(const std::string& caption) {
+  std::string word = Trim(caption);
+  for (char& letter : word) {
+    const bool isControl = static_cast<unsigned char>(letter) < ' ';
+    if (isControl || std::string_view("/\\:*?\"<>|").find(letter) != std::string_view::npos) {
+      letter = '_';
+    }
+  }
+  return word;
+}
+
+/// A new and empty file among the user's documents, named after the window and the minute. It is
+/// taken in one step, so that no sheet is ever written over. Empty where no file can be made.
+std::string NewFile(const std::string& window) {
+  const std::filesystem::path folder(Host.DocumentsFolder);
+  std::error_code ignored;
+  std::filesystem::create_directories(folder, ignored);
+  const std::string name = FileWord(window) + FormatDateValue(Host.Now(), "_YYYY-MM-DD_HHNN");
   for (int number = 1;; ++number) {
-    const auto path = folder / ("grid_" + stamp + "_" + std::to_string(number) + ".xlsx");
-    if (!std::filesystem::exists(path, failed)) return path.string();
+    const std::string further = number == 1 ? "" : "_" + std::to_string(number);
+    const std::string path = (folder / (name + further + ".xlsx")).string();
+    if (std::FILE* file = std::fopen(path.c_str(), "wbx")) {
+      std::fclose(file);
+      return path;
+    }
+    if (errno != EEXIST) return {};
   }
 }
 
@@ -76,14 +97,18 @@ std::string ColumnLetters(int row, int column, const std::string& before) {
   return {prefix, letter(index)};
 }
 
-void ExportGrid(const Grid& grid) {
+void ExportGrid(const Grid& grid, const std::string& window, Label& where) {
+  where.Caption.clear();
   bool written = false;
   bool opened = false;
   {
     const Hourglass waiting;
-    const std::string path = NewFileName();
+    const std::string path = NewFile(window);
     written = WriteWorkbook(grid, path);
+    if (written) where.Caption = "엑셀 저장: " + path;
     opened = written && Host.OpenAddress(path);
+    std::error_code ignored;
+    if (!written && !path.empty()) std::filesystem::remove(path, ignored);
   }
   if (!written) {
     Host.MsgBox("사용자  작업   취소              ", box::Plain, "강제취소");

@@ -34,6 +34,7 @@ void LookupForm::PublishControls() {
   Publish("Command2", Command2);
   Publish("Command3", Command3);
   Publish("Command4", Command4);
+  Publish("LaSheet", LaSheet);
   TabOrder = {&Text1, &Command1, &FLEX1};
   Text1.KeyDown = [this](Key key) { Text1_KeyDown(key); };
   Text1.OwnKeys = {Key::Enter, Key::Down};
@@ -96,7 +97,7 @@ void LookupForm::FLEX1_DblClick() { Choose(); }
 
 void LookupForm::FLEX1_KeyDown(Key key) {
   if (key == Key::Enter) Choose();
-  if (key == Key::F12) ExportGrid(FLEX1);
+  if (key == Key::F12) ExportGrid(FLEX1, Caption, LaSheet);
 }
 
 void LookupForm::Choose() {

@@ -44,6 +44,7 @@ class LookupForm : public Form {
   Button Command2;
   Button Command3;
   Button Command4;
+  Label LaSheet;  ///< Where the exported sheet is.
 
   // Inputs.
   std::string GroupCode;  ///< Only partners of this group, found at once when not empty.

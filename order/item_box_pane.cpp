@@ -54,7 +54,7 @@ void ItemBoxPane::SetUpLines() {
       {.Header = "No.", .Width = 330, .Alignment = Align::Center},
       {.Header = "품목코드", .Width = 810, .Alignment = Align::Left, .Hidden = true},
       {.Header = "품명", .Width = 2055, .Alignment = Align::Left},
-      {.Header = "규격", .Width = 1620, .Alignment = Align::Left, .Hidden = true},
+      {.Header = "규격", .Width = 1620, .Alignment = Align::Left, .Hidden = true, .Optional = true},
       {.Header = "세액구분", .Width = 1290, .Alignment = Align::Left, .Hidden = true},
       {.Header = "단가", .Width = 855, .Alignment = Align::Right, .Format = kMaskUpToCents},
       {.Header = "최소발주", .Width = 810, .Alignment = Align::Right, .Hidden = true},

@@ -65,6 +65,7 @@ void frm_PE_UNIT::PublishControls() {
   Publish("Combo1", Combo1);
   Publish("Command1_1", Command1[1]);
   Publish("Label4", Label4);
+  Publish("LaSheet", LaSheet);
   DTPicker1.Change = [this] { DTPicker1_Change(); };
   inBox.KeyDown = [this](Key key) {
     inBox_KeyDown(key);
@@ -175,7 +176,7 @@ void frm_PE_UNIT::LoadReceiptLine() {
 }
 
 void frm_PE_UNIT::FLEX1_KeyDown(Key key) {
-  if (key == Key::F12) ExportGrid(FLEX1);
+  if (key == Key::F12) ExportGrid(FLEX1, Caption, LaSheet);
 }
 
 void frm_PE_UNIT::inBox_KeyPress(Key key) {

@@ -45,6 +45,7 @@ class frm_PE_UNIT : public SlipForm, public LinesPane {
   ComboBox Combo1;                 ///< The depot that takes all lines of the slip.
   std::array<Button, 2> Command1;  ///< 1 confirms; 0 has no action.
   Label Label4;                    ///< Closes the form.
+  Label LaSheet;                   ///< Where the exported sheet is.
 
   HeadArray HeadValues;
   StringTable LineValues;

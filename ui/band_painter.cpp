@@ -19,7 +19,9 @@ void PaintBars(QPainter& painter, const QRect& band) {
   for (int bar = 0; bar < kBars; ++bar) {
     const int height = band.height() * (30 + 8 * bar - (bar % 2) * 14) / 100;
     const int left = band.right() - kSide - (kBars - bar) * step + (step - width);
-    painter.setBrush(QColor(255, 255, 255, 22 + 9 * bar));
+    QColor light(look::Inverse);
+    light.setAlpha(22 + 9 * bar);
+    painter.setBrush(light);
     painter.drawRect(left, band.bottom() - height + 1, width, height);
   }
 }
@@ -35,7 +37,7 @@ void PaintBandedGround(QPainter& painter, const QRect& window, int bandHeight,
   ground.setColorAt(1, QColor(look::Accent));
   painter.fillRect(band, ground);
   PaintBars(painter, band);
-  painter.setPen(Qt::white);
+  painter.setPen(QColor(look::Inverse));
   painter.setFont(TotalFont());
   painter.drawText(band.adjusted(kSide, 0, -kSide, 0), Qt::AlignLeft | Qt::AlignVCenter,
                    productName);

@@ -36,7 +36,7 @@ BatchWindow::BatchWindow(FRM_DT900_01& form) : FormWindow(form), batch_(form) {
   content->addWidget(Foot());
   FillWindow(*this, content);
   BindControls();
-  resize(kSize);
+  Layout().OpenAs(kSize, 1);
 }
 
 QWidget* BatchWindow::Header() {

@@ -9,6 +9,7 @@
 #include <QSplitter>
 #include <QVBoxLayout>
 
+#include "basics/records.h"
 #include "board/frm_Start.h"
 #include "ui/binding.h"
 #include "ui/grid_view.h"
@@ -61,7 +62,8 @@ BoardWindow::BoardWindow(frm_Start& form) : FormWindow(form), board_(form) {
   setLayout(content);
   MakeNoticePane();
   BindControls();
-  resize(kSize);
+  TitleTells([] { return Session.StoreName; });
+  Layout().OpenAs(kSize, 1);
   slips_->setFocus();
 }
 

@@ -2,13 +2,15 @@
 
 #include <QKeyEvent>
 
+#include "ui/palette.h"
+
 namespace store {
 
 CellEditor::CellEditor(QWidget* parent) : QLineEdit(parent) {
   setFrame(false);
   setAlignment(Qt::AlignRight);
-  setStyleSheet(
-      "border: 2px solid #1b6ca8; border-radius: 0; padding: 0 2px; background: #ffffc8;");
+  setStyleSheet(QString("border: 2px solid %1; border-radius: 0; padding: 0 2px; background: %2;")
+                    .arg(QColor(look::Accent).name(), QColor(look::OpenCell).name()));
   hide();
 }
 

@@ -103,6 +103,7 @@ FormWindow* Desk::Open(Form& form) {
   FormWindow* window = MakeWindow(form);
   if (window == nullptr) return nullptr;
   open_.push_back(window);
+  window->TakeLayout();
   window->TellSize();
   form.EnsureLoaded();
   if (form.IsClosed()) return nullptr;
@@ -179,6 +180,10 @@ FormWindow* Desk::WindowNamed(const std::string& formName) const {
   return found == open_.end() ? nullptr : *found;
 }
 
+void Desk::ForEachWindow(const std::function<void(FormWindow&)>& act) const {
+  for (FormWindow* window : open_) act(*window);
+}
+
 QWidget* Desk::FrontWindow() const {
   if (QWidget* modal = QApplication::activeModalWidget()) return modal;
   if (QWidget* active = QApplication::activeWindow()) return active;
@@ -186,6 +191,19 @@ QWidget* Desk::FrontWindow() const {
     if ((*window)->isVisible()) return *window;
   }
   return nullptr;
+}
+
+void Desk::ComeForward() {
+  QWidget* front = FrontWindow();
+  if (front == nullptr) return;
+  if (auto* window = dynamic_cast<FormWindow*>(front)) {
+    window->ComeForward();
+  } else {
+    front->raise();
+    front->activateWindow();
+  }
+  // A desktop that lets no program take the keyboard shows it in the task bar.
+  QApplication::alert(front);
 }
 
 void Desk::Clear() {

@@ -53,8 +53,12 @@ class Desk : public QObject {
   FormWindow* WindowOf(const Form& form) const;
   /// The window of the form with that name, or nothing.
   FormWindow* WindowNamed(const std::string& formName) const;
+  void ForEachWindow(const std::function<void(FormWindow&)>& act) const;
   /// What a box stands in front of.
   QWidget* FrontWindow() const;
+
+  /// Brings what a person works in to the front, as when the program is started once more.
+  void ComeForward();
 
   /// While a box is open, windows lose and get the keyboard without being left by the person.
   void BoxOpened() { ++boxes_; }

@@ -30,7 +30,7 @@ DraftsWindow::DraftsWindow(frmDrafts& form) : FormWindow(form) {
   content->addWidget(Foot());
   FillWindow(*this, content);
   BindControls();
-  resize(kSize);
+  Layout().OpenAs(kSize, 0.7);
 }
 
 QWidget* DraftsWindow::Foot() {

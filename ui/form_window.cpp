@@ -37,7 +37,10 @@ bool IsFunctionKey(const QKeyEvent& event) {
 
 }  // namespace
 
-FormWindow::FormWindow(Form& form) : form_(form) { setObjectName(ToQt(form.Name)); }
+FormWindow::FormWindow(Form& form) : form_(form) {
+  setObjectName(ToQt(form.Name));
+  OnShortcut(QKeySequence(Qt::CTRL | Qt::Key_0), [] { ForgetLayouts(); });
+}
 
 FormWindow::~FormWindow() = default;
 
@@ -91,10 +94,10 @@ void FormWindow::TakePlace() {
     setWindowFlag(Qt::FramelessWindowHint);
     setMask(RoundedRegion(width(), height()));
   }
-  if (place.Positioned) move(place.Left, place.Top);
+  if (place.Positioned && !placed_) move(place.Left, place.Top);
   if (place.OnTop) setWindowFlag(Qt::WindowStaysOnTopHint);
   if (place.State == WindowState::Minimized) setWindowState(Qt::WindowMinimized);
-  if (place.State == WindowState::Maximized) setWindowState(Qt::WindowMaximized);
+  if (place.State == WindowState::Maximized && !placed_) setWindowState(Qt::WindowMaximized);
 }
 
 void FormWindow::ComeForward() {
@@ -118,6 +121,7 @@ void FormWindow::EndModal() {
 }
 
 void FormWindow::Leave() {
+  if (painted_) layout_.Save();
   gone_ = true;
   hide();
   for (QTimer* timer : findChildren<QTimer*>()) timer->stop();
@@ -126,12 +130,17 @@ void FormWindow::Leave() {
 
 void FormWindow::Sync() {
   if (gone_) return;
-  if (const QString caption = ToQt(form_.Caption); windowTitle() != caption) {
-    setWindowTitle(caption);
-  }
+  FollowTitle();
   for (const auto& binding : bindings_) binding->Follow();
   for (const auto& sync : syncs_) sync();
   FollowFocus();
+}
+
+void FormWindow::FollowTitle() {
+  QString title = ToQt(form_.Caption);
+  const QString subject = subject_ ? ToQt(subject_()) : QString();
+  if (!subject.isEmpty()) title += " - " + subject;
+  if (windowTitle() != title) setWindowTitle(title);
 }
 
 void FormWindow::FollowFocus() {

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "forms/form.h"
+#include "ui/window_layout.h"
 
 class QEventLoop;
 class QKeyEvent;
@@ -45,7 +46,12 @@ class FormWindow : public QWidget {
   /// The names of published controls for which the layout has no widget.
   std::vector<std::string> ControlsWithoutWidget() const;
 
+  /// What stands behind the caption in the title: which one of several windows this is.
+  void TitleTells(std::function<std::string()> subject) { subject_ = std::move(subject); }
+  WindowLayout& Layout() { return layout_; }
+
   // For the desk.
+  void TakeLayout() { placed_ = layout_.Restore(); }
   void TellSize();
   void TakePlace();
   void ComeForward();
@@ -77,15 +83,19 @@ class FormWindow : public QWidget {
   bool InOpenCell(const QWidget& at) const;
   void ChainTabOrder();
   bool ShortcutTakes(const QKeyEvent& event);
+  void FollowTitle();
 
   Form& form_;
+  WindowLayout layout_{*this};
+  std::function<std::string()> subject_;
   std::vector<std::unique_ptr<Binding>> bindings_;
   std::vector<std::function<void()>> syncs_;
   std::vector<std::pair<QKeySequence, std::function<void()>>> shortcuts_;
   std::vector<GridView*> grids_;
   QEventLoop* loop_ = nullptr;
   unsigned focusSeen_ = 0;
-  bool gone_ = false;  // the form has closed and may not even be there any more
+  bool placed_ = false;  // where a person has left it
+  bool gone_ = false;    // the form has closed and may not even be there any more
   bool painted_ = false;
   bool begun_ = false;
   bool left_ = false;  // for another window, not just for a box

@@ -2,6 +2,7 @@
 
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QMenu>
 #include <QToolTip>
 #include <algorithm>
 
@@ -11,17 +12,10 @@
 #include "ui/key_names.h"
 #include "ui/qt_text.h"
 #include "ui/style.h"
+#include "ui/window_layout.h"
 
 namespace store {
 namespace {
-
-constexpr int kHeaderMargin = 10;
-constexpr int kNarrowest = 18;
-constexpr int kCellMargin = 12;
-constexpr int kMeasuredRows = 100;
-constexpr size_t kRememberedTexts = 1000;  // of a column
-constexpr int kLongestCode = 120;
-constexpr int kLongestName = 260;
 
 /// Sets a flag for as long as it lives.
 class Flagged {
@@ -39,7 +33,11 @@ class Flagged {
 }  // namespace
 
 GridView::GridView(Grid& grid, int lines, QWidget* parent)
-    : QTableView(parent), grid_(grid), model_(grid), editor_(new CellEditor(viewport())) {
+    : QTableView(parent),
+      grid_(grid),
+      model_(grid),
+      columns_(*this, grid, model_),
+      editor_(new CellEditor(viewport())) {
   setModel(&model_);
   setItemDelegate(new GridDelegate(*this));
   setSelectionMode(NoSelection);
@@ -56,15 +54,19 @@ GridView::GridView(Grid& grid, int lines, QWidget* parent)
   horizontalHeader()->setVisible(grid.FixedRows() > 0);
   horizontalHeader()->setSectionsClickable(false);
   horizontalHeader()->setHighlightSections(false);
-  horizontalHeader()->setMinimumSectionSize(kNarrowest);
+  horizontalHeader()->setContextMenuPolicy(Qt::CustomContextMenu);
   setAttribute(Qt::WA_InputMethodEnabled);
   setMouseTracking(true);
   editor_->Left = [this](bool keep, int step) { CloseCell(keep, step); };
   connect(this, &QTableView::clicked, this, &GridView::Clicked);
   connect(this, &QTableView::doubleClicked, this, &GridView::DoubleClicked);
   connect(horizontalHeader(), &QHeaderView::sectionResized, this,
-          [this](int section, int, int newSize) { MoveBorder(section, newSize); });
-  FollowColumns();
+          [this](int section, int oldSize, int newSize) {
+            columns_.MoveBorder(section, oldSize, newSize);
+          });
+  connect(horizontalHeader(), &QHeaderView::customContextMenuRequested, this,
+          &GridView::OpenHeaderMenu);
+  columns_.Follow();
 }
 
 // --- following the form
@@ -75,7 +77,7 @@ void GridView::Follow() {
   const Flagged flagged(following_);
   if (model_.Follow()) {
     if (openRow_ != 0) CloseCell(false, 0);
-    FollowColumns();
+    columns_.Follow();
     FollowHiddenRows();
   }
   FollowCurrentCell();
@@ -89,15 +91,6 @@ void GridView::FollowTopRow() {
   executeDelayedItemsLayout();
   updateGeometries();
   scrollTo(model_.index(grid_.TopRow(), ShownColumn(0)), PositionAtTop);
-}
-
-void GridView::FollowColumns() {
-  for (int column = 0; column < grid_.Cols(); ++column) {
-    const bool hidden = grid_.Columns()[static_cast<size_t>(column)].Hidden;
-    if (isColumnHidden(column) != hidden) setColumnHidden(column, hidden);
-  }
-  MeasureColumns();
-  ShareWidth();
 }
 
 void GridView::FollowHiddenRows() {
@@ -126,89 +119,38 @@ int GridView::ShownColumn(int column) const {
   return 0;
 }
 
-// --- column widths
-
-// The first rows stand for all of them: a list of thousands must not be measured row by row. Needs
-// only grow, so that the columns do not jump with every search.
-void GridView::MeasureColumns() {
-  const int rows = std::min(kMeasuredRows, model_.rowCount());
-  for (int column = 0; column < grid_.Cols(); ++column) {
-    if (isColumnHidden(column)) continue;
-    for (int row = 0; row < rows; ++row) Measure(column, row);
+// What can be switched on, and the way back from everything that was changed.
+void GridView::OpenHeaderMenu(const QPoint& at) {
+  QMenu menu;
+  for (const int column : columns_.Optional()) {
+    QAction* optional = menu.addAction(ToQt(grid_.TextMatrix(0, column)));
+    optional->setCheckable(true);
+    optional->setChecked(columns_.IsShown(column));
+    connect(optional, &QAction::toggled, this,
+            [this, column](bool on) { columns_.Switch(column, on); });
   }
+  menu.addSeparator();
+  connect(menu.addAction(kFirstLayoutText), &QAction::triggered, this, [] { ForgetLayouts(); });
+  menu.exec(horizontalHeader()->mapToGlobal(at));
 }
 
-// A text measured before can add nothing: an order that a scan makes longer by one line must not be
-// measured from top to bottom.
-void GridView::Measure(int column, int row) {
-  ColumnNeed& need = needs_[column];
-  if (need.Measured.size() >= kRememberedTexts) need.Measured.clear();
-  const QModelIndex index = model_.index(row, column);
-  if (!need.Measured.insert(grid_.TextMatrix(model_.GridRow(index), column)).second) return;
-  for (const QString& line : index.data().toString().split('\n')) {
-    need.Width =
-        std::max(need.Width, fontMetrics().horizontalAdvance(line.trimmed()) + kCellMargin);
-  }
-}
-
-ColumnWish GridView::WishOf(int column) const {
-  const GridColumn& asked = grid_.Columns()[static_cast<size_t>(column)];
-  const QString header = model_.headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
-  const int least = horizontalHeader()->fontMetrics().horizontalAdvance(header) + kHeaderMargin;
-  const auto dragged = widths_.find(column);
-  if (dragged != widths_.end()) return {dragged->second, kNarrowest, kNarrowest};
-  const auto measured = needs_.find(column);
-  // The header itself lets no column be narrower than a tick box.
-  const int need = std::max({least, horizontalHeader()->minimumSectionSize(),
-                             measured == needs_.end() ? 0 : measured->second.Width});
-  // A name can be cut and still be known; a figure, a date or a code cannot.
-  const bool isName = asked.Alignment == Align::Left && need > kLongestCode;
-  return {std::max(1.0, static_cast<double>(asked.Width)), isName ? least : need,
-          std::min(need, kLongestName)};
-}
-
-void GridView::ShareWidth() {
-  std::vector<int> columns;
-  std::vector<ColumnWish> wishes;
-  for (int column = 0; column < grid_.Cols(); ++column) {
-    if (isColumnHidden(column)) continue;
-    columns.push_back(column);
-    wishes.push_back(WishOf(column));
-  }
-  const Flagged flagged(sharing_);
-  const std::vector<int> widths = ShareColumns(wishes, viewport()->width());
-  for (size_t i = 0; i < columns.size(); ++i) setColumnWidth(columns[i], widths[i]);
-}
-
-// A border that a person drags moves between two columns; the others stay.
-void GridView::MoveBorder(int section, int newSize) {
-  if (sharing_ || newSize == 0) return;
-  int neighbour = section + 1;
-  while (neighbour < grid_.Cols() && isColumnHidden(neighbour)) ++neighbour;
-  if (neighbour < grid_.Cols()) {
-    std::map<int, double> widths;
-    for (int column = 0; column < grid_.Cols(); ++column) {
-      if (!isColumnHidden(column)) widths[column] = columnWidth(column);
-    }
-    int others = 0;
-    for (const auto& [column, width] : widths) {
-      if (column != neighbour) others += static_cast<int>(width);
-    }
-    widths[neighbour] = std::max(kNarrowest, viewport()->width() - others);
-    widths_ = std::move(widths);
-  }
-  ShareWidth();
+void GridView::SwitchOptionalColumns() {
+  for (const int column : columns_.Optional()) columns_.Switch(column, !columns_.IsShown(column));
 }
 
 void GridView::resizeEvent(QResizeEvent* event) {
   QTableView::resizeEvent(event);
-  ShareWidth();
+  columns_.ShareWidth();
+  columns_.MeasureView();
   PlaceOpenCell();
 }
 
 void GridView::scrollContentsBy(int dx, int dy) {
   QTableView::scrollContentsBy(dx, dy);
-  if (dy != 0) grid_.NoteTopRow(std::max(0, rowAt(0)));
+  if (dy != 0) {
+    grid_.NoteTopRow(std::max(0, rowAt(0)));
+    columns_.MeasureView();
+  }
   PlaceOpenCell();
 }
 

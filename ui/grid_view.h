@@ -2,13 +2,11 @@
 
 #include <QPersistentModelIndex>
 #include <QTableView>
-#include <map>
+#include <functional>
 #include <string>
-#include <unordered_set>
-#include <vector>
 
 #include "forms/grid.h"
-#include "ui/column_shares.h"
+#include "ui/grid_columns.h"
 #include "ui/grid_model.h"
 
 namespace store {
@@ -27,6 +25,11 @@ class GridView : public QTableView {
   /// Marks the current cell alone instead of its row.
   void MarkCellsOnly() { marksRow_ = false; }
   bool MarksRow() const { return marksRow_; }
+
+  /// Shows the columns that can be switched on, or takes them away again.
+  void SwitchOptionalColumns();
+  /// Which columns are shown and how wide; to be kept and put back.
+  GridColumns& Columns() { return columns_; }
 
   Grid& ShownGrid() const { return grid_; }
   const GridModel& Model() const { return model_; }
@@ -53,14 +56,9 @@ class GridView : public QTableView {
   void leaveEvent(QEvent* event) override;
 
  private:
-  void FollowColumns();
   void FollowHiddenRows();
   void FollowCurrentCell();
-  void MeasureColumns();
-  void Measure(int column, int row);
-  ColumnWish WishOf(int column) const;
-  void ShareWidth();
-  void MoveBorder(int section, int newSize);
+  void OpenHeaderMenu(const QPoint& at);
   int ShownColumn(int column) const;
   void Clicked(const QModelIndex& index);
   void DoubleClicked(const QModelIndex& index);
@@ -72,15 +70,9 @@ class GridView : public QTableView {
   void AcceptCell(int row, int column, const std::string& typed, int step);
   void PlaceOpenCell();
 
-  struct ColumnNeed {
-    int Width = 0;                             // of the widest text so far
-    std::unordered_set<std::string> Measured;  // cells that have had their say
-  };
-
   Grid& grid_;
   GridModel model_;
-  std::map<int, double> widths_;  // what a person dragged, by column
-  std::map<int, ColumnNeed> needs_;
+  GridColumns columns_;
   CellEditor* editor_;
   int openRow_ = 0;  // row of the open cell in the grid; 0 when none is open
   int openColumn_ = -1;
@@ -88,7 +80,6 @@ class GridView : public QTableView {
   QPersistentModelIndex pointed_;  // the cell under the pointer
   bool marksRow_ = true;
   bool following_ = false;
-  bool sharing_ = false;
 };
 
 }  // namespace store

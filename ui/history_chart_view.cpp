@@ -102,7 +102,7 @@ void HistoryChartView::PaintDay(QPainter& painter, int day, const QRect& column)
                    QColor(look::Accent));
   if (narrow) return;
   const std::string& quantity = grid_.TextMatrix(history::Quantity, day);
-  painter.setPen(QColor(quantity == "0" ? look::Line : look::Ink));
+  painter.setPen(QColor(quantity == "0" ? look::Muted : look::Ink));
   painter.drawText(
       QRect(column.left() - gap, ground - height - line, column.width() + 2 * gap, line),
       Qt::AlignCenter, ToQt(quantity));

@@ -1,4 +1,5 @@
 // The bindings of what a person types and chooses.
+#include <QCalendarWidget>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDateEdit>
@@ -6,6 +7,7 @@
 #include <QPlainTextEdit>
 #include <QRadioButton>
 #include <QSignalBlocker>
+#include <QTextCharFormat>
 #include <utility>
 
 #include "ui/binding.h"
@@ -100,6 +102,14 @@ class ComboBinding : public Binding {
   unsigned seen_ = 0;
 };
 
+void ColourDaysOff(QCalendarWidget& calendar) {
+  QTextCharFormat ink;
+  ink.setForeground(QColor(look::Warning));
+  calendar.setWeekdayTextFormat(Qt::Sunday, ink);
+  ink.setForeground(QColor(look::Accent));
+  calendar.setWeekdayTextFormat(Qt::Saturday, ink);
+}
+
 class DateBinding : public Binding {
  public:
   DateBinding(FormWindow& window, DatePicker& picker, QDateEdit& edit)
@@ -107,6 +117,7 @@ class DateBinding : public Binding {
     LeaveFocusToClicks(edit);
     edit.setDisplayFormat(kDateForm);
     edit.setCalendarPopup(true);
+    ColourDaysOff(*edit.calendarWidget());
     // The earliest date stands for a text that is no date, and shows as a blank.
     edit.setSpecialValueText(QStringLiteral(" "));
     QObject::connect(&edit, &QDateEdit::dateChanged, &window, [this](const QDate& date) {

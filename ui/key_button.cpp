@@ -43,13 +43,15 @@ QSize KeyButton::sizeHint() const {
 void KeyButton::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
-  QColor ground = main_ ? QColor(look::Accent) : QColor(look::Paper);
-  if (!isEnabled()) ground = QColor(look::Header);
-  if (isEnabled() && isDown()) ground = ground.darker(112);
-  if (isEnabled() && underMouse() && !isDown()) {
-    ground = main_ ? ground.lighter(112) : QColor(look::RestingRow);
+  QColor ground(main_ ? look::Accent : look::Paper);
+  if (!isEnabled()) {
+    ground = QColor(look::Header);
+  } else if (isDown()) {
+    ground = Pressed(main_);
+  } else if (underMouse()) {
+    ground = Hovered(main_);
   }
-  const QColor edge = hasFocus() ? QColor(look::Accent) : QColor(0xAAB6C2);
+  const QColor edge(hasFocus() ? look::Accent : look::Edge);
   painter.setPen(QPen(edge, hasFocus() ? 2 : 1));
   painter.setBrush(ground);
   painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 4, 4);
@@ -62,9 +64,7 @@ void KeyButton::paintEvent(QPaintEvent*) {
   // Text and key stand together in the middle, however wide the button is.
   const int spare = room.width() - metrics.horizontalAdvance(text()) - keyWidth;
   room.adjust(std::max(0, spare / 2), 0, 0, 0);
-  const QColor ink = !isEnabled() ? QColor(0x8995A0)
-                     : inverse    ? QColor(Qt::white)
-                                  : QColor(look::Ink);
+  const QColor ink(!isEnabled() ? look::Disabled : inverse ? look::Inverse : look::Ink);
   painter.setPen(ink);
   painter.drawText(room, Qt::AlignLeft | Qt::AlignVCenter, text());
   if (key_.isEmpty()) return;
@@ -76,8 +76,7 @@ void KeyButton::paintEvent(QPaintEvent*) {
   painter.setPen(faint);
   painter.setBrush(Qt::NoBrush);
   painter.drawRoundedRect(QRectF(cap).adjusted(0.5, 0.5, -0.5, -0.5), 3, 3);
-  faint.setAlphaF(0.8F);
-  painter.setPen(faint);
+  painter.setPen(ink);
   painter.drawText(cap, Qt::AlignCenter, key_);
 }
 

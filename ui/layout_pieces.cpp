@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
+#include "basics/records.h"
 #include "ui/elided_label.h"
 #include "ui/style.h"
 
@@ -44,6 +45,12 @@ void AddTotals(QHBoxLayout& row, const std::array<const char*, 4>& captions) {
     row.addWidget(amount);
     row.addSpacing(kGap);
   }
+}
+
+std::string StoreAnd(const TextBox& partner) {
+  // Without a code the text is only what somebody searches for.
+  if (partner.Tag.empty() || partner.Text().empty()) return Session.StoreName;
+  return Session.StoreName + " - " + partner.Text();
 }
 
 QFrame* Group(const QString& role, QLayout* content) {

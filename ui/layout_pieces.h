@@ -2,6 +2,9 @@
 
 #include <QString>
 #include <array>
+#include <string>
+
+#include "forms/control.h"
 
 class QFrame;
 class QHBoxLayout;
@@ -25,6 +28,9 @@ void AddTotals(QHBoxLayout& row, const std::array<const char*, 4>& captions);
 
 /// A framed group of things. `role` is "card", "totals", "popup" or "band".
 QFrame* Group(const QString& role, QLayout* content);
+
+/// For the title of a window: the store, and behind it the partner that the box of a slip holds.
+std::string StoreAnd(const TextBox& partner);
 
 /// A heading above its content.
 QWidget* Titled(QWidget* heading, QWidget* content);

@@ -6,6 +6,7 @@
 #include <QVBoxLayout>
 
 #include "lookup/lookup_form.h"
+#include "ui/elided_label.h"
 #include "ui/grid_view.h"
 #include "ui/key_button.h"
 #include "ui/layout_pieces.h"
@@ -32,7 +33,7 @@ LookupWindow::LookupWindow(LookupForm& form) : FormWindow(form), lookup_(form) {
   content->addWidget(Foot());
   FillWindow(*this, content);
   BindControls();
-  resize(kSize);
+  Layout().OpenAs(kSize, 0.7);
 }
 
 QWidget* LookupWindow::SearchLine() {
@@ -67,7 +68,7 @@ QWidget* LookupWindow::Foot() {
   for (const char* further : {"Command3", "Command4"}) {
     row->addWidget(Named(further, new KeyButton));
   }
-  row->addStretch();
+  row->addWidget(Named("LaSheet", new ElidedLabel), 1);
   const auto add = [&](const QString& text, Qt::Key key, Key means) {
     auto* button = new KeyButton(text, key);
     row->addWidget(button);

@@ -49,7 +49,7 @@ QPixmap IconOf(int style, double scale) {
   painter.setPen(Qt::NoPen);
   painter.setBrush(QColor(sign.Colour));
   painter.drawEllipse(QRectF(1, 1, kIconSize - 2, kIconSize - 2));
-  painter.setPen(Qt::white);
+  painter.setPen(QColor(look::Inverse));
   painter.setFont(TotalFont());
   painter.drawText(QRect(0, 0, kIconSize, kIconSize), Qt::AlignCenter, sign.Letter);
   return icon;

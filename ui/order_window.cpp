@@ -50,7 +50,8 @@ OrderWindow::OrderWindow(OrderForm& form) : FormWindow(form), order_(form) {
   FillWindow(*this, content);
   new ProgressPanel(*this);
   BindControls();
-  resize(kSize);
+  TitleTells([this] { return StoreAnd(order_.Text1); });
+  Layout().OpenAs(kSize, 1);
 }
 
 QWidget* OrderWindow::Header() {
@@ -116,16 +117,18 @@ QWidget* OrderWindow::ItemBox() {
 }
 
 QWidget* OrderWindow::Lines() {
+  auto* lines = Named("FLEX1", new GridView(order_.FLEX1, kTwoLines));
+  OnShortcut(QKeySequence(Qt::CTRL | Qt::Key_G), [lines] { lines->SwitchOptionalColumns(); });
   auto* refused = Named("LaRefused", new ElidedLabel);
   refused->setProperty("role", "warning");
   refused->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   auto* heading = Row();
   heading->setContentsMargins(0, 0, 0, 0);
-  heading->addWidget(HeadingLabel("발주 내역   (Del 행 삭제)"));
+  heading->addWidget(HeadingLabel("발주 내역   (Del 행 삭제,  Ctrl+G 규격)"));
   heading->addWidget(refused, 1);
   auto* top = new QWidget;
   top->setLayout(heading);
-  return Titled(top, Named("FLEX1", new GridView(order_.FLEX1, kTwoLines)));
+  return Titled(top, lines);
 }
 
 QWidget* OrderWindow::PickList() {

@@ -35,7 +35,7 @@ QuickPickWindow::QuickPickWindow(frm_OrderPLU& form) : FormWindow(form), panel_(
   content->addWidget(Foot());
   FillWindow(*this, content);
   BindControls();
-  resize(kSize.boundedTo(screen()->availableSize()));
+  Layout().OpenAs(kSize, 1);
 }
 
 QWidget* QuickPickWindow::Categories() {

@@ -7,6 +7,7 @@
 #include <QProcess>
 #include <QScreen>
 #include <QSettings>
+#include <QStandardPaths>
 #include <QThread>
 #include <QUrl>
 #include <cerrno>
@@ -15,6 +16,7 @@
 
 #include "forms/host.h"
 #include "ui/desk.h"
+#include "ui/instance_call.h"
 #include "ui/instance_lock.h"
 #include "ui/message_box.h"
 #include "ui/qt_text.h"
@@ -72,8 +74,14 @@ QString SettingName(const std::string& section, const std::string& key) {
 }
 
 bool PreviousInstance() {
-  static InstanceLock lock(FromQt(QCoreApplication::applicationFilePath()));
-  return !lock.Holds();
+  const QString program = QCoreApplication::applicationFilePath();
+  static InstanceLock lock(FromQt(program));
+  if (!lock.Holds()) {
+    CallForward(program);
+    return true;
+  }
+  AnswerCalls(program, [] { TheDesk().ComeForward(); });
+  return false;
 }
 
 void OpenWindows() {
@@ -105,6 +113,9 @@ void OpenWorkstation() {
                         const std::string& key, const std::string& value) {
     SettingsOf(application).setValue(SettingName(section, key), ToQt(value));
   };
+  Host.ForgetSettings = [](const std::string& application, const std::string& section) {
+    SettingsOf(application).remove(ToQt(section));
+  };
   Host.MakeSerialPort = MakeSerialPort;
   Host.PreviousInstance = PreviousInstance;
 }
@@ -115,6 +126,8 @@ void OpenRealHost() {
   OpenWindows();
   OpenWorkstation();
   Host.ProgramFolder = FromQt(QCoreApplication::applicationDirPath());
+  Host.DocumentsFolder =
+      FromQt(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
   Host.ProgramTitle = "TARNWICK";
   Host.Version = {STORE_VERSION_MAJOR, STORE_VERSION_MINOR, STORE_VERSION_PATCH};
 }

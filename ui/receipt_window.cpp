@@ -9,6 +9,7 @@
 #include <QVBoxLayout>
 
 #include "receipt/frm_PE_UNIT.h"
+#include "ui/elided_label.h"
 #include "ui/grid_view.h"
 #include "ui/key_button.h"
 #include "ui/layout_pieces.h"
@@ -20,6 +21,7 @@ namespace {
 constexpr QSize kSize(1000, 660);
 constexpr int kTwoLines = 2;
 constexpr int kBoxWidth = 220;
+constexpr int kGap = 24;
 
 }  // namespace
 
@@ -31,7 +33,8 @@ ReceiptWindow::ReceiptWindow(frm_PE_UNIT& form) : FormWindow(form), receipt_(for
   content->addWidget(Foot());
   FillWindow(*this, content);
   BindControls();
-  resize(kSize);
+  TitleTells([this] { return StoreAnd(receipt_.Text1); });
+  Layout().OpenAs(kSize, 1);
 }
 
 QWidget* ReceiptWindow::Header() {
@@ -59,7 +62,9 @@ QWidget* ReceiptWindow::QuantityBox() {
   auto* row = Row();
   row->setContentsMargins(0, 0, 0, 0);
   row->addWidget(box);
-  row->addWidget(CaptionLabel("↑ ↓ 로 행을 고르고 입고량을 넣은 뒤 Enter      Del 행 삭제"), 1);
+  row->addWidget(CaptionLabel("↑ ↓ 로 행을 고르고 입고량을 넣은 뒤 Enter      Del 행 삭제"));
+  row->addSpacing(kGap);
+  row->addWidget(Named("LaSheet", new ElidedLabel), 1);
   auto* line = new QWidget;
   line->setLayout(row);
   return line;

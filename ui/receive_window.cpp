@@ -40,7 +40,7 @@ ReceiveWindow::ReceiveWindow(DT9RECEV& form) : FormWindow(form) {
   content->addWidget(Buttons());
   FillWindow(*this, content);
   BindControls();
-  resize(kSize);
+  Layout().OpenAs(kSize, 1);
 }
 
 QWidget* ReceiveWindow::Heading() {

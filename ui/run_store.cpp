@@ -17,12 +17,16 @@
 #include "start/Main_Start.h"
 #include "start/frmSplash.h"
 #include "ui/desk.h"
+#include "ui/korean.h"
+#include "ui/program_icon.h"
 #include "ui/real_host.h"
 #include "ui/store_windows.h"
 #include "ui/style.h"
 
 namespace store {
 namespace {
+
+constexpr const char* kDesktopFile = "store-client";  // as packaging/ names it
 
 /// Tells how long the start took, piece by piece, when the environment asks for it.
 class StartClock {
@@ -70,7 +74,10 @@ void QuitWhenBoardIsUsable(const StartClock& start) {
 }  // namespace
 
 void PrepareStore(QApplication& application) {
+  SpeakKorean(application);
   ApplyStyle(application);
+  QApplication::setWindowIcon(ProgramIcon());
+  QGuiApplication::setDesktopFileName(kDesktopFile);
   // Between the login and the main window there are moments without a window.
   QApplication::setQuitOnLastWindowClosed(false);
   OpenRealHost();

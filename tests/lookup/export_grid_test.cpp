@@ -38,10 +38,9 @@ TEST(ColumnLetters, AreChosenByTheRowPastTheAlphabet) {
 
 class ExportGridTest : public testing::Test {
  protected:
-  /// Workbooks are made in the folder for temporary files; here they go with the test.
-  ExportGridTest() { setenv("TMPDIR", host.Folder.c_str(), 1); }
-  ~ExportGridTest() override { unsetenv("TMPDIR"); }
+  ExportGridTest() { host.Clock = {2026, 11, 26, 10, 31, 7}; }
 
+  void Export(const Grid& grid) { ExportGrid(grid, "발주 현황", where); }
   Grid Staff(int rows) {
     Grid grid;
     grid.SetColumns({{.Header = "사원코드"}, {.Header = "사원명"}, {.Header = "연락처"}});
@@ -81,51 +80,70 @@ class ExportGridTest : public testing::Test {
   }
 
   ScriptedHost host;
+  Label where;
 };
 
 TEST_F(ExportGridTest, TheSheetHoldsTheGridsCellsInTheirOrder) {
   Grid grid = Staff(0);
-  ExportGrid(grid);
+  Export(grid);
   EXPECT_EQ(Cells(), "A1=사원코드 B1=사원명 C1=연락처 ");
   // Amounts become numbers; a code is a text, or it would lose its zeros and its last digits.
   grid.AddItem("007\t1,234.5\t-2");
   grid.AddItem("8801234567890\t\t0");
   grid.AddItem("a&b\t0.5\t2026.11.25");
   grid.AddItem("1,2\t1,23,456\t-12,345,678");  // only a thousands grouping makes a number
-  ExportGrid(grid);
+  Export(grid);
   EXPECT_EQ(Cells(),
             "A1=사원코드 B1=사원명 C1=연락처 A2=007 B2:1234.5 C2:-2 A3=8801234567890 C3:0 "
             "A4=a&amp;b B4:0.5 C4=2026.11.25 "
             "A5=1,2 B5=1,23,456 C5:-12345678 ");
-  // One that is still open on the screen is never written over.
   ASSERT_EQ(host.Addresses.size(), 2u);
-  EXPECT_NE(host.Addresses.at(0), host.Addresses[1]);
-  EXPECT_EQ(std::filesystem::path(host.Addresses.at(0)).extension(), ".xlsx");
   EXPECT_EQ(host.Pointers,
             (std::vector<int>{PointerHourglass, PointerNormal, PointerHourglass, PointerNormal}));
+}
+
+// A clerk has to find the sheet again, next week and beside the one of a minute ago.
+TEST_F(ExportGridTest, GoesToTheDocumentsUnderItsWindowAndTime) {
+  const std::string folder = (host.Folder / "documents").string();
+  Export(Staff(1));
+  EXPECT_EQ(host.Addresses.back(), folder + "/발주 현황_2026-11-26_1031.xlsx");
+  EXPECT_EQ(where.Caption, "엑셀 저장: " + host.Addresses.back());
+  const auto firstSize = std::filesystem::file_size(host.Addresses.back());
+  Export(Staff(50));
+  Export(Staff(2));
+  EXPECT_EQ(host.Addresses.back(), folder + "/발주 현황_2026-11-26_1031_3.xlsx");
+  EXPECT_EQ(std::filesystem::file_size(host.Addresses.front()), firstSize)
+      << "one that is there is never written over";
+  ExportGrid(Staff(1), " 단가/수량: \"A\"? ", where);
+  EXPECT_EQ(host.Addresses.back(), folder + "/단가_수량_ _A___2026-11-26_1031.xlsx");
 }
 
 TEST_F(ExportGridTest, IsBoundToAKeyInTheLookups) {
   HELP_ST form;
   form.FLEX1.KeyDown(Key::F12);
-  EXPECT_EQ(host.Addresses.size(), 1u);
+  ASSERT_EQ(host.Addresses.size(), 1u);
+  EXPECT_NE(host.Addresses[0].find(form.Caption + "_2026"), std::string::npos);
+  EXPECT_NE(form.LaSheet.Caption.find(host.Addresses[0]), std::string::npos);
   EXPECT_FALSE(form.IsClosed());
 }
 
 TEST_F(ExportGridTest, TellsWhenNoProgramOpensIt) {
   host.OpensAddresses = false;
   host.ExpectBox("호환가능한 엑셀이 설치되어있지 않거나 다른오류가 발생했습니다.              ");
-  ExportGrid(Staff(1));
+  Export(Staff(1));
   EXPECT_EQ(host.Boxes.at(0).Title, "엑셀호환오류");
+  EXPECT_TRUE(std::filesystem::exists(host.Addresses.at(0))) << "another program may open it";
   EXPECT_EQ(host.Pointers.back(), PointerNormal);
 }
 
 TEST_F(ExportGridTest, TellsWhenItCannotBeWritten) {
-  setenv("TMPDIR", "/proc/self/fdinfo", 1);  // a folder that takes no file, whoever asks
+  where.Caption = "엑셀 저장: 어제";
+  Host.DocumentsFolder = "/proc/self/fdinfo";  // a folder that takes no file, whoever asks
   host.ExpectBox("사용자  작업   취소              ");
-  ExportGrid(Staff(1));
+  Export(Staff(1));
   EXPECT_EQ(host.Boxes.at(0).Title, "강제취소");
   EXPECT_TRUE(host.Addresses.empty());
+  EXPECT_EQ(where.Caption, "");
   EXPECT_EQ(host.Pointers.back(), PointerNormal);
 }
 

@@ -26,6 +26,7 @@ ScriptedHost::ScriptedHost() : Folder(FreshFolder()) {
   FillWindows();
   FillWorkstation();
   Host.ProgramFolder = Folder.string();
+  Host.DocumentsFolder = (Folder / "documents").string();
   Host.ProgramTitle = "STORE";
   Host.Version = {1, 2, 35};
   setenv("STORE_DATA_FOLDER", (Folder / "data").c_str(), 1);
@@ -107,6 +108,12 @@ void ScriptedHost::FillWorkstation() {
   Host.SaveSetting = [this](const std::string& application, const std::string& section,
                             const std::string& key, const std::string& value) {
     Settings[{application, section, key}] = value;
+  };
+  Host.ForgetSettings = [this](const std::string& application, const std::string& section) {
+    std::erase_if(Settings, [&](const auto& setting) {
+      const auto& [key, value] = setting;
+      return std::get<0>(key) == application && (std::get<1>(key) + "/").starts_with(section + "/");
+    });
   };
   Host.MakeSerialPort = [this] {
     auto port = std::make_unique<ScriptedPort>();

@@ -72,7 +72,7 @@ class ScriptedHost {
   /// The per-user settings store: application, section, key.
   std::map<std::tuple<std::string, std::string, std::string>, std::string> Settings;
 
-  /// The program's folder: empty, and gone with this object.
+  /// The program's folder: empty, and gone with this object. The user's documents lie in it.
   const std::filesystem::path Folder;
 
  private:

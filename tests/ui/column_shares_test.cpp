@@ -26,6 +26,12 @@ TEST(ColumnShares, SharesTheWidthOfAGrid) {
        300,
        {200, 50, 50}},
       {"minimums alone are more than the room", {{1, 80, 80}, {1, 80, 80}}, 100, {80, 80}},
+      {"what is over goes to the name", {{2, 40, 300, true}, {9, 60, 60}}, 800, {740, 60}},
+      {"nobody gets more than the need while a name is cut",
+       {{2, 40, 300, true}, {9, 60, 60}, {1, 80, 80}},
+       300,
+       {160, 60, 80}},
+      {"one lacks and one has too much", {{1, 50, 300}, {10, 10, 100}}, 300, {200, 100}},
       {"an odd pixel goes somewhere", {{1, 1, 0}, {1, 1, 0}, {1, 1, 0}}, 100, {33, 34, 33}},
       {"no column", {}, 100, {}},
   };

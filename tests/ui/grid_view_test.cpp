@@ -254,6 +254,70 @@ TEST_F(GridViewTest, AWholeItemListFillsWithoutMeasuringRows) {
   EXPECT_FALSE(window_->grab().isNull());
 }
 
+// What only comes into view by scrolling was not measured when the list was filled.
+TEST_F(GridViewTest, MoneyFarDownAListIsNotCutEither) {
+  Dispatch([this] {
+    for (int i = 0; i < 400; ++i) form_.FLEX1.AddItem("품목\t1");
+    form_.FLEX1.SetTextMatrix(350, 1, "123456789012");
+  });
+  const int needed = view_->fontMetrics().horizontalAdvance("123,456,789,012");
+  window_->resize(230, 500);
+  EXPECT_LT(view_->columnWidth(1), needed);
+  view_->scrollToBottom();
+  view_->scrollTo(view_->model()->index(349, 0));
+  EXPECT_GE(view_->columnWidth(1), needed);
+  Dispatch([this] { form_.FLEX1.SetTextMatrix(350, 1, "987654321012345"); });
+  EXPECT_GE(view_->columnWidth(1), view_->fontMetrics().horizontalAdvance("987,654,321,012,345"));
+}
+
+TEST_F(GridViewTest, ANameIsNotCutWhereThereIsRoom) {
+  const QString name =
+      "국산 햇 유기농 현미로 지은 즉석밥 큰 그릇 스물네 개들이 한 상자 (방문 수령)";
+  Dispatch([&] { form_.FLEX1.SetTextMatrix(1, 0, name.toStdString()); });
+  window_->resize(900, 500);
+  QCoreApplication::processEvents();
+  EXPECT_GE(view_->columnWidth(0), view_->fontMetrics().horizontalAdvance(name));
+  EXPECT_LT(view_->columnWidth(1), 100) << "a short figure leaves the rest to the name";
+}
+
+TEST_F(GridViewTest, ADraggedBorderStaysAndCutsNoMoney) {
+  Dispatch([this] { form_.FLEX1.SetTextMatrix(1, 1, "58973000"); });
+  QHeaderView& header = *view_->horizontalHeader();
+  header.resizeSection(0, 200);
+  EXPECT_EQ(view_->columnWidth(0), 200);
+  EXPECT_EQ(view_->columnWidth(1), view_->viewport()->width() - 200);
+  header.resizeSection(0, 2000);
+  EXPECT_GE(view_->columnWidth(1), view_->fontMetrics().horizontalAdvance("58,973,000"));
+  EXPECT_EQ(view_->columnWidth(0) + view_->columnWidth(1), view_->viewport()->width());
+}
+
+TEST_F(GridViewTest, TheHeadersMenuSwitchesAnOptionalColumn) {
+  Dispatch([this] {
+    form_.FLEX1.SetColumns({{.Header = "품명", .Alignment = Align::Left},
+                            {.Header = "규격", .Hidden = true, .Optional = true}});
+    form_.FLEX1.AddItem("우유\t1L");
+  });
+  const auto choose = [this] {
+    QTimer::singleShot(0, [] {
+      QWidget* menu = QApplication::activePopupWidget();
+      ASSERT_NE(menu, nullptr);
+      EXPECT_EQ(dynamic_cast<QMenu&>(*menu).actions().back()->text(), "창 배치 처음으로\tCtrl+0");
+      QTest::keyClick(menu, Qt::Key_Down);
+      QTest::keyClick(menu, Qt::Key_Enter);
+    });
+    QWidget* header = view_->horizontalHeader()->viewport();
+    QContextMenuEvent asked(QContextMenuEvent::Mouse, {5, 5}, header->mapToGlobal(QPoint(5, 5)));
+    QCoreApplication::sendEvent(header, &asked);
+  };
+  EXPECT_TRUE(view_->isColumnHidden(1));
+  choose();
+  EXPECT_FALSE(view_->isColumnHidden(1));
+  Dispatch([this] { form_.FLEX1.AddItem("콜라\t1.5L"); });
+  EXPECT_FALSE(view_->isColumnHidden(1)) << "the form's own wish does not take it away";
+  choose();
+  EXPECT_TRUE(view_->isColumnHidden(1));
+}
+
 TEST_F(GridViewTest, TheGridFillsItsWidth) {
   for (const int width : {400, 900}) {
     window_->resize(width, 500);

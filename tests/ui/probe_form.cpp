@@ -110,6 +110,7 @@ ProbeWindow::ProbeWindow(ProbeForm& form) : FormWindow(form) {
 
 void DeskTest::SetUp() {
   OpenRealHost();
+  Host.ForgetSettings(Host.ProgramTitle, "windows");  // where the last test left them
   RegisterWindow("Probe", MakerOf<ProbeWindow, ProbeForm>());
   RegisterWindow("Second", MakerOf<ProbeWindow, ProbeForm>());
 }

@@ -28,6 +28,7 @@
 #include "ui/desk.h"
 #include "ui/history_chart_view.h"
 #include "ui/key_button.h"
+#include "ui/program_icon.h"
 #include "ui/store_windows.h"
 #include "ui/style.h"
 #include "ui/window_registry.h"
@@ -146,6 +147,40 @@ TEST_F(WindowsTest, EachValueOfAPartnerStandsBesideItsCaption) {
     pairs->getItemPosition(pairs->indexOf(value), &row, &column, &span, &span);
     const QWidget* caption = pairs->itemAtPosition(row, column - 1)->widget();
     EXPECT_EQ(qobject_cast<const QLabel*>(caption)->text(), captions[static_cast<size_t>(i)]) << i;
+  }
+}
+
+TEST_F(WindowsTest, TitlesTellWhichWindowItIs) {
+  Session.StoreName = "서울점";
+  frm_Start board;
+  frm_Order order;
+  frm_PE_UNIT receipt;
+  const auto title = [](Form& form) {
+    const std::unique_ptr<FormWindow> window(MakeWindow(form));
+    window->Sync();
+    return window->windowTitle();
+  };
+  EXPECT_EQ(title(board), "Tarnwick발주시스템 - 서울점");
+  EXPECT_EQ(title(order), "발주시스템 - 서울점");
+  order.Text1.SetText("한빛");
+  EXPECT_EQ(title(order), "발주시스템 - 서울점") << "only what is searched for";
+  order.Text1.SetText("한빛식품");
+  order.Text1.Tag = receipt.Text1.Tag = "000123";
+  receipt.Text1.SetText("한빛식품");
+  EXPECT_EQ(title(order), "발주시스템 - 서울점 - 한빛식품");
+  EXPECT_EQ(title(receipt), "매입전표작성 - 서울점 - 한빛식품");
+  ResetRecords();
+}
+
+TEST(ProgramIcon, IsThereInEverySize) {
+  const QIcon icon = ProgramIcon();
+  for (const int size : kIconSizes) {
+    ASSERT_TRUE(icon.availableSizes().contains(QSize(size, size))) << size;
+    const QImage picture = DrawProgramIcon(size);
+    EXPECT_EQ(picture.pixelColor(0, 0).alpha(), 0) << "round corners, " << size;
+    const QColor box = picture.pixelColor(size / 2, size * 31 / 64);
+    const QColor plate = picture.pixelColor(size / 2, size * 58 / 64);
+    EXPECT_GE(Contrast(box, plate), 3) << "the box is told from its ground, " << size;
   }
 }
 

@@ -5,6 +5,7 @@
 #include <QDateEdit>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QSettings>
 #include <QTemporaryDir>
 
 #include "basics/records.h"
@@ -162,8 +163,9 @@ int main(int argc, char** argv) {
   const QDir folder(parser.positionalArguments().constFirst());
   if (!folder.mkpath(".")) store::Director::Fail("cannot make " + folder.path());
 
-  const QTemporaryDir data;  // the user's own drafts are no part of the pictures
+  const QTemporaryDir data;  // the user's own drafts and window places are no part of the pictures
   qputenv("STORE_DATA_FOLDER", data.path().toUtf8());
+  QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, data.path());
   store::PrepareStore(application);
   store::Host.PreviousInstance = [] { return false; };  // a client may be at work meanwhile
   store::Director director(folder, store::AskedSize(parser.value("size")));
