@@ -7,9 +7,7 @@
 #include <vector>
 
 #include "slips/draft.h"
-
-struct sqlite3;
-struct sqlite3_stmt;
+#include "slips/user_file.h"
 
 namespace store {
 
@@ -35,7 +33,6 @@ class DraftFile {
   /// or of a newer program is set aside under another name, and `notice` tells the person so.
   /// Nothing when there can be no file in that place.
   static std::unique_ptr<DraftFile> Open(const std::filesystem::path& path, std::string& notice);
-  ~DraftFile();
   DraftFile(const DraftFile&) = delete;
   DraftFile& operator=(const DraftFile&) = delete;
 
@@ -47,17 +44,14 @@ class DraftFile {
   bool Take(const std::string& id, const std::string& from, const std::string& owner);
 
  private:
-  class Use;
-  explicit DraftFile(sqlite3* file) : file_(file) {}
-  bool Prepare();
+  explicit DraftFile(sqlite3* file);
   bool WriteOne(const std::string& id, const DraftChange& change, const std::string& owner);
   bool WriteContent(const Draft& draft, const std::string& owner);
   bool WriteLines(const Draft& draft);
   void ReadLines(Draft& draft);
   bool Remove(const std::string& id);
 
-  sqlite3* file_;
-  std::vector<sqlite3_stmt*> statements_;
+  PreparedFile file_;
   std::map<std::string, Draft> written_;  // as this process last wrote them
 };
 

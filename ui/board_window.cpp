@@ -15,6 +15,7 @@
 #include "ui/key_button.h"
 #include "ui/layout_pieces.h"
 #include "ui/qt_text.h"
+#include "ui/server_lamp.h"
 #include "ui/style.h"
 
 namespace store {
@@ -91,6 +92,7 @@ QWidget* BoardWindow::Actions() {
   add(4, Qt::Key_F8);
   row->addWidget(Named("HandheldMenu", new KeyButton({}, Qt::Key_F7)));
   row->addWidget(Named("LaDraft", new KeyButton({}, QKeySequence(Qt::CTRL | Qt::Key_D))));
+  row->addWidget(Named("LaDeleted", new KeyButton({}, QKeySequence(Qt::CTRL | Qt::Key_Z))));
   row->addStretch();
   row->addWidget(SlipFinder());
   return Holder(row);
@@ -137,10 +139,14 @@ QWidget* BoardWindow::Slips() {
 
 QWidget* BoardWindow::Sums() {
   auto* count = Named("Label6_0", new QLabel);
-  QLabel* chosen = CaptionLabel({});
+  QLabel* chosen = Named("Selected", CaptionLabel({}));
   QLabel* total = Named("Label6_1", TotalLabel());
   auto* row = Row();
   row->addWidget(count);
+  row->addSpacing(12);
+  row->addWidget(Named("LaRead", CaptionLabel({})));
+  row->addSpacing(12);
+  row->addWidget(new ServerLamp);
   row->addSpacing(24);
   row->addWidget(chosen);
   row->addStretch();

@@ -1,10 +1,12 @@
 #pragma once
 
+#include <QEventLoop>
 #include <QObject>
 #include <functional>
 #include <vector>
 
 #include "forms/form.h"
+#include "ui/server_wait.h"
 
 class QWidget;
 
@@ -33,6 +35,15 @@ class Desk : public QObject {
   /// waits, and so does the work of windows that come to the front: it may need the very data that
   /// the running event is walking through.
   void LetWindowsPaint();
+  /// The same for the middle of a call to the server: the forms may be half-way through a step, and
+  /// so the windows show what they last showed. No timer of a form fires, and no port is listened
+  /// to.
+  void PaintWindows(QEventLoop::ProcessEventsFlags flags, int milliseconds = 0);
+  bool InsideCall() const { return insideCall_; }
+  ServerWait& Server() { return server_; }
+  void ShowServer(ServerLink link, std::chrono::milliseconds lasted) {
+    server_.Tell(link, lasted, depth_);
+  }
   /// Keeps `work` back while the windows paint. False when they do not, and it may run at once.
   bool WaitsForPainting(std::function<void()> work);
 
@@ -66,6 +77,7 @@ class Desk : public QObject {
   class RunningEvent;
 
   FormWindow* Open(Form& form);
+  void Paint(QEventLoop::ProcessEventsFlags flags, int milliseconds);
   void FreeClosed();
   void DeleteLeaving();
   void FocusMoved(QWidget* from, QWidget* to);
@@ -73,6 +85,8 @@ class Desk : public QObject {
   std::vector<FormWindow*> open_;
   std::vector<FormWindow*> leaving_;  // closed, but a handler of theirs may still be running
   std::vector<std::function<void()>> afterPainting_;
+  ServerWait server_;
+  bool insideCall_ = false;
   int painting_ = 0;
   int depth_ = 0;
   int boxes_ = 0;

@@ -49,6 +49,9 @@ class GridView : public QTableView {
   void resizeEvent(QResizeEvent* event) override;
   void scrollContentsBy(int dx, int dy) override;
   void focusInEvent(QFocusEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
   void leaveEvent(QEvent* event) override;
 
@@ -62,7 +65,7 @@ class GridView : public QTableView {
   void ShareWidth();
   void MoveBorder(int section, int newSize);
   int ShownColumn(int column) const;
-  void Clicked(const QModelIndex& index);
+  void Clicked(const QModelIndex& index, bool letGoThere);
   void DoubleClicked(const QModelIndex& index);
   void TypeText(const QString& text);
   void Toggle(const QModelIndex& index);
@@ -86,6 +89,7 @@ class GridView : public QTableView {
   int openColumn_ = -1;
   unsigned topRowSeen_ = 0;
   QPersistentModelIndex pointed_;  // the cell under the pointer
+  QPersistentModelIndex pressed_;  // the cell on which the button went down and is still held
   bool marksRow_ = true;
   bool following_ = false;
   bool sharing_ = false;
