@@ -31,7 +31,7 @@ class ServerWaitTest : public DeskTest {
   }
   void Focus(const char* name) { Find<QWidget>(*window_, name).setFocus(); }
 
-  /// As the window system brings it: into the queue of the program, not to a widget.
+  /// As the window system brings it: to the window, not to a widget.
   void Tap(int key, const QString& text = {}, Qt::KeyboardModifiers modifiers = {}) {
     for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
       qt_handleKeyEvent(window_->windowHandle(), type, key, modifiers, text);
@@ -51,18 +51,18 @@ class ServerWaitTest : public DeskTest {
                           down ? Qt::LeftButton : Qt::NoButton, Qt::LeftButton, type, {}, 0);
     }
   }
-  /// An event of the form with one call in it, during which `hands` do something.
+  /// An event of the form with one call in it, during which `hands` do something. It reaches the
+  /// program when that next looks for events.
   void Call(ServerLink end, std::chrono::milliseconds lasted, const std::function<void()>& hands) {
     done_.clear();
     beeps_ = 0;
     Dispatch([&] {
-      hands();
       Host.ShowServer(ServerLink::Waiting, lasted);
-      EXPECT_EQ(done_, "") << "nothing is carried out within the call";
+      QTimer::singleShot(0, window_, hands);
       Host.ShowServer(end, lasted);
-      EXPECT_EQ(done_, "") << "nor within the event";
+      EXPECT_EQ(done_, "") << "nothing is carried out within the event";
     });
-    QTest::qWait(1);
+    QTest::qWait(5);
   }
 
   ProbeForm form_;
@@ -99,14 +99,14 @@ TEST_F(ServerWaitTest, ManyShortCallsOfOneEventAreOneWait) {
   done_.clear();
   Dispatch([this] {
     for (int call = 0; call < 10; ++call) Host.ShowServer(ServerLink::Connected, 150ms);
-    Click("Command1");
+    QTimer::singleShot(0, window_, [this] { Click("Command1"); });
     Host.ShowServer(ServerLink::Connected, 150ms);
   });
   Dispatch([this] {
-    Click("Option1_0");
+    QTimer::singleShot(0, window_, [this] { Click("Option1_0"); });
     Host.ShowServer(ServerLink::Connected, 150ms);
   });
-  QTest::qWait(1);
+  QTest::qWait(5);
   EXPECT_EQ(done_, "option ");
 }
 
@@ -136,7 +136,7 @@ TEST_F(ServerWaitTest, TextGoesOnWithTheKeyboardInATextAlone) {
   Focus("Text1");
   Call(ServerLink::Connected, 1500ms, [this] {
     Scan("88");
-    Focus("Command1");  // the event has led somewhere else
+    Focus("Check1");  // the event has led somewhere else
   });
   EXPECT_EQ(form_.Text1.Text() + done_, "");
 }
