@@ -280,7 +280,10 @@ TEST_F(GridViewTest, TheCellUnderThePointerHasItsOwnTip) {
   form_.FLEX1.MouseMove = [this](int row, int col) {
     form_.FLEX1.ToolTipText = form_.FLEX1.TextMatrix(row, col);
   };
-  QTest::mouseMove(view_->viewport(), view_->visualRect(view_->model()->index(1, 0)).center());
+  const QPoint place = view_->visualRect(view_->model()->index(1, 0)).center();
+  QMouseEvent hovers(QEvent::MouseMove, place, view_->viewport()->mapToGlobal(place), Qt::NoButton,
+                     Qt::NoButton, {});
+  QCoreApplication::sendEvent(view_->viewport(), &hovers);
   EXPECT_EQ(view_->toolTip(), "콜라");
 }
 

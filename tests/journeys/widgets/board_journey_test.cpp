@@ -1,6 +1,7 @@
 // The board's grid under the mouse: what is marked is what is named and acted on, and a slip that
 // was deleted comes back.
 #include <QtTest>
+#include <algorithm>
 
 #include "board/frm_Start.h"
 #include "tests/journeys/widgets/journey.h"
@@ -18,6 +19,11 @@ class BoardJourney : public Journey {
     return Hands::Rows(Board(), "FLEX1", {kSlipIdColumn})[static_cast<size_t>(row)][0];
   }
   std::string Named() { return Hands::TextOf(Board(), "Selected"); }
+  bool AllAre(const std::string& state) {
+    const auto states = Hands::Rows(Board(), "FLEX1", {kStateColumn});
+    return std::all_of(states.begin(), states.end(),
+                       [&](const auto& row) { return row[0] == state; });
+  }
   /// The row in colour; -1 without one.
   int Marked() { return Slips().currentIndex().row(); }
 };
@@ -25,7 +31,8 @@ class BoardJourney : public Journey {
 TEST_F(BoardJourney, WhatIsMarkedIsNamedAndDeletedAndComesBack) {
   ASSERT_NO_FATAL_FAILURE(Start("u01,1111"));
   Hands::Press(Board(), Qt::Key_2, Qt::AltModifier);  // what is in editing
-  ASSERT_TRUE(Hands::Wait([this] { return Slips().model()->rowCount() > 5 && Marked() < 0; }));
+  ASSERT_TRUE(Hands::Wait([this] { return AllAre("발주편집"); }));
+  ASSERT_GT(Slips().model()->rowCount(), 5);
   const int rows = Slips().model()->rowCount();
   const std::string first = IdAt(0);
   const std::string fifth = IdAt(4);
