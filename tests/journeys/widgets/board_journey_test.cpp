@@ -32,7 +32,7 @@ TEST_F(BoardJourney, WhatIsMarkedIsNamedAndDeletedAndComesBack) {
   ASSERT_NO_FATAL_FAILURE(Start("u01,1111"));
   Hands::Press(Board(), Qt::Key_2, Qt::AltModifier);  // what is in editing
   ASSERT_TRUE(Hands::Wait([this] { return AllAre("발주편집"); }));
-  ASSERT_GT(Slips().model()->rowCount(), 5);
+  ASSERT_GE(Slips().model()->rowCount(), 5);
   const int rows = Slips().model()->rowCount();
   const std::string first = IdAt(0);
   const std::string fifth = IdAt(4);
