@@ -73,6 +73,8 @@ QWidget* BoardWindow::Band() {
   auto* end = Named("Label5_0", new KeyButton("종료", Qt::Key_F12));
   auto* row = Row();
   row->addWidget(store, 1);
+  // What is not always there stands where there is room for it: the next row is full.
+  row->addWidget(Named("LaDraft", new KeyButton({}, QKeySequence(Qt::CTRL | Qt::Key_D))));
   for (KeyButton* button : {web, smaller, end}) row->addWidget(button);
   QFont font = store->font();
   font.setBold(true);
@@ -91,8 +93,6 @@ QWidget* BoardWindow::Actions() {
   add(1, QKeySequence(Qt::SHIFT | Qt::Key_F2));
   add(4, Qt::Key_F8);
   row->addWidget(Named("HandheldMenu", new KeyButton({}, Qt::Key_F7)));
-  row->addWidget(Named("LaDraft", new KeyButton({}, QKeySequence(Qt::CTRL | Qt::Key_D))));
-  row->addWidget(Named("LaDeleted", new KeyButton({}, QKeySequence(Qt::CTRL | Qt::Key_Z))));
   row->addStretch();
   row->addWidget(SlipFinder());
   return Holder(row);
@@ -150,6 +150,8 @@ QWidget* BoardWindow::Sums() {
   row->addSpacing(24);
   row->addWidget(chosen);
   row->addStretch();
+  row->addWidget(Named("LaDeleted", new KeyButton({}, QKeySequence(Qt::CTRL | Qt::Key_Z))));
+  row->addSpacing(12);
   row->addWidget(CaptionLabel("합계"));
   row->addWidget(total);
   AlsoSync([this, chosen, seen = SeenText()]() mutable {
