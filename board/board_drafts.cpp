@@ -5,6 +5,7 @@
 #include "board/frmDrafts.h"
 #include "board/frm_Start.h"
 #include "forms/host.h"
+#include "slips/deleted_slips.h"
 #include "slips/draft_fate.h"
 #include "slips/draft_texts.h"
 #include "slips/drafts.h"
@@ -25,9 +26,13 @@ void frm_Start::CountDrafts() {
   if (fails) LaDraft.Caption += count > 0 ? ", 더는 남기지 못함" : " 남기지 못함";
 }
 
-void frm_Start::TellDraftNotice() {
-  const std::string notice = TakeDraftNotice();
-  if (!notice.empty()) Host.MsgBox(notice, box::Warning, "쓰던 전표");
+void frm_Start::TellFileNotices() {
+  if (const std::string notice = TakeDraftNotice(); !notice.empty()) {
+    Host.MsgBox(notice, box::Warning, "쓰던 전표");
+  }
+  if (const std::string notice = TakeDeletedNotice(); !notice.empty()) {
+    Host.MsgBox(notice, box::Warning, "삭제한 전표");
+  }
 }
 
 void frm_Start::LaDraft_Click() {

@@ -1,4 +1,6 @@
 // What the board shows: notices and slips.
+#include <algorithm>
+
 #include "basics/dates.h"
 #include "basics/formats.h"
 #include "basics/numbers.h"
@@ -58,10 +60,41 @@ std::string WithoutBackslashes(std::string text) {
 
 void frm_Start::RefreshBoard() {
   const Hourglass waiting;
+  NotePlace();
   LoadNotices();
   LoadSlips();
   FillDepots(Session.StoreCode, Combo1, false);
   CountDrafts();
+  CountDeleted();
+}
+
+void frm_Start::NotePlace() {
+  if (FLEX1.Rows() == 1) return;  // a read that failed has emptied the list, and nobody has moved
+  place_.SlipId = FLEX1.Row() >= 1 ? FLEX1.TextMatrix(FLEX1.Row(), board::SlipId) : "";
+  place_.Row = FLEX1.Row();
+  place_.Column = FLEX1.Col();
+  place_.TopRow = FLEX1.TopRow();
+}
+
+int frm_Start::RowOf(const std::string& slipId) const {
+  for (int row = 1; row < FLEX1.Rows() && !slipId.empty(); ++row) {
+    if (FLEX1.TextMatrix(row, board::SlipId) == slipId) return row;
+  }
+  return 0;
+}
+
+// The slip that was selected, or, where the list has lost it, the one that has come into its place.
+// In the list of another search nothing is in its place, and so nothing is selected there.
+void frm_Start::GoToPlace(bool sameSearch) {
+  int row = RowOf(SelectedSlipId);
+  const bool goesElsewhere = row != 0 && SelectedSlipId != place_.SlipId;
+  if (row == 0) row = RowOf(place_.SlipId);
+  if (row == 0 && sameSearch) row = std::min(place_.Row, FLEX1.Rows() - 1);
+  FLEX1.Select(row, row == 0 ? 0 : place_.Column);
+  // A current row that is somewhere else is brought into view by the window.
+  if (sameSearch ? !goesElsewhere : row == 0) FLEX1.SetTopRow(sameSearch ? place_.TopRow : 0);
+  SelectSlip();
+  if (FLEX1.Rows() == 1) place_ = {};
 }
 
 void frm_Start::LoadNotices() {
@@ -89,8 +122,11 @@ std::string frm_Start::SearchCondition() const {
 }
 
 void frm_Start::LoadSlips() {
-  SqlText = SlipStatement(SearchCondition());
+  const std::string condition = SearchCondition();
+  SqlText = SlipStatement(condition);
+  const RecordsetSlot before = SlotA;
   OpenRecordset(SlotA, SqlText);
+  const bool read = SlotA != nullptr && SlotA != before;
   FLEX1.SetRows(1);
   double lines = 0;
   double total = 0;
@@ -103,6 +139,11 @@ void frm_Start::LoadSlips() {
   Label6[0].Caption =
       std::to_string(FLEX1.Rows() - 1) + "건   " + FormatNumber(lines, kMaskWhole) + " 상품";
   Label6[1].Caption = FormatNumber(total, FormatAmount) + "원";
+  LaRead.Caption =
+      FormatDateValue(Host.Now(), "HH:NN") + (read ? " 조회" : " 서버에서 읽지 못했습니다");
+  if (!read) return SelectSlip();
+  GoToPlace(condition == place_.Condition);
+  place_.Condition = condition;
 }
 
 void frm_Start::AddSlipRow(int number) {

@@ -25,8 +25,9 @@ SlipForm* FreeOrderForm() { return FreeSlipForm(ChosenOrderType().FormName); }
 }  // namespace
 
 void frm_Start::SelectSlip() {
-  SelectedSlipId = FLEX1.TextMatrix(FLEX1.Row(), board::SlipId);
-  SelectedSlipState = FLEX1.TextMatrix(FLEX1.Row(), board::State);
+  const bool marked = FLEX1.Row() >= 1;
+  SelectedSlipId = marked ? FLEX1.TextMatrix(FLEX1.Row(), board::SlipId) : "";
+  SelectedSlipState = marked ? FLEX1.TextMatrix(FLEX1.Row(), board::State) : "";
 }
 
 void frm_Start::FLEX1_Click() {
@@ -35,8 +36,8 @@ void frm_Start::FLEX1_Click() {
   if (FLEX1.Col() == board::Confirm) OpenSlip(SelectedSlipId, SelectedSlipState);
 }
 
-void frm_Start::FLEX1_Walk() {
-  // F8 deletes the selected slip, so the selection follows the highlighted row in every column.
+void frm_Start::FLEX1_RowColChange() {
+  // F8 deletes the selected slip, so the selection is the highlighted row, however it got there.
   if (FLEX1.Row() >= 1) SelectSlip();
 }
 
@@ -89,9 +90,11 @@ void frm_Start::FindSlip() {
   OpenRecordset(SlotA, SqlText);
   const std::string slipId = FieldText(SlotA, 1);
   CloseRecordset(SlotA);
+  FLEX1.SetRow(RowOf(slipId));  // the slip that is named is the one that is marked
   SelectedSlipId = slipId;
   Text2.SetText("");
   if (slipId.empty()) {
+    SelectedSlipState.clear();
     Host.MsgBox(
         "해당전표는 [본부승인] 또는 [물류출고]완료되지 않은 전표이거나 \r\r 전표를 찾을 수 "
         "없습니다.",

@@ -51,6 +51,7 @@ void frm_Start::PublishControls() {
   Publish("Text2", Text2);
   Publish("FLEX1", FLEX1);
   Publish("Label6", Label6);
+  Publish("LaRead", LaRead);
   Publish("LaCaption", LaCaption);
   for (const size_t index : {0, 1, 3, 4}) {  // 2 has no picture
     Publish("Image1_" + std::to_string(index), Image1[index]);
@@ -60,6 +61,7 @@ void frm_Start::PublishControls() {
   Publish("Label5", Label5);
   Publish("HandheldMenu", HandheldMenu);
   Publish("LaDraft", LaDraft);
+  Publish("LaDeleted", LaDeleted);
   Publish("Image5", Image5);
   Publish("LaCT", LaCT);
   Publish("LaPM", LaPM);
@@ -85,7 +87,7 @@ void frm_Start::ConnectEvents() {
   Text2.OwnKeys = {Key::Enter};
   FLEX1.Click = [this] { FLEX1_Click(); };
   FLEX1.DblClick = [this] { FLEX1_DblClick(); };
-  FLEX1.Walk = [this] { FLEX1_Walk(); };
+  FLEX1.RowColChange = [this] { FLEX1_RowColChange(); };
   FLEX1.KeyDown = [this](Key key) { FLEX1_KeyDown(key); };
   FLEX1.OwnKeys = {Key::F4, Key::Enter};
   for (int i = 0; i < static_cast<int>(Image1.size()); ++i) {
@@ -93,6 +95,7 @@ void frm_Start::ConnectEvents() {
   }
   Image3.Click = [this] { Image3_Click(); };
   LaDraft.Click = [this] { LaDraft_Click(); };
+  LaDeleted.Click = [this] { LaDeleted_Click(); };
   Image5.Click = [this] { Image5_Click(); };
   Label4.Click = [this] { Label4_Click(); };
   Label5[0].Click = [this] { Label5_Click(0); };
@@ -137,11 +140,12 @@ void frm_Start::Load() {
 void frm_Start::Activate() {
   if (activated_) {
     CountDrafts();
+    CountDeleted();
     return;
   }
   activated_ = true;
   RefreshBoard();
-  TellDraftNotice();
+  TellFileNotices();
 }
 
 bool frm_Start::KeyDown(Key key) {

@@ -5,6 +5,7 @@
 
 #include "forms/control.h"
 #include "forms/grid.h"
+#include "slips/deleted_slip.h"
 #include "slips/slip_form.h"
 
 namespace store {
@@ -42,6 +43,7 @@ class frm_Start : public MainWindow {
   TextBox Text2;  ///< A slip number to receive.
   Grid FLEX1;
   std::array<Label, 2> Label6;  ///< Count of slips and lines; sum of totals.
+  Label LaRead;                 ///< When the board was last read, or that it could not be.
   Label LaCaption;              ///< The store.
   // Buttons: 0 and 1 new order, 3 refresh, 4 delete or revert; 2 has no picture.
   std::array<Label, 5> Image1;
@@ -50,12 +52,14 @@ class frm_Start : public MainWindow {
   std::array<Label, 2> Label5;      ///< 0 closes the window, 1 makes it small.
   Menu HandheldMenu{"핸디터미널"};  ///< The runs of the handheld terminal's path.
   Label LaDraft;                    ///< Drafts that can be brought back; hidden when there is none.
+  Label LaDeleted;                  ///< Slips deleted today that can be taken back; likewise.
   Label Image5;                     ///< "[F4]": Details of the selected slip.
   // Details.
   std::array<Label, 11> LaCT;  ///< The partner.
   std::array<Label, 8> LaPM;   ///< The order's conditions.
 
-  std::string SelectedSlipId;     ///< Slip of the row last clicked; stays after a refresh.
+  std::string SelectedSlipId;     ///< Slip of the highlighted row; after a find by number, the one
+                                  ///< found, until the next refresh.
   std::string SelectedSlipState;  ///< Its state word.
 
   void Load() override;
@@ -72,10 +76,11 @@ class frm_Start : public MainWindow {
   void Label5_Click(int index);
   void HandheldMenu_Click(int entry);
   void LaDraft_Click();
+  void LaDeleted_Click();
   void FLEX0_RowColChange();
   void FLEX0_DblClick();
   void FLEX1_Click();
-  void FLEX1_Walk();  ///< The keyboard has moved to another row.
+  void FLEX1_RowColChange();
   void FLEX1_DblClick();
   void FLEX1_KeyDown(Key key);
   void Text2_KeyPress(Key key);
@@ -88,6 +93,9 @@ class frm_Start : public MainWindow {
   void LoadNotices();
   std::string SearchCondition() const;
   void LoadSlips();
+  void NotePlace();
+  int RowOf(const std::string& slipId) const;
+  void GoToPlace(bool sameSearch);
   void AddSlipRow(int number);
   void SelectSlip();
   void OpenSlip(const std::string& slipId, const std::string& stateWord);
@@ -96,12 +104,24 @@ class frm_Start : public MainWindow {
   void DeleteOrRevert();
   void FindSlip();
   void CountDrafts();
-  void TellDraftNotice();
+  void CountDeleted();
+  void Restore(const DeletedSlip& slip);
+  void TellFileNotices();
   void GoOnWith(Draft draft);
   void Open(SlipForm& form, Draft draft);
   void ShowPartner(const std::string& partnerCode);
   void ShowConditions(const std::string& value);
 
+  /// Where the person is on the board, to be found again when it has been read anew.
+  struct Place {
+    std::string SlipId;
+    int Row = 0;
+    int Column = 0;
+    int TopRow = 0;
+    std::string Condition;  // of the search
+  };
+
+  Place place_;
   bool activated_ = false;
 };
 

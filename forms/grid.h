@@ -41,8 +41,6 @@ class Grid : public Control {
   std::function<void()> RowColChange;
   std::function<void()> Click;  ///< On the current cell.
   std::function<void()> DblClick;
-  /// The user has moved to another row with the keyboard.
-  std::function<void()> Walk;
   /// A character, or what an input method has put together, typed where no cell can be edited.
   std::function<void(const std::string& text)> KeyPress;
   /// Whether a cell of an editable column may be edited; without it every one may.

@@ -16,6 +16,7 @@ HostDoor EmptyHost() {
   host.SetPointer = [](int) {};
   host.Beep = [] {};
   host.DoEvents = [] {};
+  host.ShowServer = [](ServerLink, std::chrono::milliseconds) {};
   host.Now = [] { return ClockTime{2000, 1, 1, 0, 0, 0}; };
   host.Sleep = [](int) {};
   host.OpenAddress = [](const std::string&) { return false; };

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <functional>
 #include <memory>
 #include <string>
@@ -29,6 +30,13 @@ inline constexpr int PointerNormal = 0;
 inline constexpr int PointerArrow = 1;
 inline constexpr int PointerHourglass = 11;
 inline constexpr int PointerArrowHourglass = 13;  ///< Busy, but the window answers.
+
+/// How the data server stands, as the calls to it tell.
+enum class ServerLink {
+  Waiting,    ///< A call is running, and has been for longer than a moment.
+  Connected,  ///< The last call was answered, be it with a refusal.
+  Lost,       ///< The last call was given up, or has found no way to the server.
+};
 
 struct ProgramVersionNumbers {
   int Major = 0;
@@ -65,6 +73,11 @@ struct HostDoor {
   std::function<void()> Beep;
   /// Lets pending window events run, painting among them.
   std::function<void()> DoEvents;
+
+  /// Told at the end of each call to the data server how it went, and every now and then while one
+  /// lasts longer than a moment, so that the windows go on painting. `lasted` is the time that the
+  /// call has taken so far. Nothing behind this door may call the server.
+  std::function<void(ServerLink link, std::chrono::milliseconds lasted)> ShowServer;
 
   std::function<ClockTime()> Now;
   std::function<void(int milliseconds)> Sleep;

@@ -29,6 +29,9 @@ class DataTier {
   /// Whether nobody can say if the last `PUTSQL` took effect: its answer was lost, or has not come
   /// within the limit.
   virtual bool InDoubt() const { return false; }
+
+  /// Whether the server has answered the last call, be it with a refusal.
+  virtual bool Reached() const { return true; }
 };
 
 /// Makes data objects by name and address. A program that puts another maker into the gateway's

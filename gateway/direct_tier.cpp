@@ -99,6 +99,7 @@ bool DirectTier::Reach(const std::string& connectString, std::string& errorText)
 
 std::unique_ptr<Recordset> DirectTier::GETSQL(const std::string& statement, std::string& errorText,
                                               const std::string& connectString) {
+  reached_ = false;
   if (!IsGuard(statement)) {
     errorText = "SELECT 문만 조회할 수 있습니다.";
     return nullptr;
@@ -116,7 +117,8 @@ std::unique_ptr<Recordset> DirectTier::GETSQL(const std::string& statement, std:
       return nullptr;
     }
     errorText = answer->done ? std::string() : answer->errorText;
-    if (!answer->stale) return std::move(answer->rows);
+    reached_ = !answer->stale;
+    if (reached_) return std::move(answer->rows);
     kept_.reset();
   }
   return nullptr;
@@ -124,7 +126,7 @@ std::unique_ptr<Recordset> DirectTier::GETSQL(const std::string& statement, std:
 
 bool DirectTier::PUTSQL(const std::vector<std::string>& statements, std::string& errorText,
                         const std::string& connectString) {
-  inDoubt_ = false;
+  inDoubt_ = reached_ = false;
   if (!NamesItsSource(connectString, errorText)) return false;
   std::vector<std::string> toRun;
   std::copy_if(statements.begin(), statements.end(), std::back_inserter(toRun),
@@ -143,6 +145,7 @@ bool DirectTier::PUTSQL(const std::vector<std::string>& statements, std::string&
     }
     errorText = answer->done ? std::string() : answer->errorText;
     inDoubt_ = answer->inDoubt;
+    reached_ = !answer->stale && !answer->inDoubt;
     if (!answer->stale) return answer->done;
     kept_.reset();
   }

@@ -14,6 +14,7 @@ class DirectTier : public DataTier {
   bool PUTSQL(const std::vector<std::string>& statements, std::string& errorText,
               const std::string& connectString) override;
   bool InDoubt() const override { return inDoubt_; }
+  bool Reached() const override { return reached_; }
 
  private:
   bool Reach(const std::string& connectString, std::string& errorText);
@@ -21,6 +22,7 @@ class DirectTier : public DataTier {
   std::unique_ptr<KeptConnection> kept_;  // nothing when the last one is no longer fit
   std::string keptString_;
   bool inDoubt_ = false;
+  bool reached_ = false;
 };
 
 }  // namespace store

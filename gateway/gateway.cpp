@@ -1,6 +1,8 @@
 #include "gateway/gateway.h"
 
 #include <algorithm>
+#include <chrono>
+#include <utility>
 
 #include "basics/records.h"
 #include "forms/host.h"
@@ -24,6 +26,7 @@ constexpr const char* kProgId = "TWMGR.DEMON";
 constexpr const char* kPassword = "qz4471";
 
 std::shared_ptr<DataTier> ServerObject;    // the last one handed out; let go of after some calls
+bool Calling = false;                      // a call is with the server
 std::vector<const RecordsetSlot*> Walked;  // the slots being walked, the innermost walk last
 
 void MayReplace(const RecordsetSlot& slot) {
@@ -31,10 +34,28 @@ void MayReplace(const RecordsetSlot& slot) {
         "no read into a slot, and no closing it, while its rows are being walked");
 }
 
+/// One call to the server, which tells the workstation at its end how the server stands.
+class ServerCall {
+ public:
+  ~ServerCall() {
+    Calling = false;
+    Host.ShowServer(ServerObject->Reached() ? ServerLink::Connected : ServerLink::Lost,
+                    std::chrono::duration_cast<std::chrono::milliseconds>(
+                        std::chrono::steady_clock::now() - start_));
+  }
+  ServerCall() { Check(!std::exchange(Calling, true), "no call to the server within another one"); }
+  ServerCall(const ServerCall&) = delete;
+  ServerCall& operator=(const ServerCall&) = delete;
+
+ private:
+  const std::chrono::steady_clock::time_point start_ = std::chrono::steady_clock::now();
+};
+
 void MakeServerObject() {
   LastErrorText.clear();
   if (!DataSpace) DataSpace = std::make_unique<DataSpaceObject>();
   ServerObject = DataSpace->CreateObject(kProgId, "http://" + AppOptions.BusinessServer);
+  if (!ServerObject) Host.ShowServer(ServerLink::Lost, {});
 }
 
 /// A text that a value has broken is not for the server, whatever it would make of it.
@@ -47,6 +68,7 @@ bool IsWhole(const std::string& statement) {
 
 RecordsetSlot Read(const std::string& statement) {
   if (!IsWhole(statement)) return nullptr;
+  const ServerCall call;
   return ServerObject->GETSQL(statement, LastErrorText, ConnectString);
 }
 
@@ -129,6 +151,7 @@ std::int16_t ExecuteBatch(const std::vector<std::string>& statements) {
   MakeServerObject();
   BatchInDoubt = false;
   if (!ServerObject || !std::all_of(statements.begin(), statements.end(), IsWhole)) return 0;
+  const ServerCall call;
   if (ServerObject->PUTSQL(statements, LastErrorText, ConnectString)) return -1;
   BatchInDoubt = ServerObject->InDoubt();
   return 0;

@@ -17,6 +17,8 @@ using Clock = std::chrono::steady_clock;
 constexpr auto kPolling = std::chrono::microseconds(200);
 // A wait that is shorter goes unnoticed and needs no hourglass.
 constexpr auto kUnnoticed = std::chrono::milliseconds(200);
+// How often the workstation hears of a wait that lasts, and lets its windows paint.
+constexpr auto kRound = std::chrono::milliseconds(50);
 // How long the end of the program waits for a connection to log out.
 constexpr auto kLogout = std::chrono::seconds(1);
 
@@ -93,7 +95,13 @@ bool KeptConnection::Await(std::chrono::milliseconds limit) {
     return true;
   }
   const Hourglass waiting;
-  return desk_->Leaves(Desk::State::Posted, start + limit);
+  const Clock::time_point end = start + limit;
+  while (Clock::now() < end) {
+    Host.ShowServer(ServerLink::Waiting,
+                    std::chrono::duration_cast<std::chrono::milliseconds>(Clock::now() - start));
+    if (desk_->Leaves(Desk::State::Posted, std::min(end, Clock::now() + kRound))) return true;
+  }
+  return false;
 }
 
 bool KeptConnection::Do(Job job, std::chrono::milliseconds limit) {

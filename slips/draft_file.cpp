@@ -5,10 +5,21 @@
 #include <array>
 #include <utility>
 
-#include "slips/draft_connection.h"
-
 namespace store {
 namespace {
+
+constexpr UserFileKind kKind = {
+    .Schema =
+        "CREATE TABLE draft (id TEXT PRIMARY KEY, owner TEXT NOT NULL, form TEXT, slip_id TEXT,"
+        " slip_table TEXT, no_price INTEGER, stamp TEXT, tried_id TEXT, partner_code TEXT,"
+        " partner_name TEXT, date TEXT, depot TEXT, changed_at TEXT);"
+        "CREATE TABLE line (draft TEXT REFERENCES draft (id) ON DELETE CASCADE, number INTEGER,"
+        " code TEXT, name TEXT, quantity TEXT, from_slip INTEGER, PRIMARY KEY (draft, number))"
+        " WITHOUT ROWID;"
+        "PRAGMA user_version = 1;",
+    .Version = 1,
+    .Tables = 2,
+    .Holds = "쓰던 전표"};
 
 /// The statements of a file, in the order of `kTexts`.
 enum Text {
@@ -38,85 +49,32 @@ constexpr std::array<const char*, 9> kTexts = {
     "SELECT code,name,quantity,from_slip FROM line WHERE draft=?1 ORDER BY number",
     "UPDATE draft SET owner=?3 WHERE id=?1 AND owner=?2"};
 
-bool Run(sqlite3* file, const char* text) {
-  return sqlite3_exec(file, text, nullptr, nullptr, nullptr) == SQLITE_OK;
-}
-
 }  // namespace
 
-/// One use of a prepared statement, from its values to its rows.
-class DraftFile::Use {
- public:
-  Use(const DraftFile& file, Text text) : statement_(file.statements_[text]) {}
-  ~Use() {
-    sqlite3_reset(statement_);
-    sqlite3_clear_bindings(statement_);
-  }
-  Use(const Use&) = delete;
-  Use& operator=(const Use&) = delete;
-
-  /// The next value. A text has to outlive the use.
-  Use& Put(const std::string& text) {
-    sqlite3_bind_text(statement_, ++values_, text.data(), static_cast<int>(text.size()),
-                      SQLITE_STATIC);
-    return *this;
-  }
-  Use& Put(int number) {
-    sqlite3_bind_int(statement_, ++values_, number);
-    return *this;
-  }
-  bool Done() { return sqlite3_step(statement_) == SQLITE_DONE; }
-  bool Next() { return sqlite3_step(statement_) == SQLITE_ROW; }
-  std::string TextAt(int column) const {
-    const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(statement_, column));
-    return text == nullptr ? std::string() : text;
-  }
-  int NumberAt(int column) const { return sqlite3_column_int(statement_, column); }
-
- private:
-  sqlite3_stmt* statement_;
-  int values_ = 0;
-};
-
 std::unique_ptr<DraftFile> DraftFile::Open(const std::filesystem::path& path, std::string& notice) {
-  return Ready(OpenDraftFile(path, notice));
+  return Ready(OpenUserFile(path, kKind, notice));
 }
 
-std::unique_ptr<DraftFile> DraftFile::Beside() const { return Ready(OpenBeside(file_)); }
+std::unique_ptr<DraftFile> DraftFile::Beside() const { return Ready(OpenBeside(file_.File())); }
 
 std::unique_ptr<DraftFile> DraftFile::Ready(sqlite3* file) {
   if (file == nullptr) return nullptr;
   std::unique_ptr<DraftFile> drafts(new DraftFile(file));
-  return drafts->Prepare() ? std::move(drafts) : nullptr;
+  return drafts->file_.Ready() ? std::move(drafts) : nullptr;
 }
 
-DraftFile::~DraftFile() {
-  for (sqlite3_stmt* statement : statements_) sqlite3_finalize(statement);
-  sqlite3_close(file_);
-}
-
-bool DraftFile::Prepare() {
-  for (const char* text : kTexts) {
-    sqlite3_stmt* statement = nullptr;
-    if (sqlite3_prepare_v3(file_, text, -1, SQLITE_PREPARE_PERSISTENT, &statement, nullptr) !=
-        SQLITE_OK) {
-      return false;
-    }
-    statements_.push_back(statement);
-  }
-  return true;
-}
+DraftFile::DraftFile(sqlite3* file) : file_(file, kTexts) {}
 
 bool DraftFile::Write(const std::map<std::string, DraftChange>& changes, const std::string& owner) {
-  bool done = Run(file_, "BEGIN IMMEDIATE");
+  bool done = RunInFile(file_.File(), "BEGIN IMMEDIATE");
   for (const auto& [id, change] : changes) done = done && WriteOne(id, change, owner);
-  if (done && Run(file_, "COMMIT")) {
+  if (done && RunInFile(file_.File(), "COMMIT")) {
     for (const auto& [id, change] : changes) {
       if (change.Removed || change.PutAside) written_.erase(id);
     }
     return true;
   }
-  Run(file_, "ROLLBACK");
+  RunInFile(file_.File(), "ROLLBACK");
   written_.clear();
   return false;
 }
@@ -125,11 +83,11 @@ bool DraftFile::WriteOne(const std::string& id, const DraftChange& change,
                          const std::string& owner) {
   if (change.Removed) return Remove(id);
   if (change.Written && !WriteContent(change.Content, owner)) return false;
-  return !change.PutAside || Use(*this, kPutAside).Put(id).Done();
+  return !change.PutAside || file_.Use(kPutAside).Put(id).Done();
 }
 
 bool DraftFile::WriteContent(const Draft& draft, const std::string& owner) {
-  Use use(*this, kPutDraft);
+  FileUse use = file_.Use(kPutDraft);
   use.Put(draft.Id).Put(owner).Put(draft.FormName).Put(draft.SlipId).Put(draft.SlipTable);
   use.Put(draft.NoPriceMode).Put(draft.Stamp).Put(draft.TriedId).Put(draft.PartnerCode);
   use.Put(draft.PartnerName).Put(draft.Date).Put(draft.Depot).Put(draft.ChangedAt);
@@ -140,7 +98,7 @@ bool DraftFile::WriteContent(const Draft& draft, const std::string& owner) {
 // long as those before it stay where they are; one that comes behind the last has the next.
 bool DraftFile::WriteLines(const Draft& draft) {
   const auto found = written_.find(draft.Id);
-  if (found == written_.end() && !Use(*this, kCutLines).Put(draft.Id).Done()) return false;
+  if (found == written_.end() && !file_.Use(kCutLines).Put(draft.Id).Done()) return false;
   const NumberedLines before =
       found == written_.end() ? NumberedLines() : std::exchange(found->second, {});
   NumberedLines& now = written_[draft.Id];
@@ -150,30 +108,30 @@ bool DraftFile::WriteLines(const Draft& draft) {
   bool done = true;
   for (const DraftLine& line : draft.Lines) {
     for (; old != before.end() && old->second.Code != line.Code; ++old) {
-      done = done && Use(*this, kCutLine).Put(draft.Id).Put(old->first).Done();
+      done = done && file_.Use(kCutLine).Put(draft.Id).Put(old->first).Done();
     }
     const bool stands = old != before.end() && old->second == line;
     now.emplace_back(old == before.end() ? next++ : (old++)->first, line);
     done = done && (stands || WriteLine(draft.Id, now.back()));
   }
   for (; old != before.end(); ++old) {
-    done = done && Use(*this, kCutLine).Put(draft.Id).Put(old->first).Done();
+    done = done && file_.Use(kCutLine).Put(draft.Id).Put(old->first).Done();
   }
   return done;
 }
 
 bool DraftFile::WriteLine(const std::string& id, const NumberedLine& line) {
-  Use use(*this, kPutLine);
+  FileUse use = file_.Use(kPutLine);
   use.Put(id).Put(line.first).Put(line.second.Code).Put(line.second.Name);
   return use.Put(line.second.Quantity).Put(line.second.FromSlip ? 1 : 0).Done();
 }
 
-bool DraftFile::Remove(const std::string& id) { return Use(*this, kRemove).Put(id).Done(); }
+bool DraftFile::Remove(const std::string& id) { return file_.Use(kRemove).Put(id).Done(); }
 
 std::vector<OwnedDraft> DraftFile::Read() {
   std::vector<OwnedDraft> drafts;
   {
-    Use use(*this, kReadDrafts);
+    FileUse use = file_.Use(kReadDrafts);
     while (use.Next()) {
       drafts.push_back({{.Id = use.TextAt(0),
                          .FormName = use.TextAt(2),
@@ -195,7 +153,7 @@ std::vector<OwnedDraft> DraftFile::Read() {
 }
 
 void DraftFile::ReadLines(Draft& draft) {
-  Use use(*this, kReadLines);
+  FileUse use = file_.Use(kReadLines);
   use.Put(draft.Id);
   while (use.Next()) {
     draft.Lines.push_back({use.TextAt(0), use.TextAt(1), use.TextAt(2), use.NumberAt(3) != 0});
@@ -203,7 +161,7 @@ void DraftFile::ReadLines(Draft& draft) {
 }
 
 bool DraftFile::Take(const std::string& id, const std::string& from, const std::string& owner) {
-  return Use(*this, kTake).Put(id).Put(from).Put(owner).Done() && sqlite3_changes(file_) == 1;
+  return file_.Use(kTake).Put(id).Put(from).Put(owner).Done() && sqlite3_changes(file_.File()) == 1;
 }
 
 }  // namespace store

@@ -8,9 +8,7 @@
 #include <vector>
 
 #include "slips/draft.h"
-
-struct sqlite3;
-struct sqlite3_stmt;
+#include "slips/user_file.h"
 
 namespace store {
 
@@ -33,10 +31,9 @@ struct DraftChange {
 /// cut.
 class DraftFile {
  public:
-  /// As `OpenDraftFile` and `OpenBeside` (slips/draft_connection.h).
+  /// As `OpenUserFile` and `OpenBeside` (slips/user_file.h).
   static std::unique_ptr<DraftFile> Open(const std::filesystem::path& path, std::string& notice);
   std::unique_ptr<DraftFile> Beside() const;
-  ~DraftFile();
   DraftFile(const DraftFile&) = delete;
   DraftFile& operator=(const DraftFile&) = delete;
 
@@ -48,13 +45,11 @@ class DraftFile {
   bool Take(const std::string& id, const std::string& from, const std::string& owner);
 
  private:
-  class Use;
   using NumberedLine = std::pair<int, DraftLine>;
   using NumberedLines = std::vector<NumberedLine>;
-  explicit DraftFile(sqlite3* file) : file_(file) {}
+  explicit DraftFile(sqlite3* file);
   /// What works on that connection, or nothing.
   static std::unique_ptr<DraftFile> Ready(sqlite3* file);
-  bool Prepare();
   bool WriteOne(const std::string& id, const DraftChange& change, const std::string& owner);
   bool WriteContent(const Draft& draft, const std::string& owner);
   bool WriteLines(const Draft& draft);
@@ -62,8 +57,7 @@ class DraftFile {
   void ReadLines(Draft& draft);
   bool Remove(const std::string& id);
 
-  sqlite3* file_;
-  std::vector<sqlite3_stmt*> statements_;
+  PreparedFile file_;
   std::map<std::string, NumberedLines> written_;  // by draft, as they were last written here
 };
 

@@ -4,10 +4,10 @@
 #include <memory>
 #include <utility>
 
-#include "basics/deployment.h"
 #include "basics/records.h"
 #include "forms/host.h"
 #include "slips/draft_keeper.h"
+#include "slips/user_file.h"
 
 namespace store {
 namespace {
@@ -17,32 +17,13 @@ std::unique_ptr<DraftKeeper>& TheKeeper() {
   return keeper;
 }
 
-/// A text as part of a file's name; two texts never give the same.
-std::string FileName(const std::string& text) {
-  static constexpr const char* kDigits = "0123456789abcdef";
-  std::string name;
-  for (const char letter : text) {
-    const auto byte = static_cast<unsigned char>(letter);
-    if ((byte >= '0' && byte <= '9') || (byte >= 'A' && byte <= 'Z') ||
-        (byte >= 'a' && byte <= 'z')) {
-      name += letter;
-    } else {
-      name.append({'%', kDigits[byte >> 4], kDigits[byte & 15]});
-    }
-  }
-  return name;
-}
-
 /// The keeper of whoever is logged in; nothing before that.
 DraftKeeper* OpenKeeper() {
   std::unique_ptr<DraftKeeper>& keeper = TheKeeper();
   if (keeper) return keeper->HasFile() ? keeper.get() : nullptr;
-  const std::string folder = DataFolder();
-  if (folder.empty() || Session.UserCode.empty() || Session.StoreCode.empty()) return nullptr;
-  keeper = std::make_unique<DraftKeeper>(std::filesystem::path(folder) / "drafts" /
-                                         (FileName(Session.DatabaseName) + "-" +
-                                          FileName(Session.StoreCode) + "-" +
-                                          FileName(Session.UserCode) + ".db"));
+  const std::filesystem::path path = UserFilePath("drafts");
+  if (path.empty()) return nullptr;
+  keeper = std::make_unique<DraftKeeper>(path);
   return keeper->HasFile() ? keeper.get() : nullptr;
 }
 

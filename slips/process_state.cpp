@@ -5,6 +5,7 @@
 #include "forms/host.h"
 #include "forms/open_forms.h"
 #include "gateway/gateway.h"
+#include "slips/deleted_slips.h"
 #include "slips/drafts.h"
 #include "slips/order_in_hand.h"
 #include "slips/picks.h"
@@ -16,6 +17,7 @@ namespace store {
 void ResetProcessState() {
   DropAllForms();
   ResetDrafts();
+  ResetDeletedSlips();
   ResetGateway();
   ResetRecords();
   ResetFormats();

@@ -171,9 +171,14 @@ std::string StillThereGuard(const std::string& slipId) {
 }
 
 std::string UntouchedGuard(const std::string& slipId, const std::vector<StoredOrder>& known) {
+  return UntouchedGuard(slipId, known, kChangedElsewhere);
+}
+
+std::string UntouchedGuard(const std::string& slipId, const std::vector<StoredOrder>& known,
+                           const char* refusal) {
   return Guard(Splice(" SELECT PE_ID FROM PEM22 WHERE PE_ID = '{slip}' AND ({any}) FOR UPDATE",
                       "slip"_a = slipId, "any"_a = AnyUntouched(known)),
-               kChangedElsewhere);
+               refusal);
 }
 
 std::string DeleteOwnStatement(const std::string& slipId, const std::vector<StoredOrder>& tries) {

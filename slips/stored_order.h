@@ -55,6 +55,9 @@ std::string StillThereGuard(const std::string& slipId);
 /// Behind it: what stands is one of those that this form knows, its state, content and stamp
 /// untouched.
 std::string UntouchedGuard(const std::string& slipId, const std::vector<StoredOrder>& known);
+/// The same in the words of somebody who does not order.
+std::string UntouchedGuard(const std::string& slipId, const std::vector<StoredOrder>& known,
+                           const char* refusal);
 /// Takes out what an earlier try of the same new order has stored, and nothing else.
 std::string DeleteOwnStatement(const std::string& slipId, const std::vector<StoredOrder>& tries);
 

@@ -197,6 +197,7 @@ std::unique_ptr<Binding> Bind(FormWindow& window, Control& control, QWidget& wid
 void BindTimer(FormWindow& window, Timer& timer) {
   auto* clock = new QTimer(&window);
   QObject::connect(clock, &QTimer::timeout, &window, [&timer] {
+    if (TheDesk().InsideCall()) return;  // it comes again
     Dispatch([&timer] {
       if (timer.Tick) timer.Tick();
     });

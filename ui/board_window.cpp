@@ -16,6 +16,7 @@
 #include "ui/key_button.h"
 #include "ui/layout_pieces.h"
 #include "ui/qt_text.h"
+#include "ui/server_lamp.h"
 #include "ui/style.h"
 
 namespace store {
@@ -139,13 +140,19 @@ QWidget* BoardWindow::Slips() {
 
 QWidget* BoardWindow::Sums() {
   auto* count = Named("Label6_0", new QLabel);
-  QLabel* chosen = CaptionLabel({});
+  QLabel* chosen = Named("Selected", CaptionLabel({}));
   QLabel* total = Named("Label6_1", TotalLabel());
   auto* row = Row();
   row->addWidget(count);
+  row->addSpacing(12);
+  row->addWidget(Named("LaRead", CaptionLabel({})));
+  row->addSpacing(12);
+  row->addWidget(new ServerLamp);
   row->addSpacing(24);
   row->addWidget(chosen);
   row->addStretch();
+  row->addWidget(Named("LaDeleted", new KeyButton({}, QKeySequence(Qt::CTRL | Qt::Key_Z))));
+  row->addSpacing(12);
   row->addWidget(CaptionLabel("합계"));
   row->addWidget(total);
   AlsoSync([this, chosen, seen = SeenText()]() mutable {

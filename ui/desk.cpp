@@ -40,9 +40,13 @@ Desk::Desk(QObject* application) : QObject(application) {
 Desk::~Desk() = default;
 
 void Desk::Run(const std::function<void()>& event) {
-  const RunningEvent running(*this);
-  event();
-  SyncWindows();
+  server_.BeginEvent();
+  {
+    const RunningEvent running(*this);
+    event();
+    SyncWindows();
+  }
+  server_.EndEvent(depth_);
 }
 
 void Desk::SyncWindows() {
@@ -64,8 +68,22 @@ void Desk::SyncWindows() {
 
 void Desk::LetWindowsPaint() {
   SyncWindows();
+  Paint(QEventLoop::ExcludeUserInputEvents, 0);
+}
+
+void Desk::PaintWindows(QEventLoop::ProcessEventsFlags flags, int milliseconds) {
+  const bool before = std::exchange(insideCall_, true);
+  Paint(flags | QEventLoop::ExcludeSocketNotifiers, milliseconds);
+  insideCall_ = before;
+}
+
+void Desk::Paint(QEventLoop::ProcessEventsFlags flags, int milliseconds) {
   ++painting_;
-  QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+  if (milliseconds == 0) {
+    QCoreApplication::processEvents(flags);
+  } else {
+    QCoreApplication::processEvents(flags, milliseconds);
+  }
   if (--painting_ > 0) return;
   for (const auto& work : std::exchange(afterPainting_, {})) work();
 }
@@ -213,10 +231,18 @@ void Desk::Clear() {
   }
   DeleteLeaving();
   ending_ = false;
+  server_.Forget();
 }
 
 void Desk::FocusMoved(QWidget* from, QWidget* to) {
   if (to == nullptr) return;
+  // It is an event of the form, which may be in the middle of another one.
+  const auto again = [this, left = QPointer(from), now = QPointer(to)] {
+    QTimer::singleShot(0, this, [this, left, now] {
+      if (now != nullptr && now == QApplication::focusWidget()) FocusMoved(left, now);
+    });
+  };
+  if (WaitsForPainting(again)) return;
   if (auto* window = dynamic_cast<FormWindow*>(to->window())) {
     window->FocusMoved(*to, from != nullptr && from->window() == window);
   }
@@ -262,6 +288,7 @@ bool Desk::TypesBehind(const QWidget& widget, const QKeyEvent& key) {
 }
 
 bool Desk::eventFilter(QObject* watched, QEvent* event) {
+  if (server_.Takes(*watched, *event)) return true;
   if (event->type() == QEvent::Wheel) {
     // Scrolling past a choice must not change it.
     auto* choice = qobject_cast<QWidget*>(watched);

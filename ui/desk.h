@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QEventLoop>
 #include <QObject>
 #include <QPointer>
 #include <QString>
@@ -7,6 +8,7 @@
 #include <vector>
 
 #include "forms/form.h"
+#include "ui/server_wait.h"
 
 class QKeyEvent;
 class QLineEdit;
@@ -37,6 +39,15 @@ class Desk : public QObject {
   /// waits, and so does the work of windows that come to the front: it may need the very data that
   /// the running event is walking through.
   void LetWindowsPaint();
+  /// The same for the middle of a call to the server: the forms may be half-way through a step, and
+  /// so the windows show what they last showed. No timer of a form fires, and no port is listened
+  /// to.
+  void PaintWindows(QEventLoop::ProcessEventsFlags flags, int milliseconds = 0);
+  bool InsideCall() const { return insideCall_; }
+  ServerWait& Server() { return server_; }
+  void ShowServer(ServerLink link, std::chrono::milliseconds lasted) {
+    server_.Tell(link, lasted, depth_);
+  }
   /// Keeps `work` back while the windows paint. False when they do not, and it may run at once.
   bool WaitsForPainting(std::function<void()> work);
 
@@ -78,6 +89,7 @@ class Desk : public QObject {
   class RunningEvent;
 
   FormWindow* Open(Form& form);
+  void Paint(QEventLoop::ProcessEventsFlags flags, int milliseconds);
   void FreeClosed();
   void DeleteLeaving();
   void FocusMoved(QWidget* from, QWidget* to);
@@ -89,6 +101,8 @@ class Desk : public QObject {
   std::vector<std::function<void()>> afterPainting_;
   QPointer<QLineEdit> typedInto_;
   QString typedLater_;
+  ServerWait server_;
+  bool insideCall_ = false;
   int painting_ = 0;
   int depth_ = 0;
   int boxes_ = 0;

@@ -5,6 +5,7 @@
 #include <QMenu>
 #include <QToolTip>
 #include <algorithm>
+#include <utility>
 
 #include "ui/cell_editor.h"
 #include "ui/desk.h"
@@ -58,7 +59,6 @@ GridView::GridView(Grid& grid, int lines, QWidget* parent)
   setAttribute(Qt::WA_InputMethodEnabled);
   setMouseTracking(true);
   editor_->Left = [this](bool keep, int step) { CloseCell(keep, step); };
-  connect(this, &QTableView::clicked, this, &GridView::Clicked);
   connect(this, &QTableView::doubleClicked, this, &GridView::DoubleClicked);
   connect(horizontalHeader(), &QHeaderView::sectionResized, this,
           [this](int section, int oldSize, int newSize) {
@@ -147,10 +147,10 @@ void GridView::resizeEvent(QResizeEvent* event) {
 
 void GridView::scrollContentsBy(int dx, int dy) {
   QTableView::scrollContentsBy(dx, dy);
-  if (dy != 0) {
-    grid_.NoteTopRow(std::max(0, rowAt(0)));
-    columns_.MeasureView();
-  }
+  // What the form has asked for and has not got yet is not taken back by what a new list does.
+  const bool followed = topRowSeen_ == grid_.TopRowRevision();
+  if (dy != 0 && followed) grid_.NoteTopRow(std::max(0, rowAt(0)));
+  if (dy != 0) columns_.MeasureView();
   PlaceOpenCell();
 }
 
@@ -174,9 +174,30 @@ void GridView::focusInEvent(QFocusEvent* event) {
   setAttribute(Qt::WA_InputMethodEnabled);
 }
 
-void GridView::Clicked(const QModelIndex& index) {
+// One cell is marked, and it is the one that is clicked: the left button alone chooses it, when it
+// goes down, and wherever the mouse slips to until the button is let go, the click is that cell's.
+void GridView::mousePressEvent(QMouseEvent* event) {
+  if (event->button() != Qt::LeftButton) return;
+  pressed_ = indexAt(event->position().toPoint());
+  QTableView::mousePressEvent(event);
+}
+
+void GridView::mouseReleaseEvent(QMouseEvent* event) {
+  if (event->button() != Qt::LeftButton) return;
+  const QPersistentModelIndex pressed = std::exchange(pressed_, QPersistentModelIndex());
+  QTableView::mouseReleaseEvent(event);
+  if (pressed.isValid()) Clicked(pressed, indexAt(event->position().toPoint()) == pressed);
+}
+
+void GridView::mouseDoubleClickEvent(QMouseEvent* event) {
+  if (event->button() != Qt::LeftButton) return;
+  pressed_ = QPersistentModelIndex();
+  QTableView::mouseDoubleClickEvent(event);
+}
+
+void GridView::Clicked(const QModelIndex& index, bool letGoThere) {
   if (index.data(Qt::CheckStateRole).isValid()) {
-    Toggle(index);
+    if (letGoThere) Toggle(index);
   } else if (grid_.Click) {
     Dispatch(grid_.Click);
   }
@@ -192,6 +213,7 @@ void GridView::DoubleClicked(const QModelIndex& index) {
 
 // Each cell may have a tip of its own, which the form writes when the pointer comes to it.
 void GridView::mouseMoveEvent(QMouseEvent* event) {
+  if (event->buttons() != Qt::NoButton) return;  // the table would let the mark follow the pointer
   QTableView::mouseMoveEvent(event);
   const QModelIndex at = indexAt(event->position().toPoint());
   if (!grid_.MouseMove || at == pointed_) return;
@@ -222,9 +244,7 @@ void GridView::keyPressEvent(QKeyEvent* event) {
     TypeText(text);
     return;
   }
-  const int before = grid_.Row();
   QTableView::keyPressEvent(event);
-  if (grid_.Row() != before && grid_.Walk) Dispatch(grid_.Walk);
 }
 
 void GridView::inputMethodEvent(QInputMethodEvent* event) {

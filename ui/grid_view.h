@@ -52,6 +52,9 @@ class GridView : public QTableView {
   void resizeEvent(QResizeEvent* event) override;
   void scrollContentsBy(int dx, int dy) override;
   void focusInEvent(QFocusEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
   void leaveEvent(QEvent* event) override;
 
@@ -60,7 +63,7 @@ class GridView : public QTableView {
   void FollowCurrentCell();
   void OpenHeaderMenu(const QPoint& at);
   int ShownColumn(int column) const;
-  void Clicked(const QModelIndex& index);
+  void Clicked(const QModelIndex& index, bool letGoThere);
   void DoubleClicked(const QModelIndex& index);
   void TypeText(const QString& text);
   void Toggle(const QModelIndex& index);
@@ -78,6 +81,7 @@ class GridView : public QTableView {
   int openColumn_ = -1;
   unsigned topRowSeen_ = 0;
   QPersistentModelIndex pointed_;  // the cell under the pointer
+  QPersistentModelIndex pressed_;  // the cell on which the button went down and is still held
   bool marksRow_ = true;
   bool following_ = false;
 };

@@ -99,6 +99,9 @@ void OpenWorkstation() {
   Host.SetPointer = SetPointer;
   Host.Beep = [] { QApplication::beep(); };
   Host.DoEvents = [] { TheDesk().LetWindowsPaint(); };
+  Host.ShowServer = [](ServerLink link, std::chrono::milliseconds lasted) {
+    TheDesk().ShowServer(link, lasted);
+  };
   Host.Now = Now;
   Host.Sleep = [](int milliseconds) {
     QThread::msleep(static_cast<unsigned long>(std::max(0, milliseconds)));

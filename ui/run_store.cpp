@@ -13,6 +13,7 @@
 #include "lookup/NEW_PR.h"
 #include "order/order_form.h"
 #include "receipt/frm_PE_UNIT.h"
+#include "slips/deleted_slips.h"
 #include "slips/drafts.h"
 #include "start/Main_Start.h"
 #include "start/frmSplash.h"
@@ -103,6 +104,7 @@ int RunStore(QApplication& application, const std::string& commandLine) {
   TheDesk().Clear();
   DropAllForms();
   ResetDrafts();
+  ResetDeletedSlips();
   return code;
 }
 

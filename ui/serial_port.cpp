@@ -194,7 +194,10 @@ void RealSerialPort::Output(const std::string& text) {
 }
 
 void RealSerialPort::Later(std::function<void()> work) {
-  QTimer::singleShot(0, &line_, std::move(work));
+  QTimer::singleShot(0, &line_, [this, work = std::move(work)] {
+    if (TheDesk().InsideCall()) return Later(work);  // no event of the form may run there
+    work();
+  });
 }
 
 void RealSerialPort::TakeArrived() {

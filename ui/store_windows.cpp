@@ -1,5 +1,6 @@
 #include "ui/store_windows.h"
 
+#include "board/frmDeleted.h"
 #include "board/frmDrafts.h"
 #include "board/frm_Start.h"
 #include "handheld/DT9RECEV.h"
@@ -18,6 +19,7 @@
 #include "ui/batch_window.h"
 #include "ui/board_window.h"
 #include "ui/cradle_window.h"
+#include "ui/deleted_window.h"
 #include "ui/drafts_window.h"
 #include "ui/inspector_window.h"
 #include "ui/login_window.h"
@@ -39,6 +41,7 @@ void RegisterStoreWindows() {
   RegisterWindow("frmSplash", MakerOf<SplashWindow, frmSplash>());
   RegisterWindow("frmOptions", MakerOf<OptionsWindow, frmOptions>());
   RegisterWindow("frm_Start", MakerOf<BoardWindow, frm_Start>());
+  RegisterWindow("frmDeleted", MakerOf<DeletedWindow, frmDeleted>());
   RegisterWindow("frmDrafts", MakerOf<DraftsWindow, frmDrafts>());
   RegisterWindow("frm_PE_UNIT", MakerOf<ReceiptWindow, frm_PE_UNIT>());
   for (const char* order : {"frm_Order", "frm_Order01", "frm_Order02", "frm_Order03"}) {

@@ -44,8 +44,9 @@ TEST_F(BoardDeletes, OrTakesBackWhatStillHasTheStateShownAndTellsTruly) {
     move(c.slip, c.moved);
     host.ExpectBox(c.box);
     board.Image1_Click(4);
-    ASSERT_EQ(SqlBatch.size(), 3u);  // the guard stands in front
-    EXPECT_EQ(SqlBatch[2], c.statement);
+    // The guards stand in front: its state, and of one that is deleted, what was read of it.
+    ASSERT_EQ(SqlBatch.size(), &c.slip == &kEditing ? 4u : 3u);
+    EXPECT_EQ(SqlBatch.back(), c.statement);
     EXPECT_EQ(StateOf(c.slip), c.after);
     EXPECT_EQ(host.Boxes.back().Style, box::Plain);
   }
@@ -56,23 +57,28 @@ TEST_F(BoardDeletes, OrTakesBackWhatStillHasTheStateShownAndTellsTruly) {
   EXPECT_EQ(Value("SELECT COUNT(*) FROM PEM22"), "5");
 }
 
-TEST_F(BoardDeletes, ASecondPressDoesNothingMore) {
-  // The state word stays with the selection after the refresh: it asks for a state that is gone.
-  const struct {
-    const std::string& slip;
-    const char* first;
-    const char* second;
-    const char* after;
-  } cases[] = {{kConfirmed, "전환되었습니다.", "[발주편집] 상태로 바뀐 전표입니다.", "0"},
-               {kEditing, "삭제되었습니다.", "이미 삭제된 전표입니다.", "gone"}};
-  for (const auto& c : cases) {
-    Click(c.slip);
-    for (const char* told : {c.first, c.second}) {
-      host.ExpectBox(told);
-      board.Image1_Click(4);
-      EXPECT_EQ(StateOf(c.slip), c.after);
-    }
-  }
+TEST_F(BoardDeletes, ASecondPressHitsWhatIsMarkedByThen) {
+  // What was taken back is in editing now, and the board says so.
+  Click(kConfirmed);
+  host.ExpectBox("전환되었습니다.");
+  board.Image1_Click(4);
+  EXPECT_EQ(board.SelectedSlipState, "발주편집");
+  EXPECT_EQ(StateOf(kConfirmed), "0");
+  // What was deleted has left its place to its neighbour.
+  Click(kEditing);
+  host.ExpectBox("삭제되었습니다.");
+  board.Image1_Click(4);
+  EXPECT_EQ(board.SelectedSlipId, kConfirmed);
+  host.ExpectBox("삭제되었습니다.");
+  board.Image1_Click(4);
+  EXPECT_EQ(StateOf(kConfirmed), "gone");
+}
+
+TEST_F(BoardDeletes, OneThatIsGoneByThenIsTold) {
+  Click(kEditing);
+  Sql("DELETE FROM PEM22 WHERE PE_ID='" + kEditing + "'");
+  host.ExpectBox("다른 곳에서 이미 삭제된 전표입니다.");
+  board.Image1_Click(4);
 }
 
 TEST_F(BoardDeletes, ALostReplyIsLookedForAndToldTruly) {

@@ -188,8 +188,14 @@ TEST_F(Gate, AServerThatNeverAnswersIsGivenUpAtTheConnectTimeout) {
 
 TEST_F(Gate, AServerThatStandsStillHoldsUpACallOnlyUntilItsLimit) {
   const ScriptedHost host;
+  std::vector<ServerLink> links;
+  Host.ShowServer = [&](ServerLink link, std::chrono::milliseconds) {
+    if (links.empty() || links.back() != link) links.push_back(link);
+  };
   Query("SELECT N FROM T");
   ASSERT_EQ(LastErrorText, "");
+  Query("SELECT NOBODY FROM T");
+  EXPECT_EQ(links, (std::vector<ServerLink>{ServerLink::Connected})) << "a refusal is an answer";
   setenv("STORE_READ_LIMIT", "1", 1);
   setenv("STORE_BATCH_LIMIT", "1", 1);
   for (const bool batch : {false, true}) {
@@ -209,6 +215,9 @@ TEST_F(Gate, AServerThatStandsStillHoldsUpACallOnlyUntilItsLimit) {
     Query("SELECT 1");
     EXPECT_EQ(rows, 1) << LastErrorText;
   }
+  using enum ServerLink;
+  EXPECT_EQ(links, (std::vector<ServerLink>{Connected, Waiting, Lost, Connected, Waiting, Lost,
+                                            Connected}));
   unsetenv("STORE_READ_LIMIT");
   unsetenv("STORE_BATCH_LIMIT");
   // What came back late found that nobody waited, and was not sent.

@@ -89,6 +89,7 @@ void Hands::WorkIn(const std::string& formName, std::function<void(FormWindow&)>
 void Hands::Poll() {
   // The next round is set first: acting may open a window that keeps this one from coming back.
   QTimer::singleShot(kPoll, &whileAlive_, [this] { Poll(); });
+  if (TheDesk().InsideCall()) return;  // a hand reaches the program when the call is over
   if (announced_.empty() || !announced_.front().ready()) {
     SendAwayUnexpected();
     return;

@@ -176,8 +176,10 @@ void Clerk::ChangeOrder() {
 
 void Clerk::DeleteOrRevert(bool revert) {
   if (!SelectOnBoard(revert ? 2 : 1)) return;
-  const std::string key = Board().SelectedSlipId;
   const auto press = [&] {
+    // A further press hits what the board has marked by then.
+    const std::string key = Board().SelectedSlipId;
+    if (key.empty()) return;
     Work work;
     work.Group = NextGroup();
     work.NoteIntent = [&](const std::string& number) {

@@ -4,6 +4,7 @@
 #include <stdlib.h>
 
 #include "forms/open_forms.h"
+#include "slips/deleted_slips.h"
 #include "slips/drafts.h"
 
 namespace store {
@@ -36,6 +37,7 @@ ScriptedHost::~ScriptedHost() {
   ExpectAllShown();
   DropAllForms();
   ResetDrafts();
+  ResetDeletedSlips();
   unsetenv("STORE_DATA_FOLDER");
   Host = EmptyHost();
   std::error_code ignored;

@@ -63,7 +63,7 @@ void Director::Settle() {
 void Director::Poll() {
   if (steps_.empty()) return;
   PollLater();
-  if (settling_) return;
+  if (settling_ || TheDesk().InsideCall()) return;
   waited_ += kPoll;
   if (waited_ > kPatience) Fail(QString("%1 steps were not reached").arg(steps_.size()));
   if (!steps_.front().ready()) return;

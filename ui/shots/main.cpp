@@ -177,6 +177,7 @@ int main(int argc, char** argv) {
   store::ShootQuickPick(director);
   store::ShootStoredSlips(director);
   store::ShootDrafts(director);
+  store::ShootDeleted(director);
   store::ShootBatch(director);
   store::ShootLookups(director);
   store::ShootNewProduct(director);

@@ -6,6 +6,7 @@
 #include "basics/records.h"
 #include "forms/host.h"
 #include "forms/open_forms.h"
+#include "slips/deleted_slips.h"
 #include "slips/item_list.h"
 #include "ui/qt_text.h"
 
@@ -200,6 +201,24 @@ void ShootDrafts(Director& director) {
   });
   director.WhenShown("frmDrafts", [&](FormWindow& window) {
     director.Save(window, "drafts");
+    Press(window, Qt::Key_Escape);
+  });
+}
+
+void ShootDeleted(Director& director) {
+  director.WhenShown("frm_Start", [&](FormWindow& window) {
+    GoTo(window, "FLEX1", 1, 2);
+    // Kept as a deletion does; the demo data stays as it is.
+    for (int row = 1; row <= 2; ++row) {
+      const auto slip = ReadWholeSlip(Board().FLEX1.TextMatrix(row, board::SlipId));
+      if (slip) SureOfDeleted(KeepDeleted(*slip));
+    }
+    Press(window, Qt::Key_F5);
+    director.Save(window, "board_deleted");
+    Press(window, Qt::Key_Z, Qt::ControlModifier);
+  });
+  director.WhenShown("frmDeleted", [&](FormWindow& window) {
+    director.Save(window, "deleted");
     Press(window, Qt::Key_Escape);
   });
 }

@@ -15,5 +15,6 @@ void ShootQuickPick(Director& director);
 void ShootStoredSlips(Director& director);
 /// What the orders before it have left.
 void ShootDrafts(Director& director);
+void ShootDeleted(Director& director);
 
 }  // namespace store

@@ -1,0 +1,47 @@
+#include "ui/deleted_window.h"
+
+#include <QFrame>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QSplitter>
+#include <QVBoxLayout>
+
+#include "board/frmDeleted.h"
+#include "ui/grid_view.h"
+#include "ui/key_button.h"
+#include "ui/layout_pieces.h"
+
+namespace store {
+namespace {
+
+constexpr QSize kSize(860, 520);
+
+}  // namespace
+
+DeletedWindow::DeletedWindow(frmDeleted& form) : FormWindow(form) {
+  auto* halves = new QSplitter(Qt::Vertical);
+  halves->addWidget(Titled(HeadingLabel("오늘 삭제한 발주 (내일은 되살릴 수 없습니다)"),
+                           Named("FLEX1", new GridView(form.FLEX1))));
+  halves->addWidget(Titled(HeadingLabel("전표 내용"), Named("FLEX2", new GridView(form.FLEX2))));
+  halves->setSizes({220, 260});
+  halves->setChildrenCollapsible(false);
+  auto* content = Column();
+  content->addWidget(halves, 1);
+  content->addWidget(Foot());
+  FillWindow(*this, content);
+  BindControls();
+  resize(kSize);
+}
+
+QWidget* DeletedWindow::Foot() {
+  auto* restore = Named("Command1", new KeyButton);
+  restore->WriteKey("Enter");
+  restore->MarkMain();
+  auto* row = Row();
+  row->addStretch();
+  row->addWidget(restore);
+  row->addWidget(Named("Command3", new KeyButton({}, Qt::Key_Escape)));
+  return Group("totals", row);
+}
+
+}  // namespace store
