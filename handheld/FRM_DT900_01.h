@@ -53,7 +53,7 @@ class FRM_DT900_01 : public HandheldForm, public StagedRowsPane, public Handheld
     int Surveys = 0;
     int Shipments = 0;                    ///< That are stored.
     std::vector<std::string> NotShipped;  ///< The stores whose shipments are not.
-    Fate LastFailure = Fate::Failed;      ///< How the last of them failed,
+    Fate Failure = Fate::Failed;          ///< How one of them failed, the least certain one,
     std::string FailureText;              ///< and the words of that.
   };
 
@@ -77,6 +77,8 @@ class FRM_DT900_01 : public HandheldForm, public StagedRowsPane, public Handheld
   void AddPriceUpdates();
   StoredOnce& Work() const;  // the passes over this run's rows; each store's shipments apart
   void SendShipment(bool added);
+  void NoteNotShipped(const std::string& store, Fate fate);
+  void NoteNotShippedFrom(int row, Fate fate);
   Fate SendBatch(StoredOnce& work, const std::vector<std::string>& rowIds);
   void DeleteTicked();
 

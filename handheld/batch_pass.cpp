@@ -94,7 +94,7 @@ void FRM_DT900_01::MakeSlips() {
     const NumbersOfPass numbers;
     if (ModuleCode == handheld_module::Prices) {
       AddPriceUpdates();
-    } else if (!BuildSlips()) {
+    } else if (!BuildSlips() && pass_.NotShipped.empty()) {
       return;
     }
     if (!pass_.BatchRows.empty()) fate = SendBatch(Work(), pass_.BatchRows);
@@ -189,8 +189,14 @@ void FRM_DT900_01::SendShipment(bool added) {
     ++pass_.Shipments;
     return;
   }
-  pass_.NotShipped.push_back(HandheldHeader[head::ToName]);
-  pass_.LastFailure = fate;
+  NoteNotShipped(HandheldHeader[head::ToName], fate);
+}
+
+void FRM_DT900_01::NoteNotShipped(const std::string& store, Fate fate) {
+  pass_.NotShipped.push_back(store);
+  // One that failed for sure must not hide that of another nobody knows.
+  if (fate == Fate::Failed && pass_.Failure != Fate::Failed) return;
+  pass_.Failure = fate;
   pass_.FailureText = fate == Fate::Failed ? LastErrorText : FateText(fate);
 }
 
@@ -217,7 +223,7 @@ void FRM_DT900_01::Report(Fate fate) {
 
 void FRM_DT900_01::ReportShipments() {
   const int shipments = pass_.Shipments + static_cast<int>(pass_.NotShipped.size());
-  if (shipments == 1) return Report(pass_.NotShipped.empty() ? Fate::Stored : pass_.LastFailure);
+  if (shipments == 1) return Report(pass_.NotShipped.empty() ? Fate::Stored : pass_.Failure);
   if (pass_.NotShipped.empty()) {
     return ReportStored("전표 " + std::to_string(shipments) + "건의 저장이 완료되었습니다.");
   }

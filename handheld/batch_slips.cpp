@@ -126,8 +126,24 @@ bool FRM_DT900_01::BeginSlip(int row) {
   slipRows_.clear();
   const std::string& key = HandheldHeader[head::Id];
   if (key.empty() || IsWholeKey(key)) return true;
-  Report(Work().FateOfEarlier("").value_or(Fate::Failed));
+  const Fate fate = Work().FateOfEarlier("").value_or(Fate::Failed);
+  if (ModuleCode == handheld_module::Shipment) {
+    NoteNotShippedFrom(row, fate);
+  } else {
+    Report(fate);
+  }
   return false;
+}
+
+/// The shipments in front may have gone, so these are told with them.
+void FRM_DT900_01::NoteNotShippedFrom(int row, Fate fate) {
+  std::string store;
+  for (; row < FLEX.Rows(); ++row) {
+    const std::string& code = FLEX.TextMatrix(row, staged::PartnerCode);
+    if (!IsPostable(row) || code == store) continue;
+    store = code;
+    NoteNotShipped(FLEX.TextMatrix(row, staged::PartnerName), fate);
+  }
 }
 
 void FRM_DT900_01::FinishSlip() {

@@ -181,6 +181,24 @@ TEST_F(BatchOnce, OfTwoStoresTheOneWhoseReplyIsLostIsTold) {
   ResetGateway();
 }
 
+TEST_F(BatchOnce, AShipmentOfUnknownFateIsToldBesideOneThatCouldNotBeginAnyMore) {
+  CuttingProxy line(TestServer().Port());
+  StageAndOpen("14");
+  Stage({"q1", "-", "P0001", "2", "700", "1000", "본사"}, "14");
+  Batch().Command1_Click(0);
+  BuildConnectString(PrivateDbServer::ServerOption(line.Port()), "kt", "small");
+  line.CutNextBatch(Cut::After, true);
+  Press(
+      "전표 2건 중 0건의 저장이 완료되었습니다.\r저장이 실패한 가맹점: 본사, 왕십리점\r\r MSG: "
+      "서버에 연결되지 않아 저장되었는지 알 수 없습니다.");
+  line.Return();
+  Batch().Command1_Click(0);
+  Press(kStored);  // that of the other store
+  EXPECT_EQ(Left(), "");
+  EXPECT_EQ(Stock("P0001"), "5/10/6");
+  ResetGateway();
+}
+
 TEST_F(BatchOnce, AReceivingDepotThatCannotBeReadStopsTheShipment) {
   StageAndOpen("14");
   Sql("RENAME TABLE HCT TO AWAY");
