@@ -72,10 +72,10 @@ void Clerk::WorkOnReceipt(frm_PE_UNIT& form) {
           : static_cast<int>(ParseGrouped(form.FLEX1.TextMatrix(1, receipt::Ordered)));
   if (ordered < 1000) return;
   Pause();
-  // What came tells this receipt from any other one of the same order.
+  // What came tells this receipt from any other one of the same order, for some hundred of them.
   const int steps = ordered / kTerminals;
   const int quantity =
-      (static_cast<int>(numbers_.Group) * 37 % steps) * kTerminals + place_.Terminal + 1;
+      (static_cast<int>(numbers_.Group) % steps) * kTerminals + place_.Terminal + 1;
   form.FLEX1.SetRow(1);
   form.inBox.SetText(std::to_string(std::min(quantity, ordered)));
   form.inBox_KeyPress(Key::Enter);
