@@ -87,7 +87,7 @@ std::string ReadWholeFile(const std::string& path, std::size_t most, std::string
 std::string ReplaceFile(const std::string& path, const std::string& bytes) {
   const std::string fresh = path + ".new";
   if (!WriteFresh(fresh, path, bytes) || std::rename(fresh.c_str(), path.c_str()) != 0) {
-    const std::string refusal = std::strerror(errno);
+    std::string refusal = std::strerror(errno);
     ::unlink(fresh.c_str());
     return refusal;
   }

@@ -63,7 +63,7 @@ std::string NewFile(const std::string& window) {
   const std::string name = FileWord(window) + FormatDateValue(Host.Now(), "_YYYY-MM-DD_HHNN");
   for (int number = 1;; ++number) {
     const std::string further = number == 1 ? "" : "_" + std::to_string(number);
-    const std::string path = (folder / (name + further + ".xlsx")).string();
+    std::string path = (folder / (name + further + ".xlsx")).string();
     if (std::FILE* file = std::fopen(path.c_str(), "wbx")) {
       std::fclose(file);
       return path;

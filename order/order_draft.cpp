@@ -13,6 +13,7 @@ namespace {
 
 std::vector<std::string> CellsOfRow(const Grid& grid, int row) {
   std::vector<std::string> cells;
+  cells.reserve(static_cast<size_t>(grid.Cols()));
   for (int column = 0; column < grid.Cols(); ++column)
     cells.push_back(grid.TextMatrix(row, column));
   return cells;

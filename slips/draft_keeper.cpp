@@ -24,7 +24,9 @@ void AddTo(DraftChange& change, DraftChange later) {
 /// As the file will be once `changes` are written.
 void Apply(const std::map<std::string, DraftChange>& changes, const std::string& owner,
            std::vector<OwnedDraft>& drafts) {
-  for (const auto& [id, change] : changes) {
+  for (const auto& entry : changes) {
+    const std::string& id = entry.first;
+    const DraftChange& change = entry.second;
     auto draft = std::find_if(drafts.begin(), drafts.end(),
                               [&id](const OwnedDraft& each) { return each.Content.Id == id; });
     if (draft == drafts.end() && change.Written)

@@ -96,7 +96,7 @@ void OrderInHand::FindItsKey(HeadArray& headValues, StringTable& lineValues) {
 bool OrderInHand::Save(const HeadArray& headValues, const StringTable& lineValues,
                        const std::string& table) {
   const StoredOrder order = OrderAsSent(headValues, lineValues);
-  const std::string slipId = headValues[head::Id];
+  const std::string& slipId = headValues[head::Id];
   TriesFound found;
   if (!tries_.empty()) {
     found = LookFor(KeyToAskFor(), order);
