@@ -14,18 +14,12 @@
 #include <mutex>
 #include <string>
 
+#include "private_db/loopback.h"
+
 namespace store {
 namespace {
 
 using Clock = std::chrono::steady_clock;
-
-sockaddr_in Loopback(int port) {
-  sockaddr_in address{};
-  address.sin_family = AF_INET;
-  address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-  address.sin_port = htons(static_cast<std::uint16_t>(port));
-  return address;
-}
 
 /// Bytes on their way in one direction; each piece arrives when its time has come.
 class Line {

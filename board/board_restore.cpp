@@ -53,7 +53,7 @@ void TellFate(RestoreFate fate, const DeletedSlip& slip) {
 }  // namespace
 
 void frm_Start::CountDeleted() {
-  const size_t count = DeletedToday().size();
+  const int count = CountDeletedToday();
   const bool fails = !DeletedSlipsWork() && !Session.UserCode.empty();
   LaDeleted.Visible = count > 0 || fails;
   LaDeleted.Enabled = count > 0;

@@ -15,4 +15,12 @@ std::optional<std::string_view> BrokenValue(std::string_view text) {
   return rest.substr(0, rest.find(splice::kBroken));
 }
 
+std::string QuotedList(const std::vector<std::string>& values) {
+  std::string list;
+  for (const std::string& value : values) {
+    list += Splice("{comma}'{value}'", "comma"_a = list.empty() ? "" : ",", "value"_a = value);
+  }
+  return list;
+}
+
 }  // namespace store

@@ -8,6 +8,7 @@
 #include <string>
 #include <string_view>
 #include <type_traits>
+#include <vector>
 
 namespace store {
 
@@ -183,5 +184,8 @@ std::string Splice(splice::CheckedText<std::type_identity_t<Arguments>...> text,
 
 /// The value that has broken a text, whole; nothing when none has.
 std::optional<std::string_view> BrokenValue(std::string_view text);
+
+/// Values between quotes, parted by commas, as an IN takes them.
+std::string QuotedList(const std::vector<std::string>& values);
 
 }  // namespace store

@@ -16,14 +16,6 @@
 namespace store {
 namespace {
 
-std::string QuotedList(const std::vector<std::string>& ids) {
-  std::string list;
-  for (const std::string& id : ids) {
-    list += Splice("{comma}'{id}'", "comma"_a = list.empty() ? "" : ",", "id"_a = id);
-  }
-  return list;
-}
-
 std::string DeleteStatement(const std::vector<std::string>& ids) {
   return Splice(" DELETE FROM DT900 WHERE PE_ID  IN ( {ids})", "ids"_a = QuotedList(ids));
 }

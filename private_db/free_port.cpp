@@ -1,11 +1,10 @@
 #include "private_db/free_port.h"
 
-#include <arpa/inet.h>
-#include <netinet/in.h>
-#include <sys/socket.h>
 #include <unistd.h>
 
 #include <random>
+
+#include "private_db/loopback.h"
 
 namespace store {
 namespace {
@@ -18,10 +17,7 @@ constexpr int kTries = 100;
 
 bool IsFree(int port) {
   const int probe = socket(AF_INET, SOCK_STREAM, 0);
-  sockaddr_in address{};
-  address.sin_family = AF_INET;
-  address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-  address.sin_port = htons(static_cast<std::uint16_t>(port));
+  const sockaddr_in address = Loopback(port);
   const bool free = bind(probe, reinterpret_cast<const sockaddr*>(&address), sizeof(address)) == 0;
   close(probe);
   return free;

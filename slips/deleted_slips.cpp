@@ -26,13 +26,14 @@ constexpr UserFileKind kKind = {
     .Holds = "삭제한 전표"};
 
 /// The statements of a file, in the order of `kTexts`.
-enum Text { kPutSlip, kPutField, kSure, kRemove, kRemoveOld, kReadSlips, kReadFields };
-constexpr std::array<const char*, 7> kTexts = {
+enum Text { kPutSlip, kPutField, kSure, kRemove, kRemoveOld, kCount, kReadSlips, kReadFields };
+constexpr std::array<const char*, 8> kTexts = {
     "INSERT INTO slip (deleted_at,sure) VALUES (?1,0)",
     "INSERT INTO field (slip,line,place,name,value) VALUES (?1,?2,?3,?4,?5)",
     "UPDATE slip SET sure=1 WHERE number=?1",
     "DELETE FROM slip WHERE number=?1",
     "DELETE FROM slip WHERE deleted_at<?1",
+    "SELECT COUNT(*) FROM slip WHERE deleted_at>=?1",
     "SELECT number,deleted_at,sure FROM slip WHERE deleted_at>=?1 ORDER BY number DESC",
     "SELECT line,name,value FROM field WHERE slip=?1 ORDER BY line,place"};
 
@@ -63,6 +64,12 @@ class Keeper {
     return 0;
   }
   void Change(Text text, int number) { works_ = Ready() && file_->Use(text).Put(number).Done(); }
+  int Count() {
+    if (!Ready()) return 0;
+    const std::string midnight = Midnight();
+    FileUse use = file_->Use(kCount);
+    return use.Put(midnight).Next() ? use.NumberAt(0) : 0;
+  }
   /// A program that runs through the night removes what it kept yesterday as well.
   std::vector<DeletedSlip> Read() {
     std::vector<DeletedSlip> slips;
@@ -161,6 +168,11 @@ void SureOfDeleted(int number) {
 void ForgetDeleted(int number) {
   Keeper* keeper = OpenKeeper();
   if (keeper != nullptr && number != 0) keeper->Change(kRemove, number);
+}
+
+int CountDeletedToday() {
+  Keeper* keeper = OpenKeeper();
+  return keeper == nullptr ? 0 : keeper->Count();
 }
 
 std::vector<DeletedSlip> DeletedToday() {

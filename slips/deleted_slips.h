@@ -19,6 +19,8 @@ void SureOfDeleted(int number);
 /// It was not deleted after all, or has been taken back.
 void ForgetDeleted(int number);
 
+/// How many there are of today.
+int CountDeletedToday();
 /// Those of today, the one deleted last first.
 std::vector<DeletedSlip> DeletedToday();
 /// Whether deleted orders are being kept. False before a login, and when the file takes nothing.

@@ -60,15 +60,10 @@ std::string BalanceInsertStatement(const HeadFields& fields, const std::string& 
 
 std::string StockGuard(const std::string& store, const std::string& depot,
                        const std::vector<std::string>& products) {
-  std::string list;
-  for (const std::string& product : products) {
-    list +=
-        Splice("{comma}'{product}'", "comma"_a = list.empty() ? "" : ",", "product"_a = product);
-  }
   return Guard(
       Splice(" SELECT COUNT(*) FROM IV WHERE RCT_CODE='{store}' AND HCT_CODE='{depot}' AND PR_CODE "
              "IN ({products}) HAVING COUNT(*) = COUNT(DISTINCT PR_CODE) FOR UPDATE",
-             "store"_a = store, "depot"_a = depot, "products"_a = list),
+             "store"_a = store, "depot"_a = depot, "products"_a = QuotedList(products)),
       kCountsMoved);
 }
 

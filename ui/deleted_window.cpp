@@ -3,7 +3,6 @@
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QSplitter>
 #include <QVBoxLayout>
 
 #include "board/frmDeleted.h"
@@ -19,18 +18,16 @@ constexpr QSize kSize(860, 520);
 }  // namespace
 
 DeletedWindow::DeletedWindow(frmDeleted& form) : FormWindow(form) {
-  auto* halves = new QSplitter(Qt::Vertical);
-  halves->addWidget(Titled(HeadingLabel("오늘 삭제한 발주 (내일은 되살릴 수 없습니다)"),
-                           Named("FLEX1", new GridView(form.FLEX1))));
-  halves->addWidget(Titled(HeadingLabel("전표 내용"), Named("FLEX2", new GridView(form.FLEX2))));
-  halves->setSizes({220, 260});
-  halves->setChildrenCollapsible(false);
   auto* content = Column();
-  content->addWidget(halves, 1);
+  content->addWidget(
+      ListAndDetails(Titled(HeadingLabel("오늘 삭제한 발주 (내일은 되살릴 수 없습니다)"),
+                            Named("FLEX1", new GridView(form.FLEX1))),
+                     Titled(HeadingLabel("전표 내용"), Named("FLEX2", new GridView(form.FLEX2)))),
+      1);
   content->addWidget(Foot());
   FillWindow(*this, content);
   BindControls();
-  resize(kSize);
+  Layout().OpenAs(kSize, 0.7);
 }
 
 QWidget* DeletedWindow::Foot() {

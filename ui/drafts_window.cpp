@@ -3,7 +3,6 @@
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QSplitter>
 #include <QVBoxLayout>
 
 #include "board/frmDrafts.h"
@@ -19,14 +18,12 @@ constexpr QSize kSize(760, 520);
 }  // namespace
 
 DraftsWindow::DraftsWindow(frmDrafts& form) : FormWindow(form) {
-  auto* halves = new QSplitter(Qt::Vertical);
-  halves->addWidget(
-      Titled(HeadingLabel("저장하지 않은 발주와 입고"), Named("FLEX1", new GridView(form.FLEX1))));
-  halves->addWidget(Titled(HeadingLabel("적어 둔 내용"), Named("FLEX2", new GridView(form.FLEX2))));
-  halves->setSizes({220, 260});
-  halves->setChildrenCollapsible(false);
   auto* content = Column();
-  content->addWidget(halves, 1);
+  content->addWidget(ListAndDetails(Titled(HeadingLabel("저장하지 않은 발주와 입고"),
+                                           Named("FLEX1", new GridView(form.FLEX1))),
+                                    Titled(HeadingLabel("적어 둔 내용"),
+                                           Named("FLEX2", new GridView(form.FLEX2)))),
+                     1);
   content->addWidget(Foot());
   FillWindow(*this, content);
   BindControls();

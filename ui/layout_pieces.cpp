@@ -3,6 +3,7 @@
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QSplitter>
 #include <QVBoxLayout>
 
 #include "basics/records.h"
@@ -70,6 +71,15 @@ QWidget* Titled(QWidget* heading, QWidget* content) {
   auto* titled = new QWidget;
   titled->setLayout(column);
   return titled;
+}
+
+QWidget* ListAndDetails(QWidget* list, QWidget* details) {
+  auto* halves = new QSplitter(Qt::Vertical);
+  halves->addWidget(list);
+  halves->addWidget(details);
+  halves->setSizes({220, 260});
+  halves->setChildrenCollapsible(false);
+  return halves;
 }
 
 QHBoxLayout* Row() {

@@ -35,6 +35,9 @@ std::string StoreAnd(const TextBox& partner);
 /// A heading above its content.
 QWidget* Titled(QWidget* heading, QWidget* content);
 
+/// A list above what belongs to its current row, with a border that a person can move.
+QWidget* ListAndDetails(QWidget* list, QWidget* details);
+
 /// Rows and columns with the spacing of all windows.
 QHBoxLayout* Row();
 QVBoxLayout* Column();

@@ -10,6 +10,7 @@
 
 #include "basics/deployment.h"
 #include "gateway/guard.h"
+#include "private_db/loopback.h"
 #include "tests/gateway/gate.h"
 #include "tests/support/scripted_host.h"
 
@@ -154,9 +155,7 @@ TEST_F(Gate, AReadThatFindsItsConnectionClosedIsMadeOnAFreshOne) {
 class MuteServer {
  public:
   MuteServer() : socket_(socket(AF_INET, SOCK_STREAM, 0)) {
-    sockaddr_in address{};
-    address.sin_family = AF_INET;
-    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    sockaddr_in address = Loopback(0);
     if (bind(socket_, reinterpret_cast<sockaddr*>(&address), sizeof(address)) != 0) {
       ADD_FAILURE() << "no free port on the loopback";
     }

@@ -141,8 +141,10 @@ void DayBook::TakeTold(int clerk, const Fields& fields) {
   work.Verdict = Joined(work.Verdict, known);
   work.ToldKey = Field(fields, 4);
   work.Box = Field(fields, 5);
-  if (known == Work::Known::Stored && work.What == Work::Kind::NewOrder)
-    LastOrder[work.Store] = Round;
+  if (work.What == Work::Kind::NewOrder) {
+    long& since = SinceStored[work.Store];
+    since = known == Work::Known::Stored ? 0 : since + 1;
+  }
   if (known == Work::Known::Stored) changed_.push_back(&work);
 }
 

@@ -71,9 +71,8 @@ class DayBook {
   std::vector<PassPress> TakePasses();
   const std::map<std::string, std::string>& StagedRows() const { return staged_; }
 
-  /// When each store has last stored an order, in rounds of `Round`.
-  std::map<std::string, long> LastOrder;
-  long Round = 0;
+  /// Of each store, how many presses for a new order have gone by since one was told stored.
+  std::map<std::string, long> SinceStored;
   long Presses = 0;
   std::map<std::string, long> Verdicts;
   std::map<std::string, long> Kinds;

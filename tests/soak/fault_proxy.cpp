@@ -11,6 +11,8 @@
 #include <string_view>
 #include <utility>
 
+#include "private_db/loopback.h"
+
 namespace store {
 namespace {
 
@@ -18,23 +20,6 @@ using std::chrono::steady_clock;
 
 constexpr size_t kPacketHead = 4;  // three bytes of length, one of number
 constexpr auto kShortWhile = std::chrono::milliseconds(15);
-
-sockaddr_in Loopback(int port) {
-  sockaddr_in address{};
-  address.sin_family = AF_INET;
-  address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-  address.sin_port = htons(static_cast<std::uint16_t>(port));
-  return address;
-}
-
-bool SendAll(int to, std::string_view bytes) {
-  while (!bytes.empty()) {
-    const ssize_t took = send(to, bytes.data(), bytes.size(), MSG_NOSIGNAL);
-    if (took <= 0) return false;
-    bytes.remove_prefix(static_cast<size_t>(took));
-  }
-  return true;
-}
 
 size_t PacketSize(const std::string& head) {
   const auto byte = [&](size_t i) {

@@ -4,6 +4,7 @@
 #include <cstdlib>
 
 #include "basics/numbers.h"
+#include "gateway/splice.h"
 #include "tests/soak/soak_database.h"
 
 namespace store {
@@ -17,12 +18,6 @@ enum Column { kSeq, kAt, kWhat, kKey, kOldState, kNewState, kOldLink, kNewLink, 
 constexpr const char* kStepColumns = "SEQ,AT,WHAT,PE_ID,OLD_CK,NEW_CK,OLD_LINK,NEW_LINK,TOKEN";
 
 std::string StoreOfKey(const std::string& key) { return key.size() < 12 ? "" : key.substr(8, 4); }
-
-std::string QuotedList(const std::vector<std::string>& keys) {
-  std::string list;
-  for (const std::string& key : keys) list += (list.empty() ? "'" : ",'") + key + "'";
-  return list;
-}
 
 bool IsOrder(const Work& work) {
   return work.What == Work::Kind::NewOrder || work.What == Work::Kind::Change;

@@ -32,7 +32,7 @@
 namespace store {
 namespace {
 
-constexpr long kTellingRounds = 20;
+constexpr long kStandstill = 25;  // new orders of a store in a row, none of them stored
 
 using std::chrono::steady_clock;
 
@@ -124,7 +124,6 @@ class Days {
   /// What the clerks were told first, then what is in the database, and before that is judged what
   /// they have meant meanwhile: a step is never seen before its intention.
   void Look() {
-    ++book_.Round;
     ReadLogs();
     const auto now = steady_clock::now();
     for (Work* work : book_.TakeChanged()) {
@@ -190,17 +189,12 @@ class Days {
     return failed ? folder_ : kept;
   }
 
-  /// A store in which nothing can be stored any more would break no other rule. A short run on a
-  /// busy machine says nothing about it.
+  /// A store in which nothing can be stored any more would break no other rule.
   void JudgeProgress() {
-    if (book_.Round < kTellingRounds) return;
-    for (int store = 0; store < options_.Stores; ++store) {
-      const std::string code = StoreCodeOf(store);
-      const long last = book_.LastOrder[code];
-      if (last * 2 < book_.Round) {
-        findings_.Add("a store that has stored no order in the later half", code,
-                      "round " + std::to_string(last) + " of " + std::to_string(book_.Round));
-      }
+    for (const auto& [store, since] : book_.SinceStored) {
+      if (since < kStandstill) continue;
+      findings_.Add("a store that has come to a standstill", store,
+                    std::to_string(since) + " presses for a new order, none of them stored");
     }
   }
 

@@ -11,33 +11,18 @@
 #include <chrono>
 #include <string_view>
 
+#include "private_db/loopback.h"
+
 namespace store {
 namespace {
 
 constexpr std::string_view kBatch = "START TRANSACTION";
 constexpr auto kRunning = std::chrono::milliseconds(150);
 
-sockaddr_in Loopback(int port) {
-  sockaddr_in address{};
-  address.sin_family = AF_INET;
-  address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-  address.sin_port = htons(static_cast<std::uint16_t>(port));
-  return address;
-}
-
 /// What has come in; empty when the other side has closed.
 std::string_view Take(int from, std::array<char, 65536>& buffer) {
   const ssize_t got = recv(from, buffer.data(), buffer.size(), 0);
   return {buffer.data(), got > 0 ? static_cast<size_t>(got) : 0};
-}
-
-bool Give(int to, std::string_view bytes) {
-  while (!bytes.empty()) {
-    const ssize_t took = send(to, bytes.data(), bytes.size(), MSG_NOSIGNAL);
-    if (took <= 0) return false;
-    bytes.remove_prefix(static_cast<size_t>(took));
-  }
-  return true;
 }
 
 }  // namespace
@@ -95,12 +80,12 @@ void CuttingProxy::Pass(int client, int server) {
     if (ends[0].revents != 0) {
       const std::string_view bytes = Take(client, buffer);
       if (bytes.find(kBatch) != std::string_view::npos) cut = cut_.exchange(Cut::Never);
-      if (cut == Cut::Before || bytes.empty() || !Give(server, bytes)) break;
+      if (cut == Cut::Before || bytes.empty() || !SendAll(server, bytes)) break;
       sent = std::chrono::steady_clock::now();
     }
     if (ends[1].revents != 0) {
       const std::string_view bytes = Take(server, buffer);
-      if (cut == Cut::After || bytes.empty() || !Give(client, bytes)) break;
+      if (cut == Cut::After || bytes.empty() || !SendAll(client, bytes)) break;
     }
   }
   if (cut != Cut::Never && staysAway_) away_ = true;
