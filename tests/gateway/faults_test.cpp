@@ -248,6 +248,18 @@ TEST_F(Gate, ABatchTooLargeForOneBlockIsAllOrNothingToo) {
   EXPECT_EQ(Numbers(), "1 2 3 ");
 }
 
+// The words of a node that leaves its cluster while it stores.
+TEST_F(Gate, ABatchWhoseStoringWentWrongIsInDoubt) {
+  Sql("CREATE TRIGGER leaves BEFORE INSERT ON T FOR EACH ROW SIGNAL SQLSTATE 'HY000' SET "
+      "MYSQL_ERRNO=1180, MESSAGE_TEXT='Got error 5 during COMMIT'");
+  EXPECT_EQ(ExecuteBatch({"", InsertNumber(1)}), 0);
+  EXPECT_TRUE(BatchInDoubt);
+  EXPECT_NE(LastErrorText.find("during COMMIT"), std::string::npos) << LastErrorText;
+  Sql("DROP TRIGGER leaves");
+  EXPECT_EQ(ExecuteBatch({"", InsertNumber(1)}), -1);
+  EXPECT_FALSE(BatchInDoubt);
+}
+
 class Locks : public Gate {
  protected:
   Locks() {
