@@ -68,8 +68,7 @@ class MenuBinding : public Binding {
         list->addSeparator();
         continue;
       }
-      const QAction* action = list->addAction(
-          QString("&%1  %2").arg(QString::number(entry + 1, 36).toUpper(), ToQt(text)));
+      const QAction* action = list->addAction(NumberedEntry(entry, ToQt(text)));
       QObject::connect(action, &QAction::triggered, &window,
                        [&window, &menu, entry] { window.Act([&] { menu.Click(entry); }); });
     }
@@ -192,6 +191,10 @@ std::unique_ptr<Binding> Bind(FormWindow& window, Control& control, QWidget& wid
   }
   if (std::unique_ptr<Binding> input = BindInput(window, control, widget)) return input;
   return std::make_unique<Binding>(control, widget);
+}
+
+QString NumberedEntry(int entry, const QString& text) {
+  return QString("&%1  %2").arg(QString::number(entry + 1, 36).toUpper(), text);
 }
 
 void BindTimer(FormWindow& window, Timer& timer) {

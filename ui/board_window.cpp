@@ -5,6 +5,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenuBar>
 #include <QRadioButton>
 #include <QSplitter>
 #include <QVBoxLayout>
@@ -12,6 +13,7 @@
 #include "basics/records.h"
 #include "board/frm_Start.h"
 #include "ui/binding.h"
+#include "ui/board_menu.h"
 #include "ui/grid_view.h"
 #include "ui/key_button.h"
 #include "ui/layout_pieces.h"
@@ -58,6 +60,7 @@ BoardWindow::BoardWindow(frm_Start& form) : FormWindow(form), board_(form) {
   auto* content = new QVBoxLayout;
   content->setContentsMargins(0, 0, 0, 0);
   content->setSpacing(0);
+  content->setMenuBar(BoardMenu(*this, form));
   content->addWidget(Band());
   content->addLayout(work, 1);
   setLayout(content);

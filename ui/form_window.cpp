@@ -5,6 +5,7 @@
 #include <QCloseEvent>
 #include <QEventLoop>
 #include <QKeyEvent>
+#include <QMenuBar>
 #include <QPainterPath>
 #include <QTimer>
 #include <QWindow>
@@ -196,6 +197,7 @@ bool FormWindow::InOpenCell(const QWidget& at) const {
 bool FormWindow::KeyPressed(const QKeyEvent& event, QWidget& at) {
   const Key key = NamedKey(event);
   if (InOpenCell(at) && !IsFunctionKey(event)) return false;
+  if (qobject_cast<const QMenuBar*>(&at) != nullptr) return false;  // a person walks along it
 
   const bool walks = key == Key::Up || key == Key::Down || key == Key::Delete || key == Key::Tab;
   if (key != Key::None && event.isAutoRepeat() && !walks) return true;  // a key that was held down
