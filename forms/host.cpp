@@ -15,6 +15,7 @@ HostDoor EmptyHost() {
   host.ScreenSize = [](int& width, int& height) { width = height = 0; };
   host.SetPointer = [](int) {};
   host.Beep = [] {};
+  host.ScanTaken = [] {};
   host.DoEvents = [] {};
   host.ShowServer = [](ServerLink, std::chrono::milliseconds) {};
   host.Now = [] { return ClockTime{2000, 1, 1, 0, 0, 0}; };

@@ -71,6 +71,8 @@ struct HostDoor {
   /// One of the pointer values above.
   std::function<void(int pointer)> SetPointer;
   std::function<void()> Beep;
+  /// Tells the ear that a scan was taken; `Beep` that one was not.
+  std::function<void()> ScanTaken;
   /// Lets pending window events run, painting among them.
   std::function<void()> DoEvents;
 

@@ -78,7 +78,7 @@ class ItemBoxPane : public LinesPane {
   std::string NameCriteria(const std::string& name) const;
   void SearchItems();
   void ListHits();
-  void AddItemLine();
+  bool AddItemLine();
   void InsertLine(double price);
   bool FitsUnit(double quantity, int row);
   std::optional<double> PriceOf(const std::string& code) const;

@@ -6,12 +6,17 @@
 #include "board/frm_Start.h"
 #include "ui/binding.h"
 #include "ui/form_window.h"
+#include "ui/guide_window.h"
 #include "ui/key_button.h"
 #include "ui/qt_text.h"
+#include "ui/style.h"
+#include "ui/user_choices.h"
 #include "ui/window_layout.h"
 
 namespace store {
 namespace {
+
+bool Always() { return true; }
 
 MenuLine Border() { return {}; }
 
@@ -22,6 +27,13 @@ MenuLine OfButton(FormWindow& window, const char* name, QString text = {}) {
   const QString key = button->Keys().toString(QKeySequence::NativeText);
   return {text + "\t" + key, [button] { button->click(); },
           [button] { return button->isVisible() && button->isEnabled(); }};
+}
+
+bool IsDark() { return CurrentTheme() == Theme::Dark; }
+
+MenuLine OfTypeSize(int percent) {
+  return {QString("글자 크기 %1 %").arg(percent), [percent] { ChooseTypeSize(percent); }, Always,
+          [percent] { return TypeSize() == percent; }};
 }
 
 MenuLines FileLines(FormWindow& window, frm_Start& board) {
@@ -44,10 +56,22 @@ MenuLines EditLines(FormWindow& window, frm_Start& board) {
 }
 
 MenuLines ViewLines(FormWindow& window, frm_Start& /*board*/) {
-  return {OfButton(window, "Image1_3"),
-          OfButton(window, "Image5"),
-          Border(),
-          {kFirstLayoutText, [] { ForgetLayouts(); }}};
+  return {
+      OfButton(window, "Image1_3"),
+      OfButton(window, "Image5"),
+      Border(),
+      OfTypeSize(100),
+      OfTypeSize(125),
+      OfTypeSize(150),
+      {"글자 크게\tCtrl++", [] { StepTypeSize(1); },
+       [] { return TypeSize() != kTypeSizes.constLast(); }},
+      {"글자 작게\tCtrl+-", [] { StepTypeSize(-1); },
+       [] { return TypeSize() != kTypeSizes.constFirst(); }},
+      Border(),
+      {"어두운 화면", [] { ChooseTheme(IsDark() ? Theme::Light : Theme::Dark); }, Always, IsDark},
+      {"소리", [] { ChooseSounds(!SoundsOn()); }, Always, SoundsOn},
+      Border(),
+      {kFirstLayoutText, [] { ForgetLayouts(); }}};
 }
 
 MenuLines HandheldLines(FormWindow& window, frm_Start& board) {
@@ -66,7 +90,14 @@ MenuLines HandheldLines(FormWindow& window, frm_Start& board) {
 }
 
 MenuLines HelpLines(FormWindow& window, frm_Start& /*board*/) {
-  return {OfButton(window, "Label4")};
+  const auto page = [&window](const char* file) {
+    return [&window, file] { OpenGuide(file, &window); };
+  };
+  return {{"사용 설명서\tF1", page("board.md")},
+          {"단축키 표", page("keys.md")},
+          {"메시지와 뜻", page("messages.md")},
+          Border(),
+          OfButton(window, "Label4")};
 }
 
 void Fill(QMenu& menu, const MenuLines& lines) {

@@ -12,6 +12,7 @@
 
 #include "forms/open_forms.h"
 #include "ui/form_window.h"
+#include "ui/user_choices.h"
 #include "ui/window_registry.h"
 
 namespace store {
@@ -118,6 +119,7 @@ void Desk::DeleteLeaving() {
 
 FormWindow* Desk::Open(Form& form) {
   if (FormWindow* window = WindowOf(form)) return window;
+  TakeUserChoices();  // somebody may have logged in
   FormWindow* window = MakeWindow(form);
   if (window == nullptr) return nullptr;
   open_.push_back(window);

@@ -84,6 +84,8 @@ class FormWindow : public QWidget {
   void ChainTabOrder();
   bool ShortcutTakes(const QKeyEvent& event);
   void FollowTitle();
+  /// At the page that is about this window.
+  void ShowGuide();
 
   Form& form_;
   WindowLayout layout_{*this};
@@ -94,6 +96,7 @@ class FormWindow : public QWidget {
   std::vector<GridView*> grids_;
   QEventLoop* loop_ = nullptr;
   unsigned focusSeen_ = 0;
+  bool named_ = false;
   bool placed_ = false;  // where a person has left it
   bool gone_ = false;    // the form has closed and may not even be there any more
   bool painted_ = false;

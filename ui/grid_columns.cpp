@@ -33,6 +33,11 @@ void GridColumns::Follow() {
   ShareWidth();
 }
 
+void GridColumns::MeasureAnew() {
+  needs_.clear();
+  Follow();
+}
+
 void GridColumns::ShowColumns() {
   const bool before = std::exchange(sharing_, true);  // showing one is no drag
   for (int column = 0; column < grid_.Cols(); ++column) {

@@ -51,7 +51,6 @@ GridView::GridView(Grid& grid, int lines, QWidget* parent)
   verticalHeader()->setVisible(false);
   verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
   verticalHeader()->setMinimumSectionSize(1);
-  verticalHeader()->setDefaultSectionSize(RowHeight(lines));
   horizontalHeader()->setVisible(grid.FixedRows() > 0);
   horizontalHeader()->setSectionsClickable(false);
   horizontalHeader()->setHighlightSections(false);
@@ -66,7 +65,10 @@ GridView::GridView(Grid& grid, int lines, QWidget* parent)
           });
   connect(horizontalHeader(), &QHeaderView::customContextMenuRequested, this,
           &GridView::OpenHeaderMenu);
-  columns_.Follow();
+  FollowLook(*this, [this, lines] {
+    verticalHeader()->setDefaultSectionSize(RowHeight(lines));
+    columns_.MeasureAnew();
+  });
 }
 
 // --- following the form

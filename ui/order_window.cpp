@@ -55,11 +55,13 @@ OrderWindow::OrderWindow(OrderForm& form) : FormWindow(form), order_(form) {
 }
 
 QWidget* OrderWindow::Header() {
-  auto* row = Row();
-  AddDateAndDepot(*row);
-  AddSupplier(*row);
-  AddWindowButtons(*row);
-  return Group("card", row);
+  auto* head = Row();
+  AddDateAndDepot(*head);
+  AddSupplier(*head);
+  auto* buttons = Row();
+  buttons->addStretch();
+  AddWindowButtons(*buttons);
+  return Group("card", Alone(Folding(head, buttons)));
 }
 
 void OrderWindow::AddSupplier(QHBoxLayout& row) {
@@ -85,15 +87,20 @@ void OrderWindow::AddDateAndDepot(QHBoxLayout& row) {
 void OrderWindow::AddWindowButtons(QHBoxLayout& row) {
   auto* state = Named("LaSatae", new QLabel);
   state->setAlignment(Qt::AlignCenter);
-  state->setMinimumWidth(state->fontMetrics().horizontalAdvance("  발주확정  "));
+  FollowLook(*state, [state] {
+    state->setMinimumWidth(state->fontMetrics().horizontalAdvance("  발주확정  "));
+  });
   row.addWidget(state);
   row.addWidget(Named("Label5_1", new KeyButton("최소화", QKeySequence(Qt::CTRL | Qt::Key_M))));
   row.addWidget(Named("Label5_0", new KeyButton("닫기", Qt::Key_Escape)));
-  AlsoSync([this, state, seen = SeenText()]() mutable {
-    if (!seen.Differs(order_.LaSatae.Caption)) return;
+  const auto dress = [this, state] {
     const QColor tint = StateTint(ToQt(order_.LaSatae.Caption));
     state->setStyleSheet(tint.isValid() ? "background: " + tint.name() + "; border-radius: 3px;"
                                         : QString());
+  };
+  FollowLook(*state, dress);
+  AlsoSync([this, dress, seen = SeenText()]() mutable {
+    if (seen.Differs(order_.LaSatae.Caption)) dress();
   });
 }
 
@@ -101,7 +108,7 @@ QWidget* OrderWindow::ItemBox() {
   auto* box = Named("inBox", new QLineEdit);
   auto* warning = Named("Label6", new ElidedLabel);
   warning->setProperty("role", "warning");
-  box->setFont(BoxFont());
+  FollowFont(*box, BoxFont);
   box->setPlaceholderText("바코드 / 수량     ,품명     .규격");
   auto* row = Row();
   row->setContentsMargins(0, 0, 0, 0);
@@ -123,12 +130,9 @@ QWidget* OrderWindow::Lines() {
   refused->setProperty("role", "warning");
   refused->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   auto* heading = Row();
-  heading->setContentsMargins(0, 0, 0, 0);
   heading->addWidget(HeadingLabel("발주 내역   (Del 행 삭제,  Ctrl+G 규격)"));
   heading->addWidget(refused, 1);
-  auto* top = new QWidget;
-  top->setLayout(heading);
-  return Titled(top, lines);
+  return Titled(heading, lines);
 }
 
 QWidget* OrderWindow::PickList() {
@@ -173,15 +177,17 @@ void OrderWindow::FollowHistory() {
 }
 
 QWidget* OrderWindow::Foot() {
-  auto* row = Row();
-  AddTotals(*row, {"발주건수", "발주금액", "공 급 가", "부 가 세"});
-  row->addStretch();
+  auto* totals = Row();
+  AddTotals(*totals, {"발주건수", "발주금액", "공 급 가", "부 가 세"});
+  totals->addStretch();
   auto* save = Named("LaBtn_0", new KeyButton("발주편집 저장", Qt::Key_F9));
   auto* confirm = Named("LaBtn_1", new KeyButton("발주확정", QKeySequence(Qt::SHIFT | Qt::Key_F9)));
   confirm->MarkMain();
-  row->addWidget(save);
-  row->addWidget(confirm);
-  return Group("totals", row);
+  auto* buttons = Row();
+  buttons->addStretch();
+  buttons->addWidget(save);
+  buttons->addWidget(confirm);
+  return Group("totals", Alone(Folding(totals, buttons)));
 }
 
 }  // namespace store

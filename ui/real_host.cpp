@@ -20,6 +20,7 @@
 #include "ui/instance_lock.h"
 #include "ui/message_box.h"
 #include "ui/qt_text.h"
+#include "ui/scan_sounds.h"
 #include "ui/serial_port.h"
 
 namespace store {
@@ -97,7 +98,8 @@ void OpenWindows() {
 void OpenWorkstation() {
   Host.ScreenSize = ScreenSize;
   Host.SetPointer = SetPointer;
-  Host.Beep = [] { QApplication::beep(); };
+  Host.Beep = SoundRefused;
+  Host.ScanTaken = SoundTaken;
   Host.DoEvents = [] { TheDesk().LetWindowsPaint(); };
   Host.ShowServer = [](ServerLink link, std::chrono::milliseconds lasted) {
     TheDesk().ShowServer(link, lasted);

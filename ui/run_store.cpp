@@ -17,7 +17,9 @@
 #include "slips/drafts.h"
 #include "start/Main_Start.h"
 #include "start/frmSplash.h"
+#include "ui/accessible_names.h"
 #include "ui/desk.h"
+#include "ui/guide_window.h"
 #include "ui/korean.h"
 #include "ui/program_icon.h"
 #include "ui/real_host.h"
@@ -81,6 +83,7 @@ void PrepareStore(QApplication& application) {
   QGuiApplication::setDesktopFileName(kDesktopFile);
   // Between the login and the main window there are moments without a window.
   QApplication::setQuitOnLastWindowClosed(false);
+  TellKindsOfParts();
   OpenRealHost();
   RegisterStoreWindows();
   RegisterStartForms();
@@ -101,6 +104,7 @@ int RunStore(QApplication& application, const std::string& commandLine) {
   start.Tell("start data and items are there, the board opens");
   if (start.Running()) QuitWhenBoardIsUsable(start);
   const int code = goesOn && !TheDesk().Ending() ? QApplication::exec() : 0;
+  CloseGuide();
   TheDesk().Clear();
   DropAllForms();
   ResetDrafts();

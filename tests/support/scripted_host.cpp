@@ -84,6 +84,7 @@ void ScriptedHost::FillWindows() {
   };
   Host.SetPointer = [this](int pointer) { Pointers.push_back(pointer); };
   Host.Beep = [this] { ++Beeps; };
+  Host.ScanTaken = [this] { ++ScansTaken; };
   Host.DoEvents = [this] {
     ++EventRounds;
     if (DuringEvents) DuringEvents();

@@ -48,6 +48,7 @@ class ScriptedHost {
   std::vector<std::string> FormsClosed;
   std::vector<int> Pointers;  ///< Every pointer set, in order.
   int Beeps = 0;
+  int ScansTaken = 0;
   int EventRounds = 0;  ///< How often pending events were let run.
   /// What happens while pending events run.
   std::function<void()> DuringEvents;

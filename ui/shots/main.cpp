@@ -21,6 +21,7 @@
 #include "ui/shots/director.h"
 #include "ui/shots/handheld_shots.h"
 #include "ui/shots/order_shots.h"
+#include "ui/user_choices.h"
 
 namespace store {
 namespace {
@@ -157,6 +158,8 @@ int main(int argc, char** argv) {
   QCommandLineParser parser;
   parser.addPositionalArgument("DIR", "Where the pictures go.");
   parser.addOption({"size", "Size of the large windows.", "WxH", "1024x768"});
+  parser.addOption({"type", "Size of type: 100, 125 or 150 percent.", "PERCENT", "100"});
+  parser.addOption({"theme", "light or dark.", "THEME", "light"});
   parser.addHelpOption();
   parser.process(application);
   if (parser.positionalArguments().size() != 1) parser.showHelp(2);
@@ -168,6 +171,8 @@ int main(int argc, char** argv) {
   QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, data.path());
   store::PrepareStore(application);
   store::Host.PreviousInstance = [] { return false; };  // a client may be at work meanwhile
+  store::ChooseTypeSize(parser.value("type").toInt());
+  store::ChooseTheme(parser.value("theme") == "dark" ? store::Theme::Dark : store::Theme::Light);
   store::Director director(folder, store::AskedSize(parser.value("size")));
   store::ShootStart(director);
   store::ShootSplash(director);
