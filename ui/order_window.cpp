@@ -16,6 +16,7 @@
 #include "ui/history_chart_view.h"
 #include "ui/key_button.h"
 #include "ui/layout_pieces.h"
+#include "ui/line_undo.h"
 #include "ui/order_left_sides.h"
 #include "ui/progress_panel.h"
 #include "ui/qt_text.h"
@@ -64,11 +65,14 @@ QWidget* OrderWindow::Header() {
 
 void OrderWindow::AddSupplier(QHBoxLayout& row) {
   auto* supplier = Named("Text1", new QLineEdit);
+  auto* recent = Named("Recent", new KeyButton);
   auto* find = Named("LaCTHELP", new KeyButton("찾기"));
+  recent->WriteKey("↓");
   find->WriteKey("F1");
   supplier->setPlaceholderText("상호   /전화   #코드");
   row.addWidget(Named("Label1", CaptionLabel({})));
   row.addWidget(supplier, 3);
+  row.addWidget(recent);
   row.addWidget(find);
 }
 
@@ -128,7 +132,17 @@ QWidget* OrderWindow::Lines() {
   heading->addWidget(refused, 1);
   auto* top = new QWidget;
   top->setLayout(heading);
-  return Titled(top, lines);
+  auto* undo = Row();
+  undo->setContentsMargins(0, 0, 0, 0);
+  AddLineUndo(*this, *undo);
+  undo->addStretch();
+  auto* column = Column();
+  column->setContentsMargins(0, 0, 0, 0);
+  column->addWidget(Titled(top, lines), 1);
+  column->addLayout(undo);
+  auto* widget = new QWidget;
+  widget->setLayout(column);
+  return widget;
 }
 
 QWidget* OrderWindow::PickList() {
