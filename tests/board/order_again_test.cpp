@@ -38,7 +38,7 @@ TEST_F(OrderAgain, ItIsANewOrderAtTodaysPricesAndIsStoredWhenItIsSaved) {
   const std::string before = Whole(kEditing);
   const std::string orders = CountOfOrders();
   Again(kEditing);
-  EXPECT_EQ(OrderLines(), "P0002x1@6000 P0001x10@651 ");
+  EXPECT_EQ(OrderLines(), "P0001x10@651 P0002x1@6000 ");
   EXPECT_EQ(Order().Text1.Text() + Order().Text1.Tag, "한빛새상사C0001");
   EXPECT_EQ(Order().DTOrderDate.Value(), FormatDateValue(Today(), "YYYY-MM-DD"));
   EXPECT_EQ(Order().Combo1.ListIndex(), 0);
@@ -54,11 +54,11 @@ TEST_F(OrderAgain, ItIsANewOrderAtTodaysPricesAndIsStoredWhenItIsSaved) {
   EXPECT_EQ(Whole(kEditing), before);
   EXPECT_EQ(Value("SELECT GROUP_CONCAT(PR_CODE,'x',ROUND(PS_SQTY),'@',ROUND(PS_UP) ORDER BY PS_NO) "
                   "FROM PSM22 WHERE PE_ID=(SELECT MAX(PE_ID) FROM PEM22)"),
-            "P0002x1@6000,P0001x10@651");
+            "P0001x10@651,P0002x1@6000");
 }
 
 TEST_F(OrderAgain, WhatIsNoLongerToBeHadIsToldInOneBox) {
-  Sql("UPDATE PSM22 SET PE_ID='" + kEditing +
+  Sql("UPDATE PSM22 SET PS_NO=9,PE_ID='" + kEditing +
       "' WHERE PE_ID LIKE '20240510%'; INSERT INTO PSM22 (PE_ID,PS_NO,PS_DATE,PR_CODE,PR_NAME,"
       "PS_SQTY,PS_UP) VALUES ('" +
       kEditing + "',3,'2024-05-17','P0006','옛날간장',4,1),('" + kEditing +
@@ -71,7 +71,7 @@ TEST_F(OrderAgain, WhatIsNoLongerToBeHadIsToldInOneBox) {
     std::vector<std::string> told;
   } cases[] = {
       {0,
-       "P0002x1@6000 P0001x20@700 P0004x6@5500 ",  // P0001 stood there twice
+       "P0002x1@6000 P0004x6@5500 P0001x20@700 ",  // P0001 stood there twice
        {"[P0006] 옛날간장  4   판매 종료", "[P0008] 힘찬세제  5   단가 없음"}},
       {1,
        "P0002x1@6000 P0001x20@700 ",
@@ -108,10 +108,10 @@ TEST_F(OrderAgain, EachTypeTakesIt) {
     std::int16_t type;
     std::int16_t setUpOnly;
     const char* lines;
-  } cases[] = {{0, 0, "P0002x1@4800 P0001x10@0 "},
-               {1, 1, "P0002x1@4800 P0001x10@0 "},
-               {2, 1, "P0002x1@4800 P0001x10@0 "},
-               {3, 1, "P0002x1@4800 P0001x10@0 "}};
+  } cases[] = {{0, 0, "P0001x10@0 P0002x1@4800 "},
+               {1, 1, "P0001x10@0 P0002x1@4800 "},
+               {2, 1, "P0001x10@0 P0002x1@4800 "},
+               {3, 1, "P0001x10@0 P0002x1@4800 "}};
   AppOptions.BulkOrderPrice = "5";
   AppOptions.OrderZeroPrice = 1;
   for (const auto& c : cases) {
@@ -122,7 +122,7 @@ TEST_F(OrderAgain, EachTypeTakesIt) {
     EXPECT_EQ(host.FormsShown.back(), ChosenOrderType().FormName);
     EXPECT_EQ(OrderLines(), c.lines);
     EXPECT_EQ(Order().Text1.Tag, "C0001");
-    EXPECT_EQ(Order().FLEX1.TextMatrix(2, order_line::Unit), c.type == 3 ? "20" : "");
+    EXPECT_EQ(Order().FLEX1.TextMatrix(1, order_line::Unit), c.type == 3 ? "20" : "");
     host.ExpectBox("발주가 정상적으로 처리되었습니다.", box::No);
     Order().LaBtn_Click(0);
     ReleaseDroppedForms();
@@ -143,7 +143,7 @@ TEST_F(OrderAgain, AnOrderToSeveralSuppliersGoesWhereOneCanBeWritten) {
   AppOptions.BulkOrderPrice = "5";
   AppOptions.OrderInfoPartnersOnly = 1;
   Again(kEditing);
-  EXPECT_EQ(OrderLines(), "P0002x1@4800 P0001x10@640 ");
+  EXPECT_EQ(OrderLines(), "P0001x10@640 P0002x1@4800 ");
   EXPECT_EQ(Order().Text1.Text() + Order().Text1.Tag, "");
 }
 
@@ -183,7 +183,7 @@ TEST_F(OrderAgain, PricesThatCannotBeReadLeaveAnEmptyOrder) {
   Leave();
   EXPECT_EQ(Shown(), "");
   Again(kEditing);
-  EXPECT_EQ(OrderLines(), "P0002x1@6000 P0001x10@700 ");
+  EXPECT_EQ(OrderLines(), "P0001x10@700 P0002x1@6000 ");
 }
 
 TEST_F(OrderAgain, AnOrderAtWorkStandsBeforeIt) {
