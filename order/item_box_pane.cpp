@@ -199,8 +199,10 @@ void ItemBoxPane::NoteRefused(const std::string& code, const std::string& reason
   ShowRefused();
 }
 
-void ItemBoxPane::ForgetRefused() {
-  refused_.clear();
+void ItemBoxPane::ForgetRefused() { SetRefused({}); }
+
+void ItemBoxPane::SetRefused(std::vector<std::string> refused) {
+  refused_ = std::move(refused);
   ShowRefused();
 }
 

@@ -60,6 +60,7 @@ OrderForm::OrderForm(const OrderTypeChoices& choices)
   Text4.SetText("2002-08-08");
   PublishControls();
   ConnectPanes();
+  ConnectHistory();
   TabOrder = {&DTOrderDate, &Combo1, &Text1, &inBox, &FLEX1, &FLEX2};
 }
 
@@ -91,16 +92,17 @@ void OrderForm::PublishControls() {
 
 void OrderForm::ConnectPanes() {
   SupplierChanged = [this] {
-    draft_.ForgetRefused();
-    ClearLines();
-    ForgetRefused();
-    inHand_.PutAside();
+    if (history_.IsMoving()) return;  // its lines come back with it
+    NoteSupplierStep();
+    SupplierSeen();
   };
   LinesChanged = [this] { NoteDraft(); };
   Combo1.Click = [this] { NoteDraft(); };
   FollowSupplier = [this](ItemListMoment moment) {
     const Hourglass waiting;
     ReadSupplierScope(moment);
+    NoteRecent();
+    SupplierSeen();
   };
   ItemLookup.Click = [this] {
     lookingUp_ = true;
@@ -125,6 +127,10 @@ void OrderForm::ConnectPanes() {
 
 void OrderForm::ReadSupplierScope(ItemListMoment moment) {
   ReadItemList(moment);
+  ShowSupplierScope();
+}
+
+void OrderForm::ShowSupplierScope() {
   if (FillLeftSide) FillLeftSide();
   // Whatever is chosen beside it anew, the pick list starts empty.
   FLEX2.SetRows(1);
@@ -167,6 +173,7 @@ void OrderForm::Activate() {
 }
 
 void OrderForm::ResetOrderForm() {
+  history_.End();
   ForgetRefused();
   FLEX1.SetRows(1);
   Text1.SetText("");
@@ -175,6 +182,7 @@ void OrderForm::ResetOrderForm() {
   LaSatae.Caption.clear();
   GiveTodaysDate();
   for (Label& amount : LaAmt) amount.Caption = "0";
+  ShowRecent();
 }
 
 void OrderForm::GiveTodaysDate() {
@@ -242,6 +250,7 @@ void OrderForm::SetOrderEditable(std::int16_t editable) {
                                        &ItemLookup, &FLEX2, &LaBtn[0], &LaBtn[1]}) {
     control->Enabled = enabled;
   }
+  ShowRecent();
 }
 
 bool OrderForm::KeyDown(Key key) {

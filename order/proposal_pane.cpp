@@ -1,5 +1,7 @@
 #include "order/proposal_pane.h"
 
+#include <utility>
+
 #include "basics/dates.h"
 #include "basics/numbers.h"
 #include "basics/records.h"
@@ -76,7 +78,7 @@ double ValueAt(const Grid& grid, int row, int col) {
 
 ProposalPane::ProposalPane(Form& form, const SupplierPane& supplier, PickListPane& pickList,
                            ProgressPane& progress)
-    : supplier_(supplier), picks_(pickList.FLEX2), progress_(progress) {
+    : supplier_(supplier), pickList_(pickList), picks_(pickList.FLEX2), progress_(progress) {
   TabOne1.Captions = {"판매량", "적정재고"};
   TabOne1.CurrTab = 0;
   TabOne1.Click = [this](int tab) { LaOrder_Click(tab); };
@@ -201,11 +203,15 @@ void RecalcShortage(Grid& picks, int row) {
 void ProposalPane::Text3_KeyPress(Key key) {
   if (key != Key::Enter) return;
   const double times = ParseGrouped(Text3.Text());
+  std::vector<PickCell> cells;
   for (int row = 1; row < picks_.Rows(); ++row) {
+    const std::vector<std::string> before = PickRowCells(picks_, row);
     picks_.SetTextMatrix(row, proposal::Base,
                          NumberText(times * ValueAt(picks_, row, proposal::Fetched)));
     RecalcShortage(picks_, row);
+    AddChangedCells(picks_, row, before, cells);
   }
+  pickList_.TellCellsChanged(std::move(cells));
 }
 
 void ProposalPane::Check2_Click() {

@@ -71,6 +71,7 @@ void frm_PE_UNIT::PublishControls() {
     inBox_KeyDown(key);
     inBox_KeyPress(key);
   };
+  inBox.Scan = [this](const std::string& code) { inBox_Scan(code); };
   FLEX1.KeyDown = [this](Key key) { FLEX1_KeyDown(key); };
   FLEX1.OwnKeys = {Key::F12};
   Command1[1].Click = [this] { Command1_Click(1); };
@@ -180,7 +181,8 @@ void frm_PE_UNIT::FLEX1_KeyDown(Key key) {
 }
 
 void frm_PE_UNIT::inBox_KeyPress(Key key) {
-  if (key == Key::Enter && FLEX1.Row() >= 1) AcceptReceivedQty(FLEX1.Row());
+  if (key != Key::Enter || TakesCode(Trim(inBox.Text()))) return;
+  if (FLEX1.Row() >= 1) AcceptReceivedQty(FLEX1.Row());
 }
 
 void frm_PE_UNIT::AcceptReceivedQty(int row) {

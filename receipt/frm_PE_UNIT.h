@@ -58,6 +58,9 @@ class frm_PE_UNIT : public SlipForm, public LinesPane {
   void DTPicker1_Change();
   void FLEX1_KeyDown(Key key);
   void inBox_KeyPress(Key key);
+  /// A scanner has sent the barcode or the code of a product: the keyboard goes to its line. One
+  /// that is not on the slip is told.
+  void inBox_Scan(const std::string& code);
   void Command1_Click(int index);
   void Label4_Click();
 
@@ -69,6 +72,10 @@ class frm_PE_UNIT : public SlipForm, public LinesPane {
   void LoadReceiptHeader();
   void LoadReceiptLine();
   void AcceptReceivedQty(int row);
+  bool GoToLineOf(const std::string& code);
+  int NextLineOf(const std::string& code) const;
+  void TellNotOnSlip(const std::string& code) const;
+  bool TakesCode(const std::string& entry);
 
   void ValidateReceipt(std::int16_t& valid);
   void FillHeader();

@@ -41,6 +41,7 @@ MenuLines FileLines(FormWindow& window, frm_Start& board) {
           OfButton(window, "Image1_1"),
           {"전표 열기\tEnter", [&] { window.Act([&] { board.FLEX1_DblClick(); }); },
            [&] { return !board.SelectedSlipId.empty(); }},
+          OfButton(window, "LaAgain"),
           OfButton(window, "LaDraft", "쓰던 전표"),
           Border(),
           OfButton(window, "Label5_1"),

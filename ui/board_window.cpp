@@ -95,6 +95,7 @@ QWidget* BoardWindow::Actions() {
   add(1, QKeySequence(Qt::SHIFT | Qt::Key_F2));
   add(4, Qt::Key_F8);
   row->addWidget(Named("HandheldMenu", new KeyButton({}, Qt::Key_F7)));
+  row->addWidget(Named("LaAgain", new KeyButton({}, Qt::Key_F6)));
   row->addStretch();
   return Folding(row, SlipFinder());
 }

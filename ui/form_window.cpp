@@ -219,6 +219,7 @@ bool FormWindow::KeyPressed(const QKeyEvent& event, QWidget& at) {
 
   const bool walks = key == Key::Up || key == Key::Down || key == Key::Delete || key == Key::Tab;
   if (key != Key::None && event.isAutoRepeat() && !walks) return true;  // a key that was held down
+  if (ScanTakes(event, at)) return true;
 
   if (key != Key::None) {
     bool used = false;
@@ -231,6 +232,16 @@ bool FormWindow::KeyPressed(const QKeyEvent& event, QWidget& at) {
     }
   }
   return ShortcutTakes(event) || gone_;
+}
+
+/// A scanner's code, with its Enter, goes to a box that asks for codes.
+bool FormWindow::ScanTakes(const QKeyEvent& event, const QWidget& at) {
+  const QString code = scan_.Take(event);
+  const Binding* binding = code.isEmpty() ? nullptr : BindingAt(at);
+  const auto* box = binding == nullptr ? nullptr : dynamic_cast<TextBox*>(&binding->Bound());
+  if (box == nullptr || !box->Enabled || !box->Scan) return false;
+  Act([&] { box->Scan(FromQt(code)); });
+  return true;
 }
 
 bool FormWindow::ShortcutTakes(const QKeyEvent& event) {

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "forms/form.h"
+#include "ui/scan_run.h"
 #include "ui/window_layout.h"
 
 class QEventLoop;
@@ -82,6 +83,7 @@ class FormWindow : public QWidget {
   void QueueActivate();
   bool InOpenCell(const QWidget& at) const;
   void ChainTabOrder();
+  bool ScanTakes(const QKeyEvent& event, const QWidget& at);
   bool ShortcutTakes(const QKeyEvent& event);
   void FollowTitle();
   /// At the page that is about this window.
@@ -94,6 +96,7 @@ class FormWindow : public QWidget {
   std::vector<std::function<void()>> syncs_;
   std::vector<std::pair<QKeySequence, std::function<void()>>> shortcuts_;
   std::vector<GridView*> grids_;
+  ScanRun scan_;
   QEventLoop* loop_ = nullptr;
   unsigned focusSeen_ = 0;
   bool named_ = false;

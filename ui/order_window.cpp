@@ -16,6 +16,7 @@
 #include "ui/history_chart_view.h"
 #include "ui/key_button.h"
 #include "ui/layout_pieces.h"
+#include "ui/line_undo.h"
 #include "ui/order_left_sides.h"
 #include "ui/progress_panel.h"
 #include "ui/qt_text.h"
@@ -66,11 +67,14 @@ QWidget* OrderWindow::Header() {
 
 void OrderWindow::AddSupplier(QHBoxLayout& row) {
   auto* supplier = Named("Text1", new QLineEdit);
+  auto* recent = Named("Recent", new KeyButton);
   auto* find = Named("LaCTHELP", new KeyButton("찾기"));
+  recent->WriteKey("↓");
   find->WriteKey("F1");
   supplier->setPlaceholderText("상호   /전화   #코드");
   row.addWidget(Named("Label1", CaptionLabel({})));
   row.addWidget(supplier, 3);
+  row.addWidget(recent);
   row.addWidget(find);
 }
 
@@ -132,7 +136,17 @@ QWidget* OrderWindow::Lines() {
   auto* heading = Row();
   heading->addWidget(HeadingLabel("발주 내역   (Del 행 삭제,  Ctrl+G 규격)"));
   heading->addWidget(refused, 1);
-  return Titled(heading, lines);
+  auto* undo = Row();
+  undo->setContentsMargins(0, 0, 0, 0);
+  AddLineUndo(*this, *undo);
+  undo->addStretch();
+  auto* column = Column();
+  column->setContentsMargins(0, 0, 0, 0);
+  column->addWidget(Titled(heading, lines), 1);
+  column->addLayout(undo);
+  auto* widget = new QWidget;
+  widget->setLayout(column);
+  return widget;
 }
 
 QWidget* OrderWindow::PickList() {

@@ -13,6 +13,7 @@
 #include "ui/grid_view.h"
 #include "ui/key_button.h"
 #include "ui/layout_pieces.h"
+#include "ui/line_undo.h"
 #include "ui/style.h"
 
 namespace store {
@@ -64,6 +65,7 @@ QWidget* ReceiptWindow::QuantityBox() {
   row->setContentsMargins(0, 0, 0, 0);
   row->addWidget(box);
   row->addWidget(CaptionLabel("↑ ↓ 로 행을 고르고 입고량을 넣은 뒤 Enter      Del 행 삭제"));
+  AddLineUndo(*this, *row);
   row->addSpacing(kGap);
   row->addWidget(Named("LaSheet", new ElidedLabel), 1);
   auto* line = new QWidget;

@@ -16,7 +16,7 @@ class ReceiptWindow : public FormWindow {
 
  private:
   static QWidget* Header();
-  static QWidget* QuantityBox();
+  QWidget* QuantityBox();
   QWidget* Foot();
 
   frm_PE_UNIT& receipt_;
