@@ -77,6 +77,10 @@ class frm_Start : public MainWindow {
   void HandheldMenu_Click(int entry);
   void LaDraft_Click();
   void LaDeleted_Click();
+  /// Prints the selected slip, or what has been received on it.
+  void PrintSelected();
+  /// Prints what was received on the order that was opened for receipt last.
+  void PrintLastReceipt();
   void FLEX0_RowColChange();
   void FLEX0_DblClick();
   void FLEX1_Click();
@@ -100,6 +104,7 @@ class frm_Start : public MainWindow {
   void SelectSlip();
   void OpenSlip(const std::string& slipId, const std::string& stateWord);
   void OpenReceipt(const std::string& slipId);
+  void ShowReceipt(SlipForm& receipt);
   void NewOrder(int buttonIndex);
   void DeleteOrRevert();
   void FindSlip();
@@ -123,6 +128,7 @@ class frm_Start : public MainWindow {
 
   Place place_;
   bool activated_ = false;
+  std::string lastForReceipt_;  // the order
 };
 
 /// Makes the board known by its name.

@@ -6,6 +6,7 @@
 #include "basics/text.h"
 #include "forms/host.h"
 #include "gateway/gateway.h"
+#include "gateway/stoppable_reads.h"
 #include "order/stock_list.h"
 
 namespace store {
@@ -178,9 +179,12 @@ std::string ProposalPane::SafetyProposal() const {
 }
 
 void ProposalPane::FillProposal(const std::string& statement) {
+  const StoppableReads mayBeStopped;
   SqlText = statement;
   OpenRecordset(SlotA, SqlText);
   const ItemSums stock = ReadStock();
+  // Against a stock that nobody could read, everything on the shelves would be ordered once more.
+  if (!stock.WasRead()) CloseRecordset(SlotA);
   picks_.Redraw = false;
   progress_.ShowProgress(RecordCountOf(SlotA));
   ForEachRow(SlotA, [&] {
