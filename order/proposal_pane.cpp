@@ -59,6 +59,14 @@ std::string SafetyStatement(const std::string& condition) {
       "store"_a = Session.StoreCode, "condition"_a = condition);
 }
 
+/// Reads the items into `SlotA`, and the stock that they are held against.
+ItemSums ReadProposal(const std::string& statement) {
+  const StoppableReads mayBeStopped;
+  SqlText = statement;
+  OpenRecordset(SlotA, SqlText);
+  return ReadStock();
+}
+
 /// The cells of the current record of `SlotA`, tab-joined.
 std::string ProposalRow(const ItemSums& stockOfItems) {
   std::string row;
@@ -179,10 +187,7 @@ std::string ProposalPane::SafetyProposal() const {
 }
 
 void ProposalPane::FillProposal(const std::string& statement) {
-  const StoppableReads mayBeStopped;
-  SqlText = statement;
-  OpenRecordset(SlotA, SqlText);
-  const ItemSums stock = ReadStock();
+  const ItemSums stock = ReadProposal(statement);
   // Against a stock that nobody could read, everything on the shelves would be ordered once more.
   if (!stock.WasRead()) CloseRecordset(SlotA);
   picks_.Redraw = false;

@@ -14,6 +14,7 @@
 #include "handheld/frmProperties.h"
 #include "lookup/HELP_BPR.h"
 #include "lookup/NEW_PR.h"
+#include "lookup/frmPrint.h"
 #include "lookup/party_lookups.h"
 #include "order/frm_Order.h"
 #include "order/frm_Order01.h"
@@ -57,6 +58,7 @@ TEST_F(WindowsTest, EveryControlThatAFormPublishesHasItsWidget) {
   forms.push_back(std::make_unique<frm_Order03>());
   forms.push_back(std::make_unique<frm_OrderPLU>());
   forms.push_back(std::make_unique<frm_PE_UNIT>());
+  forms.push_back(std::make_unique<frmPrint>());
   forms.push_back(std::make_unique<FRM_CRDIMP>());
   forms.push_back(std::make_unique<FRM_DT900_01>());
   forms.push_back(std::make_unique<DT9RECEV>());

@@ -22,6 +22,7 @@ class LockedOrders {
         }) {
     while (DemoValue("SELECT COUNT(*) FROM information_schema.PROCESSLIST WHERE INFO LIKE "
                      "'DO SLEEP%'") == "0") {
+      std::this_thread::sleep_for(std::chrono::milliseconds(20));
     }
   }
   ~LockedOrders() { works_.join(); }
