@@ -6,6 +6,7 @@
 
 #include "basics/dates.h"
 #include "basics/numbers.h"
+#include "basics/text.h"
 #include "forms/counted_work.h"
 #include "forms/host.h"
 #include "lookup/new_document.h"
@@ -74,7 +75,7 @@ void ExportGrid(const Grid& grid, const std::string& window, Label& where) {
   {
     const Hourglass waiting;
     const std::string path =
-        NewDocument(window + FormatDateValue(Host.Now(), "_YYYY-MM-DD_HHNN"), ".xlsx");
+        NewDocument(Trim(window) + FormatDateValue(Host.Now(), "_YYYY-MM-DD_HHNN"), ".xlsx");
     written = WriteWorkbook(grid, path);
     if (written) where.Caption = "엑셀 저장: " + path;
     opened = written && Host.OpenAddress(path);

@@ -93,7 +93,8 @@ std::optional<PrintedSlip> ReadSlip(bool isReceipt, const std::string& statement
   const Hourglass waiting;
   const RecordsetSlot rows = FetchRecordset(statement);
   if (!rows) return std::nullopt;
-  PrintedSlip slip{.IsReceipt = isReceipt};
+  PrintedSlip slip;
+  slip.IsReceipt = isReceipt;
   if (!AtEof(rows)) TakeHeader(rows, slip);
   ForEachRow(rows, [&] { TakeLine(rows, slip); });
   return slip;

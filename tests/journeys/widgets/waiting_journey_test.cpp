@@ -63,14 +63,18 @@ class WaitingJourney : public Journey {};
 
 TEST_F(WaitingJourney, EscStopsARefreshOfTheBoard) {
   ASSERT_NO_FATAL_FAILURE(Start("u01,1111"));
+  const auto slips = [this] { return Hands::Rows(Board(), "FLEX1", {kSlipIdColumn}); };
+  Hands::Press(Board(), Qt::Key_4, Qt::AltModifier);
+  ASSERT_TRUE(Hands::Wait([&] { return slips().size() > 3; }));
+  const auto before = slips();
   {
     const LockedOrders locked(5);
     const PressesEsc hand;
-    Hands::Press(Board(), Qt::Key_4, Qt::AltModifier);
+    Hands::Press(Board(), Qt::Key_F5);
     EXPECT_TRUE(hand.Pressed());
     EXPECT_TRUE(hand.Remark().contains("Esc 중지")) << hand.Remark().toStdString();
     EXPECT_NE(Hands::TextOf(Board(), "LaRead").find("조회를 중지했습니다"), std::string::npos);
-    EXPECT_TRUE(Hands::Rows(Board(), "FLEX1", {kSlipIdColumn}).empty());
+    EXPECT_TRUE(slips().empty());
     EXPECT_EQ(Board().findChild<QWidget*>("WaitPanel"), nullptr);
     EXPECT_EQ(DemoValue("SELECT COUNT(*) FROM information_schema.PROCESSLIST WHERE INFO LIKE "
                         "'DO SLEEP%'"),
@@ -78,7 +82,7 @@ TEST_F(WaitingJourney, EscStopsARefreshOfTheBoard) {
         << "the wait itself has gone on";
   }
   Hands::Press(Board(), Qt::Key_F5);
-  EXPECT_FALSE(Hands::Rows(Board(), "FLEX1", {kSlipIdColumn}).empty());
+  EXPECT_EQ(slips(), before);
 }
 
 TEST_F(WaitingJourney, EscDoesNotStopASave) {
