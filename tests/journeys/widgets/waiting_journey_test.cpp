@@ -1,37 +1,21 @@
 // The database is slow, and a person presses Esc: a search is given up, a save is not.
 #include <QLabel>
 #include <QtTest>
-#include <thread>
+#include <string>
 
 #include "order/order_form.h"
 #include "tests/journeys/widgets/journey.h"
 #include "tests/journeys/widgets/journey_checks.h"
-#include "tests/support/private_server.h"
+#include "tests/support/somebody.h"
 #include "ui/desk.h"
 
 namespace store {
 namespace {
 
 /// Somebody's long work on the orders, which nobody can read or write meanwhile.
-class LockedOrders {
- public:
-  explicit LockedOrders(int seconds)
-      : works_([seconds] {
-          TestServer().Sql("demo", "LOCK TABLES PEM22 WRITE, PSM22 WRITE; DO SLEEP(" +
-                                       std::to_string(seconds) + ")");
-        }) {
-    while (DemoValue("SELECT COUNT(*) FROM information_schema.PROCESSLIST WHERE INFO LIKE "
-                     "'DO SLEEP%'") == "0") {
-      std::this_thread::sleep_for(std::chrono::milliseconds(20));
-    }
-  }
-  ~LockedOrders() { works_.join(); }
-  LockedOrders(const LockedOrders&) = delete;
-  LockedOrders& operator=(const LockedOrders&) = delete;
-
- private:
-  std::thread works_;
-};
+std::string LockedFor(int seconds) {
+  return "LOCK TABLES PEM22 WRITE, PSM22 WRITE; DO SLEEP(" + std::to_string(seconds) + ")";
+}
 
 /// Presses Esc, as the window system brings it, when the panel of the wait has stood for a moment.
 class PressesEsc {
@@ -68,7 +52,7 @@ TEST_F(WaitingJourney, EscStopsARefreshOfTheBoard) {
   ASSERT_TRUE(Hands::Wait([&] { return slips().size() > 3; }));
   const auto before = slips();
   {
-    const LockedOrders locked(5);
+    const Somebody locked(LockedFor(5), "demo");
     const PressesEsc hand;
     Hands::Press(Board(), Qt::Key_F5);
     EXPECT_TRUE(hand.Pressed());
@@ -96,7 +80,7 @@ TEST_F(WaitingJourney, EscDoesNotStopASave) {
   Hands::Type(order, "7");
   Hands::Press(order, Qt::Key_Return);
   {
-    const LockedOrders locked(4);
+    const Somebody locked(LockedFor(4), "demo");
     const PressesEsc hand;
     ASSERT_NO_FATAL_FAILURE(Save({}));
     EXPECT_TRUE(hand.Pressed());
