@@ -81,6 +81,10 @@ class frm_Start : public MainWindow {
   /// A new order of what the selected slip orders, at the prices of today. The slip stays as it is,
   /// and nothing is stored before the new order is.
   void LaAgain_Click();
+  /// Prints the selected slip, or what has been received on it.
+  void PrintSelected();
+  /// Prints what was received on the order that was opened for receipt last.
+  void PrintLastReceipt();
   void FLEX0_RowColChange();
   void FLEX0_DblClick();
   void FLEX1_Click();
@@ -104,6 +108,7 @@ class frm_Start : public MainWindow {
   void SelectSlip();
   void OpenSlip(const std::string& slipId, const std::string& stateWord);
   void OpenReceipt(const std::string& slipId);
+  void ShowReceipt(SlipForm& receipt);
   void NewOrder(int buttonIndex);
   void DeleteOrRevert();
   void FindSlip();
@@ -127,6 +132,7 @@ class frm_Start : public MainWindow {
 
   Place place_;
   bool activated_ = false;
+  std::string lastForReceipt_;  // the order
 };
 
 /// Makes the board known by its name.

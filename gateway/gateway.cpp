@@ -7,6 +7,7 @@
 #include "basics/records.h"
 #include "forms/host.h"
 #include "gateway/check.h"
+#include "gateway/stoppable_reads.h"
 
 namespace store {
 
@@ -39,15 +40,18 @@ class ServerCall {
  public:
   ~ServerCall() {
     Calling = false;
-    Host.ShowServer(ServerObject->Reached() ? ServerLink::Connected : ServerLink::Lost,
-                    std::chrono::duration_cast<std::chrono::milliseconds>(
-                        std::chrono::steady_clock::now() - start_));
+    Host.ShowServer(Link(), std::chrono::duration_cast<std::chrono::milliseconds>(
+                                std::chrono::steady_clock::now() - start_));
   }
   ServerCall() { Check(!std::exchange(Calling, true), "no call to the server within another one"); }
   ServerCall(const ServerCall&) = delete;
   ServerCall& operator=(const ServerCall&) = delete;
 
  private:
+  static ServerLink Link() {
+    if (ServerObject->Stopped()) return ServerLink::Stopped;
+    return ServerObject->Reached() ? ServerLink::Connected : ServerLink::Lost;
+  }
   const std::chrono::steady_clock::time_point start_ = std::chrono::steady_clock::now();
 };
 
@@ -68,8 +72,14 @@ bool IsWhole(const std::string& statement) {
 
 RecordsetSlot Read(const std::string& statement) {
   if (!IsWhole(statement)) return nullptr;
+  if (StoppableReads::Stopped()) {
+    LastErrorText = kReadStopped;
+    return nullptr;
+  }
   const ServerCall call;
-  return ServerObject->GETSQL(statement, LastErrorText, ConnectString);
+  RecordsetSlot rows = ServerObject->GETSQL(statement, LastErrorText, ConnectString);
+  if (ServerObject->Stopped()) StoppableReads::NoteStopped();
+  return rows;
 }
 
 }  // namespace
@@ -148,6 +158,7 @@ std::string QueryText(const std::string& statement, const std::string& otherwise
 }
 
 std::int16_t ExecuteBatch(const std::vector<std::string>& statements) {
+  Check(!StoppableReads::Allowed(), "no batch where reads may be stopped");
   MakeServerObject();
   BatchInDoubt = false;
   if (!ServerObject || !std::all_of(statements.begin(), statements.end(), IsWhole)) return 0;

@@ -7,6 +7,7 @@
 #include "basics/whole_file.h"
 #include "forms/host.h"
 #include "gateway/gateway.h"
+#include "gateway/stoppable_reads.h"
 #include "handheld/wire/master_line.h"
 
 namespace store {
@@ -134,9 +135,14 @@ void FRM_CRDIMP::BuildMasterFile(std::int16_t& written) {
               box::Critical, "크래들 IMPORT");
 }
 
+RecordsetSlot FRM_CRDIMP::FetchProducts() const {
+  const StoppableReads mayBeStopped;
+  return FetchRecordset(MasterStatement());
+}
+
 bool FRM_CRDIMP::WriteProducts(std::string& refusal) {
   const Hourglass waiting;
-  const RecordsetSlot products = FetchRecordset(MasterStatement());
+  const RecordsetSlot products = FetchProducts();
   // An empty file would take the terminal's products away.
   if (AtEof(products)) return false;
   const int count = products->RecordCount();

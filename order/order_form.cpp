@@ -10,6 +10,8 @@
 #include "forms/host.h"
 #include "forms/open_forms.h"
 #include "gateway/gateway.h"
+#include "gateway/stoppable_reads.h"
+#include "lookup/print_slip.h"
 #include "order/frm_Order.h"
 #include "order/frm_Order01.h"
 #include "order/frm_Order02.h"
@@ -126,12 +128,18 @@ void OrderForm::ConnectPanes() {
 }
 
 void OrderForm::ReadSupplierScope(ItemListMoment moment) {
-  ReadItemList(moment);
+  {
+    const StoppableReads mayBeStopped;
+    ReadItemList(moment);
+  }
   ShowSupplierScope();
 }
 
 void OrderForm::ShowSupplierScope() {
-  if (FillLeftSide) FillLeftSide();
+  if (FillLeftSide) {
+    const StoppableReads mayBeStopped;
+    FillLeftSide();
+  }
   // Whatever is chosen beside it anew, the pick list starts empty.
   FLEX2.SetRows(1);
   NoteDraft();
@@ -140,6 +148,7 @@ void OrderForm::ShowSupplierScope() {
 void OrderForm::ReadItemList(ItemListMoment moment) {
   if (AppOptions.OrderInfoPartnersOnly != 1) return;
   const RecordsetSlot before = SlotC;
+  const StoppableReads mayBeStopped;
   choices_.ReadItems(moment, Text1.Tag);
   if (SlotC == before) return;  // this moment asks for no list
   itemList_ = SlotC;
@@ -286,6 +295,19 @@ void OrderForm::Label5_Click(int index) {
     if (MainWindow* board = TheMainWindow()) Host.Hide(*board);
     Host.Minimize(*this);
   }
+}
+
+void OrderForm::PrintStored() {
+  if (SlipId.empty()) {
+    Host.MsgBox("저장한 전표만 인쇄할 수 있습니다.\r먼저 저장하세요.", box::Critical, "인쇄");
+    return;
+  }
+  if (HoldsWork() &&
+      Host.MsgBox("저장하지 않은 내용은 인쇄되지 않습니다.\r저장된 전표를 인쇄하시겠습니까?",
+                  box::Question + box::YesNo, "인쇄") != box::Yes) {
+    return;
+  }
+  PrintSlip(SlipId);
 }
 
 void OrderForm::Unload() {

@@ -60,6 +60,8 @@ class OrderForm : public SlipForm,
   void Image1_Click(int index);
   void Image5_Click();
   void Command2_Click();
+  /// Prints the stored slip; what is not saved yet is not on it.
+  void PrintStored();
 
  protected:
   explicit OrderForm(const OrderTypeChoices& choices);

@@ -8,6 +8,7 @@
 #include "basics/text.h"
 #include "forms/host.h"
 #include "gateway/gateway.h"
+#include "gateway/stoppable_reads.h"
 #include "order/stock_list.h"
 
 namespace store {
@@ -58,6 +59,14 @@ std::string SafetyStatement(const std::string& condition) {
       "LEFT JOIN KIND ON LEFT(PR.KD_ID,3) = LEFT(KIND.KD_ID,3) AND KIND.KD_LVL = '1'  WHERE "
       "SAFEIV.RCT_CODE = '{store}' {condition} ORDER BY KIND.KD_NAME,PR.PR_NAME ",
       "store"_a = Session.StoreCode, "condition"_a = condition);
+}
+
+/// Reads the items into `SlotA`, and the stock that they are held against.
+ItemSums ReadProposal(const std::string& statement) {
+  const StoppableReads mayBeStopped;
+  SqlText = statement;
+  OpenRecordset(SlotA, SqlText);
+  return ReadStock();
 }
 
 /// The cells of the current record of `SlotA`, tab-joined.
@@ -180,9 +189,9 @@ std::string ProposalPane::SafetyProposal() const {
 }
 
 void ProposalPane::FillProposal(const std::string& statement) {
-  SqlText = statement;
-  OpenRecordset(SlotA, SqlText);
-  const ItemSums stock = ReadStock();
+  const ItemSums stock = ReadProposal(statement);
+  // Against a stock that nobody could read, everything on the shelves would be ordered once more.
+  if (!stock.WasRead()) CloseRecordset(SlotA);
   picks_.Redraw = false;
   progress_.ShowProgress(RecordCountOf(SlotA));
   ForEachRow(SlotA, [&] {

@@ -3,6 +3,7 @@
 #include "basics/text.h"
 #include "forms/host.h"
 #include "gateway/gateway.h"
+#include "gateway/stoppable_reads.h"
 #include "lookup/party_lookups.h"
 #include "order/recent_suppliers.h"
 #include "slips/order_suppliers.h"
@@ -57,7 +58,10 @@ void SupplierPane::FindSupplier(TextBox& box, std::int16_t& found) {
   StringTable suppliers;
   std::int32_t rows = 0;
   std::int32_t highestColumn = 0;
-  QueryRows(SqlText, suppliers, rows, highestColumn);
+  {
+    const StoppableReads mayBeStopped;
+    QueryRows(SqlText, suppliers, rows, highestColumn);
+  }
   if (rows == 1) {
     TakeSupplier(box, suppliers.At(1, 0), suppliers.At(1, 1));
   } else {

@@ -11,6 +11,7 @@
 #include "forms/open_forms.h"
 #include "gateway/gateway.h"
 #include "lookup/export_grid.h"
+#include "lookup/print_slip.h"
 #include "slips/depot_choice.h"
 #include "slips/draft_fate.h"
 #include "slips/item_list.h"
@@ -143,6 +144,8 @@ void frm_PE_UNIT::DTPicker1_Change() {
 }
 
 void frm_PE_UNIT::Label4_Click() { Close(); }
+
+void frm_PE_UNIT::PrintStored() { PrintSlip(SlipId); }
 
 // What the confirmation will be held against is read before the lines: a change in between then
 // stops it.

@@ -63,6 +63,8 @@ class frm_PE_UNIT : public SlipForm, public LinesPane {
   void inBox_Scan(const std::string& code);
   void Command1_Click(int index);
   void Label4_Click();
+  /// Prints the order as it is stored, or what has been received on it.
+  void PrintStored();
 
  private:
   void SetUpGrid();

@@ -44,6 +44,11 @@ MenuLines FileLines(FormWindow& window, frm_Start& board) {
           OfButton(window, "LaAgain"),
           OfButton(window, "LaDraft", "쓰던 전표"),
           Border(),
+          {"선택전표 인쇄\tCtrl+P", [&] { window.Act([&] { board.PrintSelected(); }); },
+           [&] { return !board.SelectedSlipId.empty(); }},
+          {"방금 입고한 전표 인쇄\tCtrl+Shift+P",
+           [&] { window.Act([&] { board.PrintLastReceipt(); }); }},
+          Border(),
           OfButton(window, "Label5_1"),
           OfButton(window, "Label5_0")};
 }

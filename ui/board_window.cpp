@@ -65,6 +65,10 @@ BoardWindow::BoardWindow(frm_Start& form) : FormWindow(form), board_(form) {
   content->addWidget(Scrolled(work), 1);
   setLayout(content);
   MakeNoticePane();
+  OnShortcut(QKeySequence(Qt::CTRL | Qt::Key_P),
+             [this] { Act([this] { board_.PrintSelected(); }); });
+  OnShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_P),
+             [this] { Act([this] { board_.PrintLastReceipt(); }); });
   BindControls();
   TitleTells([] { return Session.StoreName; });
   Layout().OpenAs(kSize, 1);

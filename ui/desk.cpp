@@ -78,6 +78,12 @@ void Desk::PaintWindows(QEventLoop::ProcessEventsFlags flags, int milliseconds) 
   insideCall_ = before;
 }
 
+void Desk::ShowProgress(const std::string& what, int done, int of) {
+  if (of == 0) return progress_.Hide();
+  progress_.ShowProgress(what, done, of);
+  PaintWindows(QEventLoop::ExcludeUserInputEvents);
+}
+
 void Desk::Paint(QEventLoop::ProcessEventsFlags flags, int milliseconds) {
   ++painting_;
   if (milliseconds == 0) {
@@ -233,6 +239,7 @@ void Desk::Clear() {
   }
   DeleteLeaving();
   ending_ = false;
+  progress_.Hide();
   server_.Forget();
 }
 

@@ -50,6 +50,7 @@ OrderWindow::OrderWindow(OrderForm& form) : FormWindow(form), order_(form) {
   content->addWidget(Foot());
   FillWindow(*this, content);
   new ProgressPanel(*this);
+  OnShortcut(QKeySequence(Qt::CTRL | Qt::Key_P), [this] { Act([this] { order_.PrintStored(); }); });
   BindControls();
   TitleTells([this] { return StoreAnd(order_.Text1); });
   Layout().OpenAs(kSize, 1);

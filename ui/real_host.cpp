@@ -19,6 +19,7 @@
 #include "ui/instance_call.h"
 #include "ui/instance_lock.h"
 #include "ui/message_box.h"
+#include "ui/print_document.h"
 #include "ui/qt_text.h"
 #include "ui/scan_sounds.h"
 #include "ui/serial_port.h"
@@ -104,6 +105,14 @@ void OpenWorkstation() {
   Host.ShowServer = [](ServerLink link, std::chrono::milliseconds lasted) {
     TheDesk().ShowServer(link, lasted);
   };
+  Host.OfferStop = [](std::chrono::milliseconds lasted) {
+    return TheDesk().Server().OfferStop(lasted);
+  };
+  Host.ShowProgress = [](const std::string& what, int done, int of) {
+    TheDesk().ShowProgress(what, done, of);
+  };
+  Host.Print = PrintOnPrinter;
+  Host.WritePdf = WritePdf;
   Host.Now = Now;
   Host.Sleep = [](int milliseconds) {
     QThread::msleep(static_cast<unsigned long>(std::max(0, milliseconds)));

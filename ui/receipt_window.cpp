@@ -33,6 +33,8 @@ ReceiptWindow::ReceiptWindow(frm_PE_UNIT& form) : FormWindow(form), receipt_(for
   content->addWidget(Named("FLEX1", new GridView(form.FLEX1, kTwoLines)), 1);
   content->addWidget(Foot());
   FillWindow(*this, content);
+  OnShortcut(QKeySequence(Qt::CTRL | Qt::Key_P),
+             [this] { Act([this] { receipt_.PrintStored(); }); });
   BindControls();
   TitleTells([this] { return StoreAnd(receipt_.Text1); });
   Layout().OpenAs(kSize, 1);

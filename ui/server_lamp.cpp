@@ -29,6 +29,7 @@ Sign SignOf(ServerLink link) {
       return {look::Warning, "연결 끊김",
               "데이터서버가 응답하지 않았습니다. 보이는 것은 앞서 읽은 것입니다."};
     case ServerLink::Connected:
+    case ServerLink::Stopped:  // is told and never stays
       break;
   }
   return {look::Connected, "연결됨", "데이터서버가 응답하고 있습니다."};

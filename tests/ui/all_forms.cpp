@@ -10,6 +10,7 @@
 #include "handheld/frmProperties.h"
 #include "lookup/HELP_BPR.h"
 #include "lookup/NEW_PR.h"
+#include "lookup/frmPrint.h"
 #include "lookup/party_lookups.h"
 #include "order/frm_Order.h"
 #include "order/frm_Order01.h"
@@ -37,7 +38,7 @@ std::vector<std::unique_ptr<Form>> AllForms() {
   return Made<frmLogin, frmSplash, frmOptions, frm_Start, frmDrafts, frmDeleted, frm_Order,
               frm_Order01, frm_Order02, frm_Order03, frm_OrderPLU, frm_PE_UNIT, FRM_CRDIMP,
               FRM_DT900_01, DT9RECEV, frmProperties, FRM_NAMECHK, HELP_CT, HELP_RCT, HELP_HCT,
-              HELP_ST, HELP_CTM, HELP_BPR, NEW_PR>();
+              HELP_ST, HELP_CTM, HELP_BPR, frmPrint, NEW_PR>();
 }
 
 }  // namespace store

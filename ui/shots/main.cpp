@@ -73,6 +73,30 @@ void ShootBoard(Director& director) {
   });
 }
 
+void ShootPrint(Director& director) {
+  director.WhenShown("frm_Start", [](FormWindow& window) {
+    ClickOn(window, "Option1_3");
+    GoTo(window, "FLEX1", 0, 2);
+    Press(window, Qt::Key_P, Qt::ControlModifier);
+  });
+  director.WhenShown("frmPrint", [&](FormWindow& window) {
+    director.Save(window, "print");
+    Press(window, Qt::Key_W, Qt::AltModifier);
+    director.Save(window, "print_wide");
+    Press(window, Qt::Key_Escape);
+  });
+}
+
+/// As after four seconds in a search that may be stopped.
+void ShootWaiting(Director& director) {
+  using namespace std::chrono_literals;
+  director.WhenShown("frm_Start", [&](FormWindow& window) {
+    Host.OfferStop(4s);
+    director.Save(window, "waiting");
+    Host.ShowServer(ServerLink::Connected, 0ms);
+  });
+}
+
 /// `text` is searched; nothing is typed when it is empty.
 template <class Lookup>
 void ShootLookup(
@@ -177,6 +201,8 @@ int main(int argc, char** argv) {
   store::ShootStart(director);
   store::ShootSplash(director);
   store::ShootBoard(director);
+  store::ShootPrint(director);
+  store::ShootWaiting(director);
   store::ShootNewOrder(director);
   store::ShootOrderTypes(director);
   store::ShootQuickPick(director);
