@@ -79,6 +79,29 @@ void FormWindow::OnPress(KeyButton& button, std::function<void()> event) {
   });
 }
 
+void FormWindow::OfferActions(GridView& grid, ContextActions actions) {
+  grid.SetContextActions(std::move(actions));
+}
+
+ContextAction FormWindow::ButtonLine(const QString& name) const {
+  auto* button = dynamic_cast<KeyButton*>(findChild<QPushButton*>(name));
+  Q_ASSERT(button != nullptr);
+  return {.Button = button};
+}
+
+ContextAction FormWindow::KeyLine(const QString& text, Key key, const Grid& grid, Control& at) {
+  return {.Text = text,
+          .Key = WrittenKey(key),
+          .Enabled = [&grid, &at] { return at.Enabled && grid.Row() >= grid.FixedRows(); },
+          .Event = [this, key, &at] { Act([this, key, &at] { form_.Press(key, &at); }); }};
+}
+
+ContextAction FormWindow::BoxLine(const QString& text, const Grid& grid, Control& box) {
+  return {.Text = text,
+          .Enabled = [&grid, &box] { return box.Enabled && grid.Row() >= grid.FixedRows(); },
+          .Event = [this, &box] { Act([this, &box] { form_.SetFocus(box); }); }};
+}
+
 void FormWindow::OnShortcut(const QKeySequence& keys, std::function<void()> event) {
   shortcuts_.emplace_back(keys, std::move(event));
 }

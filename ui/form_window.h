@@ -9,6 +9,8 @@
 #include <vector>
 
 #include "forms/form.h"
+#include "forms/grid.h"
+#include "ui/context_action.h"
 #include "ui/window_layout.h"
 
 class QEventLoop;
@@ -43,6 +45,18 @@ class FormWindow : public QWidget {
   void OnShortcut(const QKeySequence& keys, std::function<void()> event);
   /// A grid whose open cell is taken over by `Act`.
   void KeepOpenCellsOf(GridView& grid) { grids_.push_back(&grid); }
+  /// The lines of a grid's context menu that are this window's own.
+  void OfferActions(GridView& grid, ContextActions actions);
+  /// A line that does what the button of that name does.
+  ContextAction ButtonLine(const QString& name) const;
+  /// A line that does what the key does while `at` has the keyboard; it is there for a current row
+  /// of `grid`.
+  ContextAction KeyLine(const QString& text, Key key, const Grid& grid, Control& at);
+  ContextAction KeyLine(const QString& text, Key key, Grid& grid) {
+    return KeyLine(text, key, grid, grid);
+  }
+  /// A line that gives the keyboard to a box into which something about the current row is typed.
+  ContextAction BoxLine(const QString& text, const Grid& grid, Control& box);
   /// The names of published controls for which the layout has no widget.
   std::vector<std::string> ControlsWithoutWidget() const;
 

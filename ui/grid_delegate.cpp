@@ -91,6 +91,7 @@ void GridDelegate::PaintGround(QPainter& painter, const QRect& cell,
                                const QModelIndex& index) const {
   const QVariant asked = index.data(Qt::BackgroundRole);
   QColor ground(look::Paper);
+  if (view_.IsToBeCopied(index.row())) ground = QColor(look::RestingRow);
   if (IsMarked(index)) {
     ground = QColor(view_.hasFocus() ? look::CurrentRow : look::RestingRow);
   }

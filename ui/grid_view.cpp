@@ -1,5 +1,8 @@
 #include "ui/grid_view.h"
 
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QGuiApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMenu>
@@ -7,13 +10,16 @@
 #include <algorithm>
 #include <utility>
 
+#include "lookup/export_grid.h"
 #include "ui/cell_editor.h"
 #include "ui/desk.h"
+#include "ui/form_window.h"
+#include "ui/grid_copy.h"
 #include "ui/grid_delegate.h"
+#include "ui/grid_menu.h"
 #include "ui/key_names.h"
 #include "ui/qt_text.h"
 #include "ui/style.h"
-#include "ui/window_layout.h"
 
 namespace store {
 namespace {
@@ -119,24 +125,35 @@ int GridView::ShownColumn(int column) const {
   return 0;
 }
 
-// What can be switched on, and the way back from everything that was changed.
 void GridView::OpenHeaderMenu(const QPoint& at) {
   QMenu menu;
-  for (const int column : columns_.Optional()) {
-    QAction* optional = menu.addAction(ToQt(grid_.TextMatrix(0, column)));
-    optional->setCheckable(true);
-    optional->setChecked(columns_.IsShown(column));
-    connect(optional, &QAction::toggled, this,
-            [this, column](bool on) { columns_.Switch(column, on); });
-  }
-  menu.addSeparator();
-  connect(menu.addAction(kFirstLayoutText), &QAction::triggered, this, [] { ForgetLayouts(); });
+  FillHeaderMenu(menu, *this);
   menu.exec(horizontalHeader()->mapToGlobal(at));
+}
+
+// What the menu does must hit what is marked, so the row under the pointer is marked first.
+void GridView::contextMenuEvent(QContextMenuEvent* event) {
+  TakeOverOpenCell();
+  QPoint at = event->globalPos();
+  if (event->reason() == QContextMenuEvent::Keyboard) {
+    at = viewport()->mapToGlobal(visualRect(currentIndex()).bottomLeft());
+  } else if (const QModelIndex pointed = indexAt(event->pos()); pointed.isValid()) {
+    if (!IsToBeCopied(pointed.row())) CopyNoMore();
+    setFocus(Qt::MouseFocusReason);
+    const std::optional<CopyRange> kept = copy_;
+    setCurrentIndex(pointed);
+    copy_ = kept;
+  }
+  QMenu menu;
+  FillRowMenu(menu, *this);
+  menu.exec(at);
 }
 
 void GridView::SwitchOptionalColumns() {
   for (const int column : columns_.Optional()) columns_.Switch(column, !columns_.IsShown(column));
 }
+
+void GridView::SwitchColumn(int column, bool on) { columns_.Switch(column, on); }
 
 void GridView::resizeEvent(QResizeEvent* event) {
   QTableView::resizeEvent(event);
@@ -158,6 +175,7 @@ void GridView::scrollContentsBy(int dx, int dy) {
 
 void GridView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
   QTableView::currentChanged(current, previous);
+  CopyNoMore();
   setAttribute(Qt::WA_InputMethodEnabled);
   viewport()->update();
   if (following_ || !current.isValid()) return;
@@ -174,11 +192,24 @@ void GridView::focusInEvent(QFocusEvent* event) {
   setAttribute(Qt::WA_InputMethodEnabled);
 }
 
+void GridView::focusOutEvent(QFocusEvent* event) {
+  QTableView::focusOutEvent(event);
+  const bool stays =
+      event->reason() == Qt::PopupFocusReason || event->reason() == Qt::ActiveWindowFocusReason;
+  if (!stays) CopyNoMore();
+}
+
 // One cell is marked, and it is the one that is clicked: the left button alone chooses it, when it
 // goes down, and wherever the mouse slips to until the button is let go, the click is that cell's.
 void GridView::mousePressEvent(QMouseEvent* event) {
   if (event->button() != Qt::LeftButton) return;
-  pressed_ = indexAt(event->position().toPoint());
+  const QModelIndex at = indexAt(event->position().toPoint());
+  if (event->modifiers() == Qt::ShiftModifier && marksRow_ && currentIndex().isValid()) {
+    if (at.isValid()) CopyUpTo(at.row());
+    return;
+  }
+  CopyNoMore();
+  pressed_ = at;
   QTableView::mousePressEvent(event);
 }
 
@@ -228,9 +259,91 @@ void GridView::leaveEvent(QEvent* event) {
   pointed_ = QModelIndex();
 }
 
+// --- copying and exporting
+
+// What is copied may be more than the marked row, but never becomes what an action hits: it is
+// chosen on the screen alone, and gone with the next step.
+void GridView::CopyUpTo(int shownRow) {
+  copy_ = {currentIndex().row(), shownRow};
+  scrollTo(model_.index(shownRow, currentIndex().column()));
+  viewport()->update();
+}
+
+void GridView::CopyNoMore() {
+  if (std::exchange(copy_, std::nullopt)) viewport()->update();
+}
+
+bool GridView::IsToBeCopied(int shownRow) const {
+  return copy_ && std::min(copy_->From, copy_->To) <= shownRow &&
+         shownRow <= std::max(copy_->From, copy_->To);
+}
+
+/// Shift with an arrow, and Ctrl+A.
+bool GridView::ExtendsCopy(const QKeyEvent& event) {
+  if (!marksRow_ || model_.rowCount() == 0) return false;
+  if (event.matches(QKeySequence::SelectAll)) {
+    copy_ = {0, model_.rowCount() - 1};
+    viewport()->update();
+    return true;
+  }
+  const bool isArrow = event.key() == Qt::Key_Up || event.key() == Qt::Key_Down;
+  if (!isArrow || event.modifiers() != Qt::ShiftModifier || !currentIndex().isValid()) return false;
+  const int step = event.key() == Qt::Key_Down ? 1 : -1;
+  int to = (copy_ ? copy_->To : currentIndex().row()) + step;
+  while (to >= 0 && to < model_.rowCount() && isRowHidden(to)) to += step;
+  if (to >= 0 && to < model_.rowCount()) CopyUpTo(to);
+  return true;
+}
+
+void GridView::CopyRows() {
+  const int current = currentIndex().row();
+  if (copy_) {
+    CopyShown(std::min(copy_->From, copy_->To), std::max(copy_->From, copy_->To));
+  } else if (current >= 0) {
+    CopyShown(current, current);
+  }
+}
+
+void GridView::CopyAllRows() { CopyShown(0, model_.rowCount() - 1); }
+
+void GridView::CopyShown(int first, int last) {
+  if (!marksRow_ && first == last) {
+    QGuiApplication::clipboard()->setText(currentIndex().data().toString());
+    return;
+  }
+  std::vector<int> rows;
+  for (int shown = first; shown <= last; ++shown) {
+    if (!isRowHidden(shown)) rows.push_back(model_.GridRow(model_.index(shown, 0)));
+  }
+  QGuiApplication::clipboard()->setText(CopiedRows(grid_, rows, columns_.Shown()));
+}
+
+void GridView::ExportBy(std::function<void()> way, const QString& key) {
+  export_ = std::move(way);
+  exportKey_ = key;
+}
+
+void GridView::Export() {
+  if (export_) {
+    export_();
+    return;
+  }
+  auto* form = dynamic_cast<FormWindow*>(window());
+  const std::string caption = form == nullptr ? std::string() : form->ShownForm().Caption;
+  Label where;
+  Dispatch([&] { ExportGrid(grid_, caption, where); });
+  if (where.Caption.empty()) return;
+  QToolTip::showText(mapToGlobal(rect().bottomLeft()), ToQt(where.Caption), this);
+}
+
 // --- typing
 
 void GridView::keyPressEvent(QKeyEvent* event) {
+  if (event->matches(QKeySequence::Copy)) {
+    CopyRows();
+    return;
+  }
+  if (ExtendsCopy(*event)) return;
   const bool opens = event->key() == Qt::Key_F2 || NamedKey(*event) == Key::Enter;
   if (opens) {
     if (!OpenCell()) event->ignore();

@@ -3,9 +3,12 @@
 #include <QPersistentModelIndex>
 #include <QTableView>
 #include <functional>
+#include <optional>
 #include <string>
+#include <vector>
 
 #include "forms/grid.h"
+#include "ui/context_action.h"
 #include "ui/grid_columns.h"
 #include "ui/grid_model.h"
 
@@ -26,8 +29,26 @@ class GridView : public QTableView {
   void MarkCellsOnly() { marksRow_ = false; }
   bool MarksRow() const { return marksRow_; }
 
+  /// The window's own lines of the context menu.
+  void SetContextActions(ContextActions actions) { actions_ = std::move(actions); }
+  const ContextActions& Actions() const { return actions_; }
+
   /// Shows the columns that can be switched on, or takes them away again.
   void SwitchOptionalColumns();
+  void SwitchColumn(int column, bool on);
+  bool HasHeader() const { return grid_.FixedRows() > 0; }
+
+  /// Puts the marked row on the clipboard, or the rows that Shift or Ctrl+A has chosen with it.
+  void CopyRows();
+  void CopyAllRows();
+  /// Whether the row stands in what `CopyRows` copies beyond the marked one.
+  bool IsToBeCopied(int shownRow) const;
+
+  /// Opens the whole grid in a spreadsheet. A window that has a way of its own says which, and its
+  /// key.
+  void Export();
+  void ExportBy(std::function<void()> way, const QString& key);
+  const QString& ExportKey() const { return exportKey_; }
   /// Which columns are shown and how wide; to be kept and put back.
   GridColumns& Columns() { return columns_; }
 
@@ -57,12 +78,18 @@ class GridView : public QTableView {
   void mouseDoubleClickEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
   void leaveEvent(QEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
 
  private:
   void FollowHiddenRows();
   void FollowCurrentCell();
   void OpenHeaderMenu(const QPoint& at);
   int ShownColumn(int column) const;
+  void CopyShown(int first, int last);
+  bool ExtendsCopy(const QKeyEvent& event);
+  void CopyUpTo(int shownRow);
+  void CopyNoMore();
   void Clicked(const QModelIndex& index, bool letGoThere);
   void DoubleClicked(const QModelIndex& index);
   void TypeText(const QString& text);
@@ -82,6 +109,15 @@ class GridView : public QTableView {
   unsigned topRowSeen_ = 0;
   QPersistentModelIndex pointed_;  // the cell under the pointer
   QPersistentModelIndex pressed_;  // the cell on which the button went down and is still held
+  /// Rows as they are shown, from the one that was marked to where Shift has led from it.
+  struct CopyRange {
+    int From;
+    int To;
+  };
+  std::optional<CopyRange> copy_;
+  ContextActions actions_;
+  std::function<void()> export_;
+  QString exportKey_;
   bool marksRow_ = true;
   bool following_ = false;
 };
