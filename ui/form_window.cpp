@@ -40,6 +40,7 @@ bool IsFunctionKey(const QKeyEvent& event) {
 FormWindow::FormWindow(Form& form) : form_(form) {
   setObjectName(ToQt(form.Name));
   OnShortcut(QKeySequence(Qt::CTRL | Qt::Key_0), [] { ForgetLayouts(); });
+  OnShortcut(QKeySequence(Qt::CTRL | Qt::Key_F), [this] { FilterRows(); });
 }
 
 FormWindow::~FormWindow() = default;
@@ -81,6 +82,7 @@ void FormWindow::OnPress(KeyButton& button, std::function<void()> event) {
 
 void FormWindow::OfferActions(GridView& grid, ContextActions actions) {
   grid.SetContextActions(std::move(actions));
+  worked_.push_back(&grid);
 }
 
 ContextAction FormWindow::ButtonLine(const QString& name) const {
@@ -211,14 +213,36 @@ void FormWindow::FocusMoved(QWidget& to, bool fromThisWindow) {
   }
 }
 
-bool FormWindow::InOpenCell(const QWidget& at) const {
+bool FormWindow::InTypedText(const QWidget& at) const {
   return std::any_of(grids_.begin(), grids_.end(),
-                     [&](const GridView* grid) { return grid->IsOpenCell(at); });
+                     [&](const GridView* grid) { return grid->TakesTyping(at); });
+}
+
+/// Escape among filtered rows shows them all again, before it means anything to the form.
+bool FormWindow::EscapesFilter(const QWidget& at) const {
+  const auto filtered = std::find_if(grids_.begin(), grids_.end(), [&](const GridView* grid) {
+    return grid == &at && grid->FilterIsOpen();
+  });
+  if (filtered == grids_.end()) return false;
+  (*filtered)->CloseFilter();
+  return true;
+}
+
+void FormWindow::FilterRows() {
+  for (const std::vector<GridView*>* grids : {&grids_, &worked_}) {
+    for (GridView* grid : *grids) {
+      const bool isMeant = grids == &worked_ || grid->hasFocus();
+      if (!isMeant || !grid->isVisible() || !grid->MayArrange()) continue;
+      grid->OpenFilter();
+      return;
+    }
+  }
 }
 
 bool FormWindow::KeyPressed(const QKeyEvent& event, QWidget& at) {
   const Key key = NamedKey(event);
-  if (InOpenCell(at) && !IsFunctionKey(event)) return false;
+  if (InTypedText(at) && !IsFunctionKey(event)) return false;
+  if (key == Key::Escape && EscapesFilter(at)) return true;
 
   const bool walks = key == Key::Up || key == Key::Down || key == Key::Delete || key == Key::Tab;
   if (key != Key::None && event.isAutoRepeat() && !walks) return true;  // a key that was held down

@@ -45,7 +45,8 @@ class FormWindow : public QWidget {
   void OnShortcut(const QKeySequence& keys, std::function<void()> event);
   /// A grid whose open cell is taken over by `Act`.
   void KeepOpenCellsOf(GridView& grid) { grids_.push_back(&grid); }
-  /// The lines of a grid's context menu that are this window's own.
+  /// The lines of a grid's context menu that are this window's own. The first grid with such lines
+  /// is the one that Ctrl+F filters from elsewhere in the window.
   void OfferActions(GridView& grid, ContextActions actions);
   /// A line that does what the button of that name does.
   ContextAction ButtonLine(const QString& name) const;
@@ -94,7 +95,9 @@ class FormWindow : public QWidget {
   QWidget* WidgetOf(const Control* control) const;
   void FollowFocus();
   void QueueActivate();
-  bool InOpenCell(const QWidget& at) const;
+  bool InTypedText(const QWidget& at) const;
+  bool EscapesFilter(const QWidget& at) const;
+  void FilterRows();
   void ChainTabOrder();
   bool ShortcutTakes(const QKeyEvent& event);
   void FollowTitle();
@@ -106,6 +109,7 @@ class FormWindow : public QWidget {
   std::vector<std::function<void()>> syncs_;
   std::vector<std::pair<QKeySequence, std::function<void()>>> shortcuts_;
   std::vector<GridView*> grids_;
+  std::vector<GridView*> worked_;  // the grids with lines of their own
   QEventLoop* loop_ = nullptr;
   unsigned focusSeen_ = 0;
   bool placed_ = false;  // where a person has left it

@@ -68,7 +68,8 @@ bool GridColumns::MeasureRows(int first, int last) {
     need.Format = format;
     const int before = need.Width;
     for (int row = first; row < end; ++row) {
-      if (!grid_.RowHidden(row + grid_.FixedRows())) Measure(need, model_.index(row, column));
+      const QModelIndex index = model_.index(row, column);
+      if (!grid_.RowHidden(model_.GridRow(index))) Measure(need, index);
     }
     grown = grown || need.Width > before;
   }

@@ -1,21 +1,20 @@
 #include "ui/grid_view.h"
 
-#include <QClipboard>
 #include <QContextMenuEvent>
-#include <QGuiApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMenu>
+#include <QPointer>
+#include <QScopedValueRollback>
 #include <QToolTip>
 #include <algorithm>
 #include <utility>
 
-#include "lookup/export_grid.h"
 #include "ui/cell_editor.h"
 #include "ui/desk.h"
-#include "ui/form_window.h"
-#include "ui/grid_copy.h"
+#include "ui/filter_line.h"
 #include "ui/grid_delegate.h"
+#include "ui/grid_header.h"
 #include "ui/grid_menu.h"
 #include "ui/key_names.h"
 #include "ui/qt_text.h"
@@ -24,18 +23,11 @@
 namespace store {
 namespace {
 
-/// Sets a flag for as long as it lives.
-class Flagged {
- public:
-  explicit Flagged(bool& flag) : flag_(flag), before_(flag) { flag_ = true; }
-  ~Flagged() { flag_ = before_; }
-  Flagged(const Flagged&) = delete;
-  Flagged& operator=(const Flagged&) = delete;
-
- private:
-  bool& flag_;
-  bool before_;
-};
+GridHeader* PutHeader(QTableView& view) {
+  auto* header = new GridHeader(&view);
+  view.setHorizontalHeader(header);
+  return header;
+}
 
 }  // namespace
 
@@ -43,11 +35,14 @@ GridView::GridView(Grid& grid, int lines, QWidget* parent)
     : QTableView(parent),
       grid_(grid),
       model_(grid),
+      header_(PutHeader(*this)),
       columns_(*this, grid, model_),
-      editor_(new CellEditor(viewport())) {
+      editor_(new CellEditor(viewport())),
+      filter_(new FilterLine(header_)) {
   setModel(&model_);
   setItemDelegate(new GridDelegate(*this));
   setSelectionMode(NoSelection);
+  setSelectionBehavior(SelectRows);  // or a press on a title would choose a row
   setEditTriggers(NoEditTriggers);
   setTabKeyNavigation(false);
   setShowGrid(false);
@@ -59,7 +54,7 @@ GridView::GridView(Grid& grid, int lines, QWidget* parent)
   verticalHeader()->setMinimumSectionSize(1);
   verticalHeader()->setDefaultSectionSize(RowHeight(lines));
   horizontalHeader()->setVisible(grid.FixedRows() > 0);
-  horizontalHeader()->setSectionsClickable(false);
+  horizontalHeader()->setSectionsClickable(true);
   horizontalHeader()->setHighlightSections(false);
   horizontalHeader()->setContextMenuPolicy(Qt::CustomContextMenu);
   setAttribute(Qt::WA_InputMethodEnabled);
@@ -72,6 +67,14 @@ GridView::GridView(Grid& grid, int lines, QWidget* parent)
           });
   connect(horizontalHeader(), &QHeaderView::customContextMenuRequested, this,
           &GridView::OpenHeaderMenu);
+  connect(horizontalHeader(), &QHeaderView::sectionClicked, this, &GridView::TitleClicked);
+  filter_->Typed = [this](const QString& text) { FilterBy(text); };
+  filter_->GoneOn = [this] { GoOnToRows(); };
+  filter_->Closed = [this] { CloseFilter(); };
+  grid_.SeenBeside = [view = QPointer(this), &grid](int row, int step) {
+    return view == nullptr ? GridRows(grid).Beside(row, step)
+                           : view->model_.ShownRows().Beside(row, step);
+  };
   columns_.Follow();
 }
 
@@ -80,11 +83,13 @@ GridView::GridView(Grid& grid, int lines, QWidget* parent)
 void GridView::Follow() {
   if (updatesEnabled() != grid_.Redraw) setUpdatesEnabled(grid_.Redraw);
   if (!grid_.Redraw) return;
-  const Flagged flagged(following_);
-  if (model_.Follow()) {
+  const QScopedValueRollback following(following_, true);
+  if (model_.Follow(filter_->HasKeyboard())) {
     if (openRow_ != 0) CloseCell(false, 0);
+    CopyNoMore();
     columns_.Follow();
     FollowHiddenRows();
+    FollowFilter();
   }
   FollowCurrentCell();
   FollowTopRow();
@@ -96,18 +101,23 @@ void GridView::FollowTopRow() {
   topRowSeen_ = grid_.TopRowRevision();
   executeDelayedItemsLayout();
   updateGeometries();
-  scrollTo(model_.index(grid_.TopRow(), ShownColumn(0)), PositionAtTop);
+  const QModelIndex top = model_.IndexOf(grid_.TopRow() + grid_.FixedRows(), ShownColumn(0));
+  if (top.isValid()) scrollTo(top, PositionAtTop);
 }
 
+// Where a person has sorted or filtered, what the form hides is left out with the rest.
 void GridView::FollowHiddenRows() {
-  for (int row = grid_.FixedRows(); row < grid_.Rows(); ++row) {
-    const int shown = row - grid_.FixedRows();
-    if (isRowHidden(shown) != grid_.RowHidden(row)) setRowHidden(shown, grid_.RowHidden(row));
+  const bool own = model_.ShownRows().AreOwn();
+  const int rows = model_.rowCount();
+  for (int place = 0; place < rows; ++place) {
+    const bool hidden = own && grid_.RowHidden(model_.ShownRows().RowAt(place));
+    if (isRowHidden(place) != hidden) setRowHidden(place, hidden);
   }
 }
 
 void GridView::FollowCurrentCell() {
   const bool none = grid_.FixedRows() > 0 && grid_.Row() < grid_.FixedRows();
+  if (!none) KeepInSight(grid_.Row());
   const QModelIndex wanted =
       none ? QModelIndex() : model_.IndexOf(grid_.Row(), ShownColumn(grid_.Col()));
   if (wanted == currentIndex()) return;
@@ -127,7 +137,7 @@ int GridView::ShownColumn(int column) const {
 
 void GridView::OpenHeaderMenu(const QPoint& at) {
   QMenu menu;
-  FillHeaderMenu(menu, *this);
+  FillHeaderMenu(menu, *this, horizontalHeader()->logicalIndexAt(at));
   menu.exec(horizontalHeader()->mapToGlobal(at));
 }
 
@@ -145,15 +155,13 @@ void GridView::contextMenuEvent(QContextMenuEvent* event) {
     copy_ = kept;
   }
   QMenu menu;
-  FillRowMenu(menu, *this);
+  FillRowMenu(menu, *this, currentIndex().column());
   menu.exec(at);
 }
 
 void GridView::SwitchOptionalColumns() {
   for (const int column : columns_.Optional()) columns_.Switch(column, !columns_.IsShown(column));
 }
-
-void GridView::SwitchColumn(int column, bool on) { columns_.Switch(column, on); }
 
 void GridView::resizeEvent(QResizeEvent* event) {
   QTableView::resizeEvent(event);
@@ -166,7 +174,7 @@ void GridView::scrollContentsBy(int dx, int dy) {
   QTableView::scrollContentsBy(dx, dy);
   // What the form has asked for and has not got yet is not taken back by what a new list does.
   const bool followed = topRowSeen_ == grid_.TopRowRevision();
-  if (dy != 0 && followed) grid_.NoteTopRow(std::max(0, rowAt(0)));
+  if (dy != 0 && followed) NoteTopRow();
   if (dy != 0) columns_.MeasureView();
   PlaceOpenCell();
 }
@@ -185,7 +193,7 @@ void GridView::currentChanged(const QModelIndex& current, const QModelIndex& pre
 void GridView::focusInEvent(QFocusEvent* event) {
   {
     // The table would choose a row by itself; which row is current is for the form to say.
-    const Flagged flagged(following_);
+    const QScopedValueRollback following(following_, true);
     QTableView::focusInEvent(event);
     FollowCurrentCell();
   }
@@ -257,83 +265,6 @@ void GridView::mouseMoveEvent(QMouseEvent* event) {
 void GridView::leaveEvent(QEvent* event) {
   QTableView::leaveEvent(event);
   pointed_ = QModelIndex();
-}
-
-// --- copying and exporting
-
-// What is copied may be more than the marked row, but never becomes what an action hits: it is
-// chosen on the screen alone, and gone with the next step.
-void GridView::CopyUpTo(int shownRow) {
-  copy_ = {currentIndex().row(), shownRow};
-  scrollTo(model_.index(shownRow, currentIndex().column()));
-  viewport()->update();
-}
-
-void GridView::CopyNoMore() {
-  if (std::exchange(copy_, std::nullopt)) viewport()->update();
-}
-
-bool GridView::IsToBeCopied(int shownRow) const {
-  return copy_ && std::min(copy_->From, copy_->To) <= shownRow &&
-         shownRow <= std::max(copy_->From, copy_->To);
-}
-
-/// Shift with an arrow, and Ctrl+A.
-bool GridView::ExtendsCopy(const QKeyEvent& event) {
-  if (!marksRow_ || model_.rowCount() == 0) return false;
-  if (event.matches(QKeySequence::SelectAll)) {
-    copy_ = {0, model_.rowCount() - 1};
-    viewport()->update();
-    return true;
-  }
-  const bool isArrow = event.key() == Qt::Key_Up || event.key() == Qt::Key_Down;
-  if (!isArrow || event.modifiers() != Qt::ShiftModifier || !currentIndex().isValid()) return false;
-  const int step = event.key() == Qt::Key_Down ? 1 : -1;
-  int to = (copy_ ? copy_->To : currentIndex().row()) + step;
-  while (to >= 0 && to < model_.rowCount() && isRowHidden(to)) to += step;
-  if (to >= 0 && to < model_.rowCount()) CopyUpTo(to);
-  return true;
-}
-
-void GridView::CopyRows() {
-  const int current = currentIndex().row();
-  if (copy_) {
-    CopyShown(std::min(copy_->From, copy_->To), std::max(copy_->From, copy_->To));
-  } else if (current >= 0) {
-    CopyShown(current, current);
-  }
-}
-
-void GridView::CopyAllRows() { CopyShown(0, model_.rowCount() - 1); }
-
-void GridView::CopyShown(int first, int last) {
-  if (!marksRow_ && first == last) {
-    QGuiApplication::clipboard()->setText(currentIndex().data().toString());
-    return;
-  }
-  std::vector<int> rows;
-  for (int shown = first; shown <= last; ++shown) {
-    if (!isRowHidden(shown)) rows.push_back(model_.GridRow(model_.index(shown, 0)));
-  }
-  QGuiApplication::clipboard()->setText(CopiedRows(grid_, rows, columns_.Shown()));
-}
-
-void GridView::ExportBy(std::function<void()> way, const QString& key) {
-  export_ = std::move(way);
-  exportKey_ = key;
-}
-
-void GridView::Export() {
-  if (export_) {
-    export_();
-    return;
-  }
-  auto* form = dynamic_cast<FormWindow*>(window());
-  const std::string caption = form == nullptr ? std::string() : form->ShownForm().Caption;
-  Label where;
-  Dispatch([&] { ExportGrid(grid_, caption, where); });
-  if (where.Caption.empty()) return;
-  QToolTip::showText(mapToGlobal(rect().bottomLeft()), ToQt(where.Caption), this);
 }
 
 // --- typing
@@ -439,8 +370,8 @@ void GridView::AcceptCell(int row, int column, const std::string& typed, int ste
   });
   // What the form refused stays in front of the person.
   const bool accepted = grid_.TextMatrix(row, column) == typed;
-  const int next = row + step;
-  if (step == 0 || !accepted || next < grid_.FixedRows() || next >= grid_.Rows()) return;
+  const int next = step == 0 || !accepted ? -1 : model_.ShownRows().Beside(row, step);
+  if (next < 0) return;
   Dispatch([&] { grid_.Select(next, column); });
 }
 

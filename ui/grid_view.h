@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QPersistentModelIndex>
+#include <QPointer>
 #include <QTableView>
 #include <functional>
 #include <optional>
@@ -15,6 +16,8 @@
 namespace store {
 
 class CellEditor;
+class FilterLine;
+class GridHeader;
 
 /// Shows a grid of a form and lets a person walk, click and type in it. Row heights are uniform and
 /// nothing is measured by row, so that a whole item list fills as fast as ten lines.
@@ -36,7 +39,16 @@ class GridView : public QTableView {
   /// Shows the columns that can be switched on, or takes them away again.
   void SwitchOptionalColumns();
   void SwitchColumn(int column, bool on);
-  bool HasHeader() const { return grid_.FixedRows() > 0; }
+
+  /// Whether the rows can be sorted and filtered: where each is one thing, under titles.
+  bool MayArrange() const { return marksRow_ && grid_.FixedRows() > 0; }
+  /// Sorts what is shown. The grid's own rows stay as they are.
+  void SortBy(int column, RowOrder order);
+  /// Opens the line that filters the rows, or puts the keyboard into it.
+  void OpenFilter();
+  bool FilterIsOpen() const;
+  /// Shows all rows again; the keyboard goes back to where it came from.
+  void CloseFilter();
 
   /// Puts the marked row on the clipboard, or the rows that Shift or Ctrl+A has chosen with it.
   void CopyRows();
@@ -57,6 +69,8 @@ class GridView : public QTableView {
 
   /// Brings the view into line with the grid.
   void Follow();
+  /// Whether `widget` is typed into by itself: the open cell, or the line of the filter.
+  bool TakesTyping(const QWidget& widget) const;
   /// Whether `widget` is the open cell.
   bool IsOpenCell(const QWidget& widget) const;
   /// Takes over what stands in the open cell, if one is open.
@@ -84,6 +98,15 @@ class GridView : public QTableView {
  private:
   void FollowHiddenRows();
   void FollowCurrentCell();
+  void TitleClicked(int column);
+  void Rearrange(const std::function<void(GridRows& rows)>& change);
+  void ShowArranged();
+  void FilterBy(const QString& text);
+  void FollowFilter();
+  void HideFilter();
+  void GoOnToRows();
+  void KeepInSight(int row);
+  void NoteTopRow();
   void OpenHeaderMenu(const QPoint& at);
   int ShownColumn(int column) const;
   void CopyShown(int first, int last);
@@ -102,9 +125,12 @@ class GridView : public QTableView {
 
   Grid& grid_;
   GridModel model_;
+  GridHeader* header_;
   GridColumns columns_;
   CellEditor* editor_;
-  int openRow_ = 0;  // row of the open cell in the grid; 0 when none is open
+  FilterLine* filter_;
+  QPointer<QWidget> cameFrom_;  // had the keyboard before the filter
+  int openRow_ = 0;             // row of the open cell in the grid; 0 when none is open
   int openColumn_ = -1;
   unsigned topRowSeen_ = 0;
   QPersistentModelIndex pointed_;  // the cell under the pointer
