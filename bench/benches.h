@@ -21,6 +21,7 @@ void BenchSmallRead(RatioTable& table);
 void BenchWalk(RatioTable& table);
 // At the real windows; these need `PrepareDesk`.
 void BenchBoard(BenchServer& server, RatioTable& table);
+void BenchGridRows(RatioTable& table);
 void BenchPickList(RatioTable& table);
 void BenchTileWall(RatioTable& table);
 void BenchScan(BenchServer& server, RatioTable& table);

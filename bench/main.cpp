@@ -61,6 +61,7 @@ int main(int argc, char** argv) {
   BenchSmallRead(table);
   BenchPosting(server, table);
   BenchWalk(table);
+  BenchGridRows(table);
   BenchHandheld(table);
   BenchWindows(server, table, quick ? 100000 : 1000000);
   server.Load(kDemo, 3000, 200);

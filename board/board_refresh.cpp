@@ -77,6 +77,9 @@ void frm_Start::NotePlace() {
   if (FLEX1.Rows() == 1) return;  // a read that failed has emptied the list, and nobody has moved
   place_.SlipId = FLEX1.Row() >= 1 ? FLEX1.TextMatrix(FLEX1.Row(), board::SlipId) : "";
   place_.Row = FLEX1.Row();
+  int beside = FLEX1.Row() < 1 ? -1 : FLEX1.RowBeside(FLEX1.Row(), 1);
+  if (FLEX1.Row() >= 1 && beside < 0) beside = FLEX1.RowBeside(FLEX1.Row(), -1);
+  place_.NextSlipId = FLEX1.TextMatrix(beside, board::SlipId);
   place_.Column = FLEX1.Col();
   place_.TopRow = FLEX1.TopRow();
 }
@@ -88,12 +91,14 @@ int frm_Start::RowOf(const std::string& slipId) const {
   return 0;
 }
 
-// The slip that was selected, or, where the list has lost it, the one that has come into its place.
+// The slip that was selected, or, where the list has lost it, the one that a person saw next to it,
+// or whichever has come into its place.
 // In the list of another search nothing is in its place, and so nothing is selected there.
 void frm_Start::GoToPlace(bool sameSearch) {
   int row = RowOf(SelectedSlipId);
   const bool goesElsewhere = row != 0 && SelectedSlipId != place_.SlipId;
   if (row == 0) row = RowOf(place_.SlipId);
+  if (row == 0 && sameSearch) row = RowOf(place_.NextSlipId);
   if (row == 0 && sameSearch) row = std::min(place_.Row, FLEX1.Rows() - 1);
   FLEX1.Select(row, row == 0 ? 0 : place_.Column);
   // A current row that is somewhere else is brought into view by the window.

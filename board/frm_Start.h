@@ -124,6 +124,7 @@ class frm_Start : public MainWindow {
   /// Where the person is on the board, to be found again when it has been read anew.
   struct Place {
     std::string SlipId;
+    std::string NextSlipId;  // seen next to it
     int Row = 0;
     int Column = 0;
     int TopRow = 0;

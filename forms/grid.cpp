@@ -29,7 +29,13 @@ void Grid::SetColumns(std::vector<GridColumn> columns, int fixedRows) {
   }
   row_ = 0;
   col_ = 0;
+  NoteOtherRows();
+}
+
+void Grid::NoteOtherRows() {
   ++revision_;
+  ++rowsRevision_;
+  if (Rows() <= fixedRows_) ++listRevision_;
 }
 
 GridColumn& Grid::Column(int col) {
@@ -40,7 +46,7 @@ GridColumn& Grid::Column(int col) {
 void Grid::SetRows(int rows) {
   if (rows < 0) return;
   rows_.resize(static_cast<size_t>(rows));
-  ++revision_;
+  NoteOtherRows();
   if (row_ < rows || row_ == 0) return;
   row_ = 0;
   if (RowColChange) RowColChange();
@@ -88,14 +94,27 @@ void Grid::AddItem(std::string_view tabJoined, int index) {
   } else {
     rows_.insert(rows_.begin() + index, std::move(row));
   }
-  ++revision_;
+  NoteOtherRows();
 }
 
 void Grid::RemoveItem(int row) {
   if (row < 0 || row >= Rows()) return;
+  int next = row_;
+  if (row == row_) {
+    next = RowBeside(row, 1);
+    if (next < 0) next = std::max(0, RowBeside(row, -1));
+    if (next > row) --next;
+  }
   rows_.erase(rows_.begin() + row);
-  ++revision_;
-  if (row_ >= Rows()) Select(Rows() > fixedRows_ ? Rows() - 1 : 0, col_);
+  NoteOtherRows();
+  if (next >= Rows()) next = Rows() > fixedRows_ ? Rows() - 1 : 0;
+  Select(next, col_);
+}
+
+int Grid::RowBeside(int row, int step) const {
+  if (SeenBeside) return SeenBeside(row, step);
+  const int next = row + step;
+  return next >= fixedRows_ && next < Rows() ? next : -1;
 }
 
 int Grid::EntryColumn() const {
@@ -150,7 +169,9 @@ bool Grid::RowHidden(int row) const {
 
 void Grid::SetRowHidden(int row, bool hidden) {
   if (row < 0 || row >= Rows()) return;
-  rows_[static_cast<size_t>(row)].hidden = hidden;
+  bool& isHidden = rows_[static_cast<size_t>(row)].hidden;
+  if (isHidden != hidden) ++rowsRevision_;
+  isHidden = hidden;
   ++revision_;
 }
 

@@ -50,6 +50,10 @@ class Grid : public Control {
   /// The pointer is over another cell. What the form then makes the tool tip is shown there.
   std::function<void(int row, int col)> MouseMove;
 
+  /// Which row a person sees next to a row, below it for the step 1 and above it for -1; -1 for
+  /// none. Set by a window that shows the rows in another order or leaves some out of sight.
+  std::function<int(int row, int step)> SeenBeside;
+
   bool Redraw = true;  ///< While false the window shows the grid as it was.
 
   /// Sets the columns and writes their headers into row 0; data rows are dropped.
@@ -77,7 +81,13 @@ class Grid : public Control {
 
   /// Adds a row of tab-joined cells, at the end or before row `index`. Surplus cells are dropped.
   void AddItem(std::string_view tabJoined, int index = -1);
+  /// A current row that is taken away leaves its place to the one that a person sees below it, or,
+  /// at the end, above.
   void RemoveItem(int row);
+
+  /// The row next to `row` as a person sees the rows, by one step down (1) or up (-1); -1 where
+  /// there is none. This, and no arithmetic on row numbers, is what a walk goes by.
+  int RowBeside(int row, int step) const;
 
   /// The column into which typing goes: the current one if a text can be typed there, else the
   /// first such column; -1 where there is none.
@@ -105,6 +115,10 @@ class Grid : public Control {
 
   /// Moves on every change of cells, looks or layout (not of the current cell).
   unsigned Revision() const { return revision_; }
+  /// Moves when rows come, go, are hidden or shown.
+  unsigned RowsRevision() const { return rowsRevision_; }
+  /// Moves when all data rows are taken away: what is put in then is another list.
+  unsigned ListRevision() const { return listRevision_; }
 
  private:
   struct GridRow {
@@ -115,6 +129,7 @@ class Grid : public Control {
     int later = -1;  // its number for `maker_`, when that makes them
   };
   bool Inside(int row, int col) const;
+  void NoteOtherRows();
   std::vector<std::string>& Cells(int row) const;
 
   std::vector<GridColumn> columns_;
@@ -126,6 +141,8 @@ class Grid : public Control {
   int topRow_ = 0;
   unsigned topRowRevision_ = 0;
   unsigned revision_ = 0;
+  unsigned rowsRevision_ = 0;
+  unsigned listRevision_ = 0;
 };
 
 }  // namespace store

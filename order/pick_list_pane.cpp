@@ -36,7 +36,7 @@ void PickListPane::FillPickGrid() {
 
 void PickListPane::WalkToPickList() {
   form_.SetFocus(FLEX2);
-  if (FLEX2.Row() == 0) FLEX2.SetRow(1);
+  if (FLEX2.Row() == 0) FLEX2.SetRow(FLEX2.RowBeside(0, 1));
 }
 
 bool PickListPane::FLEX2_BeforeEdit(int row, int col) {

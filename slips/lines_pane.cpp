@@ -50,8 +50,8 @@ void LinesPane::WalkTo(int row) {
 }
 
 void LinesPane::inBox_KeyDown(Key key) {
-  if (key == Key::Up) WalkTo(FLEX1.Row() - 1);
-  if (key == Key::Down) WalkTo(FLEX1.Row() + 1);
+  if (key == Key::Up) WalkTo(FLEX1.RowBeside(FLEX1.Row(), -1));
+  if (key == Key::Down) WalkTo(FLEX1.RowBeside(FLEX1.Row(), 1));
   if (key == Key::Delete) RemoveCurrentLine();
 }
 

@@ -36,6 +36,7 @@ BatchWindow::BatchWindow(FRM_DT900_01& form) : FormWindow(form), batch_(form) {
   content->addWidget(Foot());
   FillWindow(*this, content);
   BindControls();
+  OfferActions(*rows_, RowActions());
   Layout().OpenAs(kSize, 1);
 }
 
@@ -79,12 +80,25 @@ QWidget* BatchWindow::Choice() {
 }
 
 QWidget* BatchWindow::Rows() {
-  auto* rows = Named("FLEX", new GridView(batch_.FLEX));
-  rows->Tint = [](int column, const QString& text) {
+  rows_ = Named("FLEX", new GridView(batch_.FLEX));
+  rows_->Tint = [](int column, const QString& text) {
     return column == staged::Product && text.trimmed().size() <= kMarkAlone ? Softened(0xFFC080)
                                                                             : QColor();
   };
-  return rows;
+  return rows_;
+}
+
+// What the right button offers on a row.
+ContextActions BatchWindow::RowActions() {
+  const auto ticks = [this](const QString& text, const QString& key, size_t option) {
+    return ContextAction{.Text = text, .Key = key, .Event = [this, option] {
+                           Act([this, option] { batch_.Option1[option].Click(); });
+                         }};
+  };
+  return {ticks("모두 선택", "Alt+1", 0), ticks("선택 반전", "Alt+2", 1),
+          ticks("선택 해제", "Alt+3", 2), {},
+          ButtonLine("Command1_3"),       ButtonLine("Command1_4"),
+          ButtonLine("Command1_0")};
 }
 
 QWidget* BatchWindow::Foot() {

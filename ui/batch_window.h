@@ -5,6 +5,7 @@
 namespace store {
 
 class FRM_DT900_01;
+class GridView;
 
 /// The window of `FRM_DT900_01`: what the slips get in common on top, the staged rows with their
 /// ticks, and at the bottom what the ticked ones come to and what is done with them.
@@ -16,9 +17,11 @@ class BatchWindow : public FormWindow {
   static QWidget* Header();
   static QWidget* Choice();
   QWidget* Rows();
+  ContextActions RowActions();
   static QWidget* Foot();
 
   FRM_DT900_01& batch_;
+  GridView* rows_ = nullptr;
 };
 
 }  // namespace store

@@ -70,6 +70,8 @@ BoardWindow::BoardWindow(frm_Start& form) : FormWindow(form), board_(form) {
   OnShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_P),
              [this] { Act([this] { board_.PrintLastReceipt(); }); });
   BindControls();
+  OfferActions(*slips_, SlipActions());
+  OfferActions(*notices_, {KeyLine("공지 열기", Key::Enter, board_.FLEX0)});
   TitleTells([] { return Session.StoreName; });
   Layout().OpenAs(kSize, 1);
   slips_->setFocus();
@@ -146,6 +148,20 @@ QWidget* BoardWindow::Slips() {
     return column == board::State ? StateTint(text) : QColor();
   };
   return slips_;
+}
+
+// What the right button offers on a slip.
+ContextActions BoardWindow::SlipActions() {
+  return {KeyLine("전표 열기", Key::Enter, board_.FLEX1),
+          ButtonLine("Image5"),
+          ButtonLine("Image1_4"),
+          {},
+          ButtonLine("Image1_0"),
+          ButtonLine("Image1_1"),
+          {},
+          ButtonLine("LaDraft"),
+          ButtonLine("LaDeleted"),
+          ButtonLine("Image1_3")};
 }
 
 QWidget* BoardWindow::Sums() {

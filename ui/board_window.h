@@ -30,6 +30,7 @@ class BoardWindow : public FormWindow {
   QWidget* Notices();
   QWidget* PartnerPane();
   QWidget* ConditionPane();
+  ContextActions SlipActions();
   void MakeNoticePane();
   void PlaceNoticePane();
 

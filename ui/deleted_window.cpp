@@ -18,15 +18,16 @@ constexpr QSize kSize(860, 520);
 }  // namespace
 
 DeletedWindow::DeletedWindow(frmDeleted& form) : FormWindow(form) {
+  auto* slips = Named("FLEX1", new GridView(form.FLEX1));
   auto* content = Column();
   content->addWidget(
-      ListAndDetails(Titled(HeadingLabel("오늘 삭제한 발주 (내일은 되살릴 수 없습니다)"),
-                            Named("FLEX1", new GridView(form.FLEX1))),
+      ListAndDetails(Titled(HeadingLabel("오늘 삭제한 발주 (내일은 되살릴 수 없습니다)"), slips),
                      Titled(HeadingLabel("전표 내용"), Named("FLEX2", new GridView(form.FLEX2)))),
       1);
   content->addWidget(Foot());
   FillWindow(*this, content);
   BindControls();
+  OfferActions(*slips, {ButtonLine("Command1")});
   Layout().OpenAs(kSize, 0.7);
 }
 

@@ -18,15 +18,16 @@ constexpr QSize kSize(760, 520);
 }  // namespace
 
 DraftsWindow::DraftsWindow(frmDrafts& form) : FormWindow(form) {
+  auto* slips = Named("FLEX1", new GridView(form.FLEX1));
   auto* content = Column();
-  content->addWidget(ListAndDetails(Titled(HeadingLabel("저장하지 않은 발주와 입고"),
-                                           Named("FLEX1", new GridView(form.FLEX1))),
+  content->addWidget(ListAndDetails(Titled(HeadingLabel("저장하지 않은 발주와 입고"), slips),
                                     Titled(HeadingLabel("적어 둔 내용"),
                                            Named("FLEX2", new GridView(form.FLEX2)))),
                      1);
   content->addWidget(Foot());
   FillWindow(*this, content);
   BindControls();
+  OfferActions(*slips, {ButtonLine("Command1"), ButtonLine("Command2")});
   Layout().OpenAs(kSize, 0.7);
 }
 

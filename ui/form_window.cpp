@@ -57,6 +57,7 @@ FormWindow::FormWindow(Form& form) : form_(form) {
                                       Qt::ControlModifier | Qt::KeypadModifier | Qt::Key_Minus}) {
     OnShortcut(minus, [] { StepTypeSize(-1); });
   }
+  OnShortcut(QKeySequence(Qt::CTRL | Qt::Key_F), [this] { FilterRows(); });
 }
 
 FormWindow::~FormWindow() = default;
@@ -94,6 +95,30 @@ void FormWindow::OnPress(KeyButton& button, std::function<void()> event) {
   OnShortcut(button.Keys(), [&button] {
     if (button.isVisible()) button.click();
   });
+}
+
+void FormWindow::OfferActions(GridView& grid, ContextActions actions) {
+  grid.SetContextActions(std::move(actions));
+  worked_.push_back(&grid);
+}
+
+ContextAction FormWindow::ButtonLine(const QString& name) const {
+  auto* button = dynamic_cast<KeyButton*>(findChild<QPushButton*>(name));
+  Q_ASSERT(button != nullptr);
+  return {.Button = button};
+}
+
+ContextAction FormWindow::KeyLine(const QString& text, Key key, const Grid& grid, Control& at) {
+  return {.Text = text,
+          .Key = WrittenKey(key),
+          .Enabled = [&grid, &at] { return at.Enabled && grid.Row() >= grid.FixedRows(); },
+          .Event = [this, key, &at] { Act([this, key, &at] { form_.Press(key, &at); }); }};
+}
+
+ContextAction FormWindow::BoxLine(const QString& text, const Grid& grid, Control& box) {
+  return {.Text = text,
+          .Enabled = [&grid, &box] { return box.Enabled && grid.Row() >= grid.FixedRows(); },
+          .Event = [this, &box] { Act([this, &box] { form_.SetFocus(box); }); }};
 }
 
 void FormWindow::OnShortcut(const QKeySequence& keys, std::function<void()> event) {
@@ -207,15 +232,37 @@ void FormWindow::FocusMoved(QWidget& to, bool fromThisWindow) {
   }
 }
 
-bool FormWindow::InOpenCell(const QWidget& at) const {
+bool FormWindow::InTypedText(const QWidget& at) const {
   return std::any_of(grids_.begin(), grids_.end(),
-                     [&](const GridView* grid) { return grid->IsOpenCell(at); });
+                     [&](const GridView* grid) { return grid->TakesTyping(at); });
+}
+
+/// Escape among filtered rows shows them all again, before it means anything to the form.
+bool FormWindow::EscapesFilter(const QWidget& at) const {
+  const auto filtered = std::find_if(grids_.begin(), grids_.end(), [&](const GridView* grid) {
+    return grid == &at && grid->FilterIsOpen();
+  });
+  if (filtered == grids_.end()) return false;
+  (*filtered)->CloseFilter();
+  return true;
+}
+
+void FormWindow::FilterRows() {
+  for (const std::vector<GridView*>* grids : {&grids_, &worked_}) {
+    for (GridView* grid : *grids) {
+      const bool isMeant = grids == &worked_ || grid->hasFocus();
+      if (!isMeant || !grid->isVisible() || !grid->MayArrange()) continue;
+      grid->OpenFilter();
+      return;
+    }
+  }
 }
 
 bool FormWindow::KeyPressed(const QKeyEvent& event, QWidget& at) {
   const Key key = NamedKey(event);
-  if (InOpenCell(at) && !IsFunctionKey(event)) return false;
+  if (InTypedText(at) && !IsFunctionKey(event)) return false;
   if (qobject_cast<const QMenuBar*>(&at) != nullptr) return false;  // a person walks along it
+  if (key == Key::Escape && EscapesFilter(at)) return true;
 
   const bool walks = key == Key::Up || key == Key::Down || key == Key::Delete || key == Key::Tab;
   if (key != Key::None && event.isAutoRepeat() && !walks) return true;  // a key that was held down

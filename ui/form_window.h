@@ -9,6 +9,8 @@
 #include <vector>
 
 #include "forms/form.h"
+#include "forms/grid.h"
+#include "ui/context_action.h"
 #include "ui/scan_run.h"
 #include "ui/window_layout.h"
 
@@ -44,6 +46,19 @@ class FormWindow : public QWidget {
   void OnShortcut(const QKeySequence& keys, std::function<void()> event);
   /// A grid whose open cell is taken over by `Act`.
   void KeepOpenCellsOf(GridView& grid) { grids_.push_back(&grid); }
+  /// The lines of a grid's context menu that are this window's own. The first grid with such lines
+  /// is the one that Ctrl+F filters from elsewhere in the window.
+  void OfferActions(GridView& grid, ContextActions actions);
+  /// A line that does what the button of that name does.
+  ContextAction ButtonLine(const QString& name) const;
+  /// A line that does what the key does while `at` has the keyboard; it is there for a current row
+  /// of `grid`.
+  ContextAction KeyLine(const QString& text, Key key, const Grid& grid, Control& at);
+  ContextAction KeyLine(const QString& text, Key key, Grid& grid) {
+    return KeyLine(text, key, grid, grid);
+  }
+  /// A line that gives the keyboard to a box into which something about the current row is typed.
+  ContextAction BoxLine(const QString& text, const Grid& grid, Control& box);
   /// The names of published controls for which the layout has no widget.
   std::vector<std::string> ControlsWithoutWidget() const;
 
@@ -81,7 +96,9 @@ class FormWindow : public QWidget {
   QWidget* WidgetOf(const Control* control) const;
   void FollowFocus();
   void QueueActivate();
-  bool InOpenCell(const QWidget& at) const;
+  bool InTypedText(const QWidget& at) const;
+  bool EscapesFilter(const QWidget& at) const;
+  void FilterRows();
   void ChainTabOrder();
   bool ScanTakes(const QKeyEvent& event, const QWidget& at);
   bool ShortcutTakes(const QKeyEvent& event);
@@ -97,6 +114,7 @@ class FormWindow : public QWidget {
   std::vector<std::pair<QKeySequence, std::function<void()>>> shortcuts_;
   std::vector<GridView*> grids_;
   ScanRun scan_;
+  std::vector<GridView*> worked_;  // the grids with lines of their own
   QEventLoop* loop_ = nullptr;
   unsigned focusSeen_ = 0;
   bool named_ = false;

@@ -39,6 +39,8 @@ void GridColumns::MeasureAnew() {
 }
 
 void GridColumns::ShowColumns() {
+  // What the form hides by now may have been all that a person had left.
+  if (Shown().empty()) switchedOff_.clear();
   const bool before = std::exchange(sharing_, true);  // showing one is no drag
   for (int column = 0; column < grid_.Cols(); ++column) {
     if (view_.isColumnHidden(column) == IsShown(column)) {
@@ -71,7 +73,8 @@ bool GridColumns::MeasureRows(int first, int last) {
     need.Format = format;
     const int before = need.Width;
     for (int row = first; row < end; ++row) {
-      if (!grid_.RowHidden(row + grid_.FixedRows())) Measure(need, model_.index(row, column));
+      const QModelIndex index = model_.index(row, column);
+      if (!grid_.RowHidden(model_.GridRow(index))) Measure(need, index);
     }
     grown = grown || need.Width > before;
   }
@@ -170,50 +173,77 @@ std::vector<int> GridColumns::Optional() const {
   return optional;
 }
 
+std::vector<int> GridColumns::Offered() const {
+  std::vector<int> offered;
+  for (int column = 0; column < grid_.Cols(); ++column) {
+    const GridColumn& asked = grid_.Columns()[static_cast<size_t>(column)];
+    if (!asked.Hidden || asked.Optional) offered.push_back(column);
+  }
+  return offered;
+}
+
 bool GridColumns::IsShown(int column) const {
   const GridColumn& asked = grid_.Columns()[static_cast<size_t>(column)];
-  return !asked.Hidden || (asked.Optional && switchedOn_.contains(column));
+  if (asked.Hidden) return asked.Optional && switchedOn_.contains(column);
+  return asked.Editable || !switchedOff_.contains(column);
+}
+
+std::vector<int> GridColumns::Shown() const {
+  std::vector<int> shown = Offered();
+  std::erase_if(shown, [this](int column) { return !IsShown(column); });
+  return shown;
+}
+
+bool GridColumns::MaySwitch(int column) const {
+  if (grid_.Columns()[static_cast<size_t>(column)].Editable) return false;
+  return !IsShown(column) || Shown().size() > 1;
 }
 
 void GridColumns::Switch(int column, bool on) {
-  if (on) {
-    switchedOn_.insert(column);
+  if (on == IsShown(column) || !MaySwitch(column)) return;
+  const bool isHidden = grid_.Columns()[static_cast<size_t>(column)].Hidden;
+  std::set<int>& changed = isHidden ? switchedOn_ : switchedOff_;
+  if (on == isHidden) {
+    changed.insert(column);
   } else {
-    switchedOn_.erase(column);
+    changed.erase(column);
   }
   dragged_.erase(column);
   Follow();
 }
 
-// --- kept as a text: "0:40 2:310 +3", widths by column and the columns switched on
+// --- kept as a text: "0:40 2:310 +3 -4", widths by column and the columns switched on and off
 
 QString GridColumns::Layout() const {
   QStringList parts;
   for (const auto& [column, width] : dragged_) parts << QString("%1:%2").arg(column).arg(width);
   for (const int column : switchedOn_) parts << QString("+%1").arg(column);
+  for (const int column : switchedOff_) parts << QString("-%1").arg(column);
   return parts.join(' ');
 }
 
 void GridColumns::TakeLayout(const QString& text) {
   std::map<int, int> dragged;
   std::set<int> switchedOn;
+  std::set<int> switchedOff;
   for (const QString& part : text.split(' ', Qt::SkipEmptyParts)) {
     bool isColumn = false;
     bool isWidth = true;
-    const bool on = part.startsWith('+');
-    const int column = (on ? part.mid(1) : part.section(':', 0, 0)).toInt(&isColumn);
-    const int width = on ? kNarrowest : part.section(':', 1).toInt(&isWidth);
+    const bool isSwitch = part.startsWith('+') || part.startsWith('-');
+    const int column = (isSwitch ? part.mid(1) : part.section(':', 0, 0)).toInt(&isColumn);
+    const int width = isSwitch ? kNarrowest : part.section(':', 1).toInt(&isWidth);
     const bool stands = isColumn && isWidth && column >= 0 && column < grid_.Cols() &&
                         width >= kNarrowest && width <= kWidest;
     if (!stands) return;
-    if (on) {
-      switchedOn.insert(column);
+    if (isSwitch) {
+      (part.startsWith('+') ? switchedOn : switchedOff).insert(column);
     } else {
       dragged[column] = width;
     }
   }
   dragged_ = std::move(dragged);
   switchedOn_ = std::move(switchedOn);
+  switchedOff_ = std::move(switchedOff);
   Follow();
 }
 

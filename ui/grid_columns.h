@@ -32,9 +32,14 @@ class GridColumns {
   /// A border that a person drags moves between two columns; the others stay.
   void MoveBorder(int section, int oldSize, int newSize);
 
-  /// The columns that a person may switch on and off.
+  /// The columns that are hidden until a person wants them.
   std::vector<int> Optional() const;
+  /// The columns among which a person chooses: all but those that the form keeps hidden.
+  std::vector<int> Offered() const;
   bool IsShown(int column) const;
+  std::vector<int> Shown() const;
+  /// False for what one types into, and for the last column that is left.
+  bool MaySwitch(int column) const;
   void Switch(int column, bool on);
 
   /// What a person has changed; empty for nothing.
@@ -61,6 +66,7 @@ class GridColumns {
   const GridModel& model_;
   std::map<int, int> dragged_;  // widths, by column
   std::set<int> switchedOn_;
+  std::set<int> switchedOff_;
   std::map<int, ColumnNeed> needs_;
   bool sharing_ = false;
 };

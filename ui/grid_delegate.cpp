@@ -12,6 +12,7 @@ namespace store {
 namespace {
 
 constexpr int kTextMargin = 4;
+constexpr int kCopyBar = 3;
 
 /// A magnifier: look at this slip.
 void PaintMark(QPainter& painter, const QRect& cell) {
@@ -91,6 +92,7 @@ void GridDelegate::PaintGround(QPainter& painter, const QRect& cell,
                                const QModelIndex& index) const {
   const QVariant asked = index.data(Qt::BackgroundRole);
   QColor ground(look::Paper);
+  if (view_.IsToBeCopied(index.row())) ground = QColor(look::RestingRow);
   if (IsMarked(index)) {
     ground = QColor(view_.hasFocus() ? look::CurrentRow : look::RestingRow);
   }
@@ -131,6 +133,10 @@ void GridDelegate::PaintPlace(QPainter& painter, const QRect& cell,
   painter.setPen(QColor(look::Line));
   painter.drawLine(cell.bottomLeft(), cell.bottomRight());
   if (!view_.MarksRow()) painter.drawLine(cell.topRight(), cell.bottomRight());
+  // A bar before what is copied, so that it is never taken for what is marked.
+  if (view_.IsToBeCopied(index.row()) && index.column() == view_.Columns().Shown().front()) {
+    painter.fillRect(QRect(cell.topLeft(), QSize(kCopyBar, cell.height())), QColor(look::Accent));
+  }
   if (!IsMarked(index)) return;
   painter.setPen(QColor(view_.hasFocus() ? look::Bright : look::Muted));
   painter.drawLine(cell.topLeft(), cell.topRight());

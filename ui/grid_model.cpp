@@ -30,33 +30,40 @@ int Alignment(const GridColumn& column, const std::string& cell) {
 }  // namespace
 
 GridModel::GridModel(const Grid& grid)
-    : grid_(grid),
-      seen_(grid.Revision()),
-      rows_(grid.Rows() - grid.FixedRows()),
-      columns_(grid.Cols()) {}
+    : grid_(grid), shown_(grid), seen_(grid.Revision()), columns_(grid.Cols()) {}
 
-bool GridModel::Follow() {
+bool GridModel::Follow(bool holdFilter) {
   if (grid_.Revision() == seen_) return false;
   seen_ = grid_.Revision();
-  const int rows = std::max(0, grid_.Rows() - grid_.FixedRows());
-  if (rows != rows_ || grid_.Cols() != columns_) {
+  if (shown_.HaveChanged() || grid_.Cols() != columns_) {
     beginResetModel();
-    rows_ = rows;
+    shown_.Follow(holdFilter);
     columns_ = grid_.Cols();
     endResetModel();
     return true;
   }
+  shown_.Follow(holdFilter);
   if (columns_ == 0) return true;
   emit headerDataChanged(Qt::Horizontal, 0, columns_ - 1);
-  if (rows_ > 0) emit dataChanged(index(0, 0), index(rows_ - 1, columns_ - 1));
+  const int rows = rowCount();
+  if (rows > 0) emit dataChanged(index(0, 0), index(rows - 1, columns_ - 1));
   return true;
 }
 
-QModelIndex GridModel::IndexOf(int gridRow, int column) const {
-  return gridRow < grid_.FixedRows() ? QModelIndex() : index(gridRow - grid_.FixedRows(), column);
+void GridModel::Rearrange(const std::function<void(GridRows& rows)>& change) {
+  beginResetModel();
+  change(shown_);
+  endResetModel();
 }
 
-int GridModel::rowCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : rows_; }
+QModelIndex GridModel::IndexOf(int gridRow, int column) const {
+  const int place = gridRow < grid_.FixedRows() ? -1 : shown_.PlaceOf(gridRow);
+  return place < 0 ? QModelIndex() : index(place, column);
+}
+
+int GridModel::rowCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : shown_.Count();
+}
 
 int GridModel::columnCount(const QModelIndex& parent) const {
   return parent.isValid() ? 0 : columns_;
@@ -102,7 +109,9 @@ QVariant GridModel::headerData(int section, Qt::Orientation orientation, int rol
   if (orientation != Qt::Horizontal || section >= grid_.Cols()) return {};
   if (role == Qt::TextAlignmentRole) return Qt::AlignCenter;
   if (role != Qt::DisplayRole || grid_.FixedRows() == 0) return {};
-  return ToQt(grid_.TextMatrix(0, section));
+  const QString header = ToQt(grid_.TextMatrix(0, section));
+  if (shown_.SortedBy() != section) return header;
+  return header + (shown_.Order() == RowOrder::Ascending ? " ▲" : " ▼");
 }
 
 }  // namespace store

@@ -1,35 +1,33 @@
 #include "ui/grid_view.h"
 
+#include <QContextMenuEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMenu>
+#include <QPointer>
+#include <QScopedValueRollback>
 #include <QToolTip>
 #include <algorithm>
 #include <utility>
 
 #include "ui/cell_editor.h"
 #include "ui/desk.h"
+#include "ui/filter_line.h"
 #include "ui/grid_delegate.h"
+#include "ui/grid_header.h"
+#include "ui/grid_menu.h"
 #include "ui/key_names.h"
 #include "ui/qt_text.h"
 #include "ui/style.h"
-#include "ui/window_layout.h"
 
 namespace store {
 namespace {
 
-/// Sets a flag for as long as it lives.
-class Flagged {
- public:
-  explicit Flagged(bool& flag) : flag_(flag), before_(flag) { flag_ = true; }
-  ~Flagged() { flag_ = before_; }
-  Flagged(const Flagged&) = delete;
-  Flagged& operator=(const Flagged&) = delete;
-
- private:
-  bool& flag_;
-  bool before_;
-};
+GridHeader* PutHeader(QTableView& view) {
+  auto* header = new GridHeader(&view);
+  view.setHorizontalHeader(header);
+  return header;
+}
 
 }  // namespace
 
@@ -37,11 +35,14 @@ GridView::GridView(Grid& grid, int lines, QWidget* parent)
     : QTableView(parent),
       grid_(grid),
       model_(grid),
+      header_(PutHeader(*this)),
       columns_(*this, grid, model_),
-      editor_(new CellEditor(viewport())) {
+      editor_(new CellEditor(viewport())),
+      filter_(new FilterLine(header_)) {
   setModel(&model_);
   setItemDelegate(new GridDelegate(*this));
   setSelectionMode(NoSelection);
+  setSelectionBehavior(SelectRows);  // or a press on a title would choose a row
   setEditTriggers(NoEditTriggers);
   setTabKeyNavigation(false);
   setShowGrid(false);
@@ -52,7 +53,7 @@ GridView::GridView(Grid& grid, int lines, QWidget* parent)
   verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
   verticalHeader()->setMinimumSectionSize(1);
   horizontalHeader()->setVisible(grid.FixedRows() > 0);
-  horizontalHeader()->setSectionsClickable(false);
+  horizontalHeader()->setSectionsClickable(true);
   horizontalHeader()->setHighlightSections(false);
   horizontalHeader()->setContextMenuPolicy(Qt::CustomContextMenu);
   setAttribute(Qt::WA_InputMethodEnabled);
@@ -69,6 +70,15 @@ GridView::GridView(Grid& grid, int lines, QWidget* parent)
     verticalHeader()->setDefaultSectionSize(RowHeight(lines));
     columns_.MeasureAnew();
   });
+  connect(horizontalHeader(), &QHeaderView::sectionClicked, this, &GridView::TitleClicked);
+  filter_->Typed = [this](const QString& text) { FilterBy(text); };
+  filter_->GoneOn = [this] { GoOnToRows(); };
+  filter_->Closed = [this] { CloseFilter(); };
+  grid_.SeenBeside = [view = QPointer(this), &grid](int row, int step) {
+    return view == nullptr ? GridRows(grid).Beside(row, step)
+                           : view->model_.ShownRows().Beside(row, step);
+  };
+  columns_.Follow();
 }
 
 // --- following the form
@@ -76,11 +86,13 @@ GridView::GridView(Grid& grid, int lines, QWidget* parent)
 void GridView::Follow() {
   if (updatesEnabled() != grid_.Redraw) setUpdatesEnabled(grid_.Redraw);
   if (!grid_.Redraw) return;
-  const Flagged flagged(following_);
-  if (model_.Follow()) {
+  const QScopedValueRollback following(following_, true);
+  if (model_.Follow(filter_->HasKeyboard())) {
     if (openRow_ != 0) CloseCell(false, 0);
+    CopyNoMore();
     columns_.Follow();
     FollowHiddenRows();
+    FollowFilter();
   }
   FollowCurrentCell();
   FollowTopRow();
@@ -92,18 +104,23 @@ void GridView::FollowTopRow() {
   topRowSeen_ = grid_.TopRowRevision();
   executeDelayedItemsLayout();
   updateGeometries();
-  scrollTo(model_.index(grid_.TopRow(), ShownColumn(0)), PositionAtTop);
+  const QModelIndex top = model_.IndexOf(grid_.TopRow() + grid_.FixedRows(), ShownColumn(0));
+  if (top.isValid()) scrollTo(top, PositionAtTop);
 }
 
+// Where a person has sorted or filtered, what the form hides is left out with the rest.
 void GridView::FollowHiddenRows() {
-  for (int row = grid_.FixedRows(); row < grid_.Rows(); ++row) {
-    const int shown = row - grid_.FixedRows();
-    if (isRowHidden(shown) != grid_.RowHidden(row)) setRowHidden(shown, grid_.RowHidden(row));
+  const bool own = model_.ShownRows().AreOwn();
+  const int rows = model_.rowCount();
+  for (int place = 0; place < rows; ++place) {
+    const bool hidden = own && grid_.RowHidden(model_.ShownRows().RowAt(place));
+    if (isRowHidden(place) != hidden) setRowHidden(place, hidden);
   }
 }
 
 void GridView::FollowCurrentCell() {
   const bool none = grid_.FixedRows() > 0 && grid_.Row() < grid_.FixedRows();
+  if (!none) KeepInSight(grid_.Row());
   const QModelIndex wanted =
       none ? QModelIndex() : model_.IndexOf(grid_.Row(), ShownColumn(grid_.Col()));
   if (wanted == currentIndex()) return;
@@ -121,19 +138,28 @@ int GridView::ShownColumn(int column) const {
   return 0;
 }
 
-// What can be switched on, and the way back from everything that was changed.
 void GridView::OpenHeaderMenu(const QPoint& at) {
   QMenu menu;
-  for (const int column : columns_.Optional()) {
-    QAction* optional = menu.addAction(ToQt(grid_.TextMatrix(0, column)));
-    optional->setCheckable(true);
-    optional->setChecked(columns_.IsShown(column));
-    connect(optional, &QAction::toggled, this,
-            [this, column](bool on) { columns_.Switch(column, on); });
-  }
-  menu.addSeparator();
-  connect(menu.addAction(kFirstLayoutText), &QAction::triggered, this, [] { ForgetLayouts(); });
+  FillHeaderMenu(menu, *this, horizontalHeader()->logicalIndexAt(at));
   menu.exec(horizontalHeader()->mapToGlobal(at));
+}
+
+// What the menu does must hit what is marked, so the row under the pointer is marked first.
+void GridView::contextMenuEvent(QContextMenuEvent* event) {
+  TakeOverOpenCell();
+  QPoint at = event->globalPos();
+  if (event->reason() == QContextMenuEvent::Keyboard) {
+    at = viewport()->mapToGlobal(visualRect(currentIndex()).bottomLeft());
+  } else if (const QModelIndex pointed = indexAt(event->pos()); pointed.isValid()) {
+    if (!IsToBeCopied(pointed.row())) CopyNoMore();
+    setFocus(Qt::MouseFocusReason);
+    const std::optional<CopyRange> kept = copy_;
+    setCurrentIndex(pointed);
+    copy_ = kept;
+  }
+  QMenu menu;
+  FillRowMenu(menu, *this, currentIndex().column());
+  menu.exec(at);
 }
 
 void GridView::SwitchOptionalColumns() {
@@ -151,7 +177,7 @@ void GridView::scrollContentsBy(int dx, int dy) {
   QTableView::scrollContentsBy(dx, dy);
   // What the form has asked for and has not got yet is not taken back by what a new list does.
   const bool followed = topRowSeen_ == grid_.TopRowRevision();
-  if (dy != 0 && followed) grid_.NoteTopRow(std::max(0, rowAt(0)));
+  if (dy != 0 && followed) NoteTopRow();
   if (dy != 0) columns_.MeasureView();
   PlaceOpenCell();
 }
@@ -160,6 +186,7 @@ void GridView::scrollContentsBy(int dx, int dy) {
 
 void GridView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
   QTableView::currentChanged(current, previous);
+  CopyNoMore();
   setAttribute(Qt::WA_InputMethodEnabled);
   viewport()->update();
   if (following_ || !current.isValid()) return;
@@ -169,18 +196,31 @@ void GridView::currentChanged(const QModelIndex& current, const QModelIndex& pre
 void GridView::focusInEvent(QFocusEvent* event) {
   {
     // The table would choose a row by itself; which row is current is for the form to say.
-    const Flagged flagged(following_);
+    const QScopedValueRollback following(following_, true);
     QTableView::focusInEvent(event);
     FollowCurrentCell();
   }
   setAttribute(Qt::WA_InputMethodEnabled);
 }
 
+void GridView::focusOutEvent(QFocusEvent* event) {
+  QTableView::focusOutEvent(event);
+  const bool stays =
+      event->reason() == Qt::PopupFocusReason || event->reason() == Qt::ActiveWindowFocusReason;
+  if (!stays) CopyNoMore();
+}
+
 // One cell is marked, and it is the one that is clicked: the left button alone chooses it, when it
 // goes down, and wherever the mouse slips to until the button is let go, the click is that cell's.
 void GridView::mousePressEvent(QMouseEvent* event) {
   if (event->button() != Qt::LeftButton) return;
-  pressed_ = indexAt(event->position().toPoint());
+  const QModelIndex at = indexAt(event->position().toPoint());
+  if (event->modifiers() == Qt::ShiftModifier && marksRow_ && currentIndex().isValid()) {
+    if (at.isValid()) CopyUpTo(at.row());
+    return;
+  }
+  CopyNoMore();
+  pressed_ = at;
   QTableView::mousePressEvent(event);
 }
 
@@ -233,6 +273,11 @@ void GridView::leaveEvent(QEvent* event) {
 // --- typing
 
 void GridView::keyPressEvent(QKeyEvent* event) {
+  if (event->matches(QKeySequence::Copy)) {
+    CopyRows();
+    return;
+  }
+  if (ExtendsCopy(*event)) return;
   const bool opens = event->key() == Qt::Key_F2 || NamedKey(*event) == Key::Enter;
   if (opens) {
     if (!OpenCell()) event->ignore();
@@ -328,8 +373,8 @@ void GridView::AcceptCell(int row, int column, const std::string& typed, int ste
   });
   // What the form refused stays in front of the person.
   const bool accepted = grid_.TextMatrix(row, column) == typed;
-  const int next = row + step;
-  if (step == 0 || !accepted || next < grid_.FixedRows() || next >= grid_.Rows()) return;
+  const int next = step == 0 || !accepted ? -1 : model_.ShownRows().Beside(row, step);
+  if (next < 0) return;
   Dispatch([&] { grid_.Select(next, column); });
 }
 

@@ -1,17 +1,23 @@
 #pragma once
 
 #include <QPersistentModelIndex>
+#include <QPointer>
 #include <QTableView>
 #include <functional>
+#include <optional>
 #include <string>
+#include <vector>
 
 #include "forms/grid.h"
+#include "ui/context_action.h"
 #include "ui/grid_columns.h"
 #include "ui/grid_model.h"
 
 namespace store {
 
 class CellEditor;
+class FilterLine;
+class GridHeader;
 
 /// Shows a grid of a form and lets a person walk, click and type in it. Row heights are uniform and
 /// nothing is measured by row, so that a whole item list fills as fast as ten lines.
@@ -26,8 +32,35 @@ class GridView : public QTableView {
   void MarkCellsOnly() { marksRow_ = false; }
   bool MarksRow() const { return marksRow_; }
 
+  /// The window's own lines of the context menu.
+  void SetContextActions(ContextActions actions) { actions_ = std::move(actions); }
+  const ContextActions& Actions() const { return actions_; }
+
   /// Shows the columns that can be switched on, or takes them away again.
   void SwitchOptionalColumns();
+  void SwitchColumn(int column, bool on);
+
+  /// Whether the rows can be sorted and filtered: where each is one thing, under titles.
+  bool MayArrange() const { return marksRow_ && grid_.FixedRows() > 0; }
+  /// Sorts what is shown. The grid's own rows stay as they are.
+  void SortBy(int column, RowOrder order);
+  /// Opens the line that filters the rows, or puts the keyboard into it.
+  void OpenFilter();
+  bool FilterIsOpen() const;
+  /// Shows all rows again; the keyboard goes back to where it came from.
+  void CloseFilter();
+
+  /// Puts the marked row on the clipboard, or the rows that Shift or Ctrl+A has chosen with it.
+  void CopyRows();
+  void CopyAllRows();
+  /// Whether the row stands in what `CopyRows` copies beyond the marked one.
+  bool IsToBeCopied(int shownRow) const;
+
+  /// Opens the whole grid in a spreadsheet. A window that has a way of its own says which, and its
+  /// key.
+  void Export();
+  void ExportBy(std::function<void()> way, const QString& key);
+  const QString& ExportKey() const { return exportKey_; }
   /// Which columns are shown and how wide; to be kept and put back.
   GridColumns& Columns() { return columns_; }
 
@@ -36,6 +69,8 @@ class GridView : public QTableView {
 
   /// Brings the view into line with the grid.
   void Follow();
+  /// Whether `widget` is typed into by itself: the open cell, or the line of the filter.
+  bool TakesTyping(const QWidget& widget) const;
   /// Whether `widget` is the open cell.
   bool IsOpenCell(const QWidget& widget) const;
   /// Takes over what stands in the open cell, if one is open.
@@ -57,12 +92,27 @@ class GridView : public QTableView {
   void mouseDoubleClickEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
   void leaveEvent(QEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
 
  private:
   void FollowHiddenRows();
   void FollowCurrentCell();
+  void TitleClicked(int column);
+  void Rearrange(const std::function<void(GridRows& rows)>& change);
+  void ShowArranged();
+  void FilterBy(const QString& text);
+  void FollowFilter();
+  void HideFilter();
+  void GoOnToRows();
+  void KeepInSight(int row);
+  void NoteTopRow();
   void OpenHeaderMenu(const QPoint& at);
   int ShownColumn(int column) const;
+  void CopyShown(int first, int last);
+  bool ExtendsCopy(const QKeyEvent& event);
+  void CopyUpTo(int shownRow);
+  void CopyNoMore();
   void Clicked(const QModelIndex& index, bool letGoThere);
   void DoubleClicked(const QModelIndex& index);
   void TypeText(const QString& text);
@@ -75,13 +125,25 @@ class GridView : public QTableView {
 
   Grid& grid_;
   GridModel model_;
+  GridHeader* header_;
   GridColumns columns_;
   CellEditor* editor_;
-  int openRow_ = 0;  // row of the open cell in the grid; 0 when none is open
+  FilterLine* filter_;
+  QPointer<QWidget> cameFrom_;  // had the keyboard before the filter
+  int openRow_ = 0;             // row of the open cell in the grid; 0 when none is open
   int openColumn_ = -1;
   unsigned topRowSeen_ = 0;
   QPersistentModelIndex pointed_;  // the cell under the pointer
   QPersistentModelIndex pressed_;  // the cell on which the button went down and is still held
+  /// Rows as they are shown, from the one that was marked to where Shift has led from it.
+  struct CopyRange {
+    int From;
+    int To;
+  };
+  std::optional<CopyRange> copy_;
+  ContextActions actions_;
+  std::function<void()> export_;
+  QString exportKey_;
   bool marksRow_ = true;
   bool following_ = false;
 };

@@ -13,6 +13,8 @@ class KeyButton : public QPushButton {
 
   const QKeySequence& Keys() const { return keys_; }
 
+  const QString& WrittenKey() const { return key_; }
+
   /// Writes a key on the button that the form or a control handles by itself.
   void WriteKey(const QString& key);
   /// The one button of a window that most work ends with.

@@ -1,5 +1,7 @@
 #include "ui/key_names.h"
 
+#include <map>
+
 namespace store {
 namespace {
 
@@ -43,6 +45,16 @@ Key NamedKey(const QKeyEvent& event) {
     default:
       return Key::None;
   }
+}
+
+QString WrittenKey(Key key) {
+  static const std::map<Key, const char*> kWritten = {
+      {Key::Enter, "Enter"}, {Key::Escape, "Esc"}, {Key::Tab, "Tab"}, {Key::Up, "↑"},
+      {Key::Down, "↓"},      {Key::Delete, "Del"}, {Key::F1, "F1"},   {Key::F3, "F3"},
+      {Key::F4, "F4"},       {Key::F5, "F5"},      {Key::F6, "F6"},   {Key::F9, "F9"},
+      {Key::F10, "F10"},     {Key::F12, "F12"}};
+  const auto written = kWritten.find(key);
+  return written == kWritten.end() ? QString() : QString(written->second);
 }
 
 QString TypedText(const QKeyEvent& event) {

@@ -10,6 +10,9 @@ namespace store {
 /// Alt or Shift, which belong to the window.
 Key NamedKey(const QKeyEvent& event);
 
+/// How the key is written on buttons and in menus.
+QString WrittenKey(Key key);
+
 /// The text that the key types, or nothing when it is a command.
 QString TypedText(const QKeyEvent& event);
 

@@ -29,11 +29,23 @@ LookupWindow::LookupWindow(LookupForm& form) : FormWindow(form), lookup_(form) {
   auto* content = Column();
   content->addWidget(SearchLine());
   content->addWidget(Tabs());
-  content->addWidget(Named("FLEX1", new GridView(form.FLEX1)), 1);
+  auto* matches = Named("FLEX1", new GridView(form.FLEX1));
+  matches->ExportBy([this] { Act([this] { lookup_.Press(Key::F12, &lookup_.FLEX1); }); }, "F12");
+  content->addWidget(matches, 1);
   content->addWidget(Foot());
   FillWindow(*this, content);
   BindControls();
+  OfferActions(*matches, MatchActions());
   Layout().OpenAs(kSize, 0.7);
+}
+
+// What the right button offers on a match.
+ContextActions LookupWindow::MatchActions() {
+  return {KeyLine("선택", Key::Enter, lookup_.FLEX1),
+          {},
+          ButtonLine("Command2"),
+          ButtonLine("Command3"),
+          ButtonLine("Command4")};
 }
 
 QWidget* LookupWindow::SearchLine() {

@@ -13,6 +13,7 @@ class LookupWindow : public FormWindow {
   explicit LookupWindow(LookupForm& form);
 
  private:
+  ContextActions MatchActions();
   static QWidget* SearchLine();
   QWidget* Tabs();
   QWidget* Foot();

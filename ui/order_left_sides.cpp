@@ -60,13 +60,14 @@ void AddPeriod(QHBoxLayout& row) {
   row.addWidget(Named("DTPicker1_1", new QDateEdit));
 }
 
-GridView* SelectionGrid(Grid& grid) {
+GridView* SelectionGrid(FormWindow& window, Grid& grid) {
   auto* view = Named("PRHELP", new GridView(grid));
   view->MarkCellsOnly();
+  window.OfferActions(*view, {window.KeyLine("품목 보기", Key::Enter, grid)});
   return view;
 }
 
-QWidget* KindSide(KindPane& pane, StockViewPane* stock) {
+QWidget* KindSide(FormWindow& window, KindPane& pane, StockViewPane* stock) {
   auto* column = Column();
   if (stock != nullptr) {
     auto* row = BareRow();
@@ -75,11 +76,11 @@ QWidget* KindSide(KindPane& pane, StockViewPane* stock) {
     row->addStretch();
     column->addLayout(row);
   }
-  column->addWidget(SelectionGrid(pane.PRHELP), 1);
+  column->addWidget(SelectionGrid(window, pane.PRHELP), 1);
   return Titled(HeadingLabel("상품 분류"), Holding(column));
 }
 
-QWidget* SelectionSide(SelectionPane& pane) {
+QWidget* SelectionSide(FormWindow& window, SelectionPane& pane) {
   auto* row = BareRow();
   row->addWidget(Option("Option1_0", "1"));
   row->addWidget(Option("Option1_1", "2"));
@@ -91,7 +92,7 @@ QWidget* SelectionSide(SelectionPane& pane) {
   }
   auto* column = Column();
   column->addLayout(row);
-  column->addWidget(SelectionGrid(pane.PRHELP), 1);
+  column->addWidget(SelectionGrid(window, pane.PRHELP), 1);
   return Titled(HeadingLabel("분류 · 발주처"), Holding(column));
 }
 
@@ -161,8 +162,9 @@ QWidget* ProposalSide(FormWindow& window, ProposalPane& pane) {
 
 QWidget* OrderLeftSide(FormWindow& window, OrderForm& form) {
   if (auto* proposal = dynamic_cast<ProposalPane*>(&form)) return ProposalSide(window, *proposal);
-  if (auto* selection = dynamic_cast<SelectionPane*>(&form)) return SelectionSide(*selection);
-  return KindSide(dynamic_cast<KindPane&>(form), dynamic_cast<StockViewPane*>(&form));
+  if (auto* selection = dynamic_cast<SelectionPane*>(&form))
+    return SelectionSide(window, *selection);
+  return KindSide(window, dynamic_cast<KindPane&>(form), dynamic_cast<StockViewPane*>(&form));
 }
 
 }  // namespace store

@@ -52,6 +52,8 @@ OrderWindow::OrderWindow(OrderForm& form) : FormWindow(form), order_(form) {
   new ProgressPanel(*this);
   OnShortcut(QKeySequence(Qt::CTRL | Qt::Key_P), [this] { Act([this] { order_.PrintStored(); }); });
   BindControls();
+  OfferActions(*lines_, LineActions());
+  OfferActions(*items_, ItemActions());
   TitleTells([this] { return StoreAnd(order_.Text1); });
   Layout().OpenAs(kSize, 1);
 }
@@ -129,8 +131,8 @@ QWidget* OrderWindow::ItemBox() {
 }
 
 QWidget* OrderWindow::Lines() {
-  auto* lines = Named("FLEX1", new GridView(order_.FLEX1, kTwoLines));
-  OnShortcut(QKeySequence(Qt::CTRL | Qt::Key_G), [lines] { lines->SwitchOptionalColumns(); });
+  lines_ = Named("FLEX1", new GridView(order_.FLEX1, kTwoLines));
+  OnShortcut(QKeySequence(Qt::CTRL | Qt::Key_G), [this] { lines_->SwitchOptionalColumns(); });
   auto* refused = Named("LaRefused", new ElidedLabel);
   refused->setProperty("role", "warning");
   refused->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
@@ -143,21 +145,45 @@ QWidget* OrderWindow::Lines() {
   undo->addStretch();
   auto* column = Column();
   column->setContentsMargins(0, 0, 0, 0);
-  column->addWidget(Titled(heading, lines), 1);
+  column->addWidget(Titled(heading, lines_), 1);
   column->addLayout(undo);
   auto* widget = new QWidget;
   widget->setLayout(column);
   return widget;
 }
 
+// What the right button offers on a line of the order.
+ContextActions OrderWindow::LineActions() {
+  return {BoxLine("수량 고치기", order_.FLEX1, order_.inBox),
+          KeyLine("줄 삭제", Key::Delete, order_.FLEX1),
+          {},
+          ButtonLine("ItemLookup"),
+          ButtonLine("Image5"),
+          {.Text = "규격 켜고 끄기", .Key = "Ctrl+G", .Event = [this] {
+             lines_->SwitchOptionalColumns();
+           }}};
+}
+
+// What it offers on an item of the pick list.
+ContextActions OrderWindow::ItemActions() {
+  return {{.Text = "발주량 넣기",
+           .Key = "F2",
+           .Enabled = [this] { return order_.FLEX2.Row() >= 1; },
+           .Event = [this] { items_->OpenCell(); }},
+          KeyLine("판매이력", Key::F4, order_.FLEX2),
+          {},
+          ButtonLine("Image1_0"),
+          ButtonLine("Image1_1")};
+}
+
 QWidget* OrderWindow::PickList() {
-  auto* items = Named("FLEX2", new GridView(order_.FLEX2));
+  items_ = Named("FLEX2", new GridView(order_.FLEX2));
   OnShortcut(QKeySequence(Qt::CTRL | Qt::Key_Down),
              [this] { Act([this] { order_.WalkToPickList(); }); });
   OnShortcut(QKeySequence(Qt::CTRL | Qt::Key_Up),
              [this] { Act([this] { order_.SetFocus(order_.inBox); }); });
   auto* list =
-      Titled(HeadingLabel("품목 선택   (Ctrl+↓ ↑,  수량 입력 후 Enter,  F4 판매이력)"), items);
+      Titled(HeadingLabel("품목 선택   (Ctrl+↓ ↑,  수량 입력 후 Enter,  F4 판매이력)"), items_);
   auto* column = Column();
   column->setContentsMargins(0, 0, 0, 0);
   column->addWidget(list, 1);

@@ -7,6 +7,7 @@ class QLayout;
 
 namespace store {
 
+class GridView;
 class HistoryChartView;
 class OrderForm;
 
@@ -29,8 +30,12 @@ class OrderWindow : public FormWindow {
   QWidget* History();
   QWidget* Foot();
   void FollowHistory();
+  ContextActions LineActions();
+  ContextActions ItemActions();
 
   OrderForm& order_;
+  GridView* lines_ = nullptr;
+  GridView* items_ = nullptr;
   HistoryChartView* history_ = nullptr;
   std::string historyOf_;  // the item last drawn
 };

@@ -54,6 +54,7 @@ QWidget* QuickPickWindow::CategoryList(int level) {
   auto* kinds =
       Named(QString("PRHELP_%1").arg(level), new GridView(panel_.PRHELP[index], kFingerLines));
   kinds->MarkCellsOnly();
+  OfferActions(*kinds, {KeyLine("고르기", Key::Enter, panel_.PRHELP[index])});
   return Titled(Heading(titles[index], level), kinds);
 }
 

@@ -30,14 +30,27 @@ ReceiptWindow::ReceiptWindow(frm_PE_UNIT& form) : FormWindow(form), receipt_(for
   auto* content = Column();
   content->addWidget(Header());
   content->addWidget(QuantityBox());
-  content->addWidget(Named("FLEX1", new GridView(form.FLEX1, kTwoLines)), 1);
+  auto* lines = Named("FLEX1", new GridView(form.FLEX1, kTwoLines));
+  lines->ExportBy([this] { ExportLines(); }, "F12");
+  content->addWidget(lines, 1);
   content->addWidget(Foot());
   FillWindow(*this, content);
   OnShortcut(QKeySequence(Qt::CTRL | Qt::Key_P),
              [this] { Act([this] { receipt_.PrintStored(); }); });
   BindControls();
+  OfferActions(*lines, LineActions());
   TitleTells([this] { return StoreAnd(receipt_.Text1); });
   Layout().OpenAs(kSize, 1);
+}
+
+// What the right button offers on a line.
+ContextActions ReceiptWindow::LineActions() {
+  return {BoxLine("입고량 고치기", receipt_.FLEX1, receipt_.inBox),
+          KeyLine("줄 삭제", Key::Delete, receipt_.FLEX1, receipt_.inBox)};
+}
+
+void ReceiptWindow::ExportLines() {
+  Act([this] { receipt_.FLEX1_KeyDown(Key::F12); });
 }
 
 QWidget* ReceiptWindow::Header() {

@@ -18,6 +18,8 @@ class ReceiptWindow : public FormWindow {
   static QWidget* Header();
   QWidget* QuantityBox();
   QWidget* Foot();
+  ContextActions LineActions();
+  void ExportLines();
 
   frm_PE_UNIT& receipt_;
 };

@@ -36,11 +36,17 @@ ReceiveWindow::ReceiveWindow(DT9RECEV& form) : FormWindow(form) {
   auto* content = Column();
   content->addWidget(Heading());
   content->addWidget(State());
-  content->addWidget(Named("FLEX", new GridView(form.FLEX)), 1);
+  auto* rows = Named("FLEX", new GridView(form.FLEX));
+  content->addWidget(rows, 1);
   content->addWidget(PartnerChange());
   content->addWidget(Buttons());
   FillWindow(*this, content);
   BindControls();
+  OfferActions(*rows, {KeyLine("품목등록", Key::Enter, form.FLEX),
+                       {},
+                       ButtonLine("Command1_1"),
+                       ButtonLine("Command1_3"),
+                       ButtonLine("Command2")});
   Layout().OpenAs(kSize, 1);
 }
 

@@ -59,6 +59,31 @@ TEST_F(OrderWindowTest, AKeyLeadsFromTheBoxToThePickListAndBack) {
   EXPECT_TRUE(Box().hasFocus());
 }
 
+TEST_F(OrderWindowTest, TheBoxWalksAndFiltersTheLinesAsTheyAreSeen) {
+  GridView& lines = FindGrid(*window_, "FLEX1");
+  Dispatch([this] {
+    form_.FLEX1.AddItem("\t1000003\t8803\r 라면\t\t0\t900\t\t1\t900\t90\t990");
+    form_.FLEX1.SetRow(3);
+  });
+  lines.SortBy(2, RowOrder::Descending);  // 콜라 우유 라면
+  Box().setFocus();
+  QTest::keyClick(&Box(), Qt::Key_Up);
+  EXPECT_EQ(form_.FLEX1.Row(), 1);
+  QTest::keyClick(&Box(), Qt::Key_Up);
+  EXPECT_EQ(form_.FLEX1.Row(), 2);
+  QTest::keyClick(&Box(), Qt::Key_Up);
+  EXPECT_EQ(form_.FLEX1.Row(), 2);
+  QTest::keyClick(&Box(), Qt::Key_F, Qt::ControlModifier);
+  QTest::keyClicks(window_->focusWidget(), "8803");
+  EXPECT_EQ(form_.FLEX1.Row(), 3);
+  QTest::keyClick(window_->focusWidget(), Qt::Key_Escape);
+  EXPECT_TRUE(Box().hasFocus());
+  EXPECT_FALSE(form_.IsClosed());
+  QTest::keyClick(&Box(), Qt::Key_Delete);
+  EXPECT_EQ(form_.FLEX1.Rows(), 3);
+  EXPECT_EQ(form_.FLEX1.TextMatrix(form_.FLEX1.Row(), 1), "1000001") << "the line seen above it";
+}
+
 TEST_F(OrderWindowTest, AStoredSlipCannotBeSavedByItsKey) {
   bool boxShown = false;
   Host.MsgBox = [&](const std::string&, int, const std::string&) {

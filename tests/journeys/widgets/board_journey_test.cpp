@@ -12,6 +12,8 @@
 namespace store {
 namespace {
 
+constexpr int kTotalColumn = 7;
+
 class BoardJourney : public Journey {
  protected:
   GridView& Slips() { return dynamic_cast<GridView&>(*Board().findChild<QTableView*>("FLEX1")); }
@@ -102,6 +104,38 @@ TEST_F(BoardJourney, TheMenuRunsWhatTheButtonsRunAndTakesNoKeyOfTheirs) {
   QTest::keyClick(Board().focusWidget(), Qt::Key_F, Qt::AltModifier);
   EXPECT_EQ(open(), nullptr);
   EXPECT_EQ(Hands::KeyboardAt(Board()), "Text2");
+}
+
+// Sorted and filtered, the key hits the slip in colour, and the next one in colour is its
+// neighbour.
+TEST_F(BoardJourney, WhatIsSortedAndFilteredIsHitWhereItIsMarked) {
+  ASSERT_NO_FATAL_FAILURE(Start("u01,1111"));
+  Hands::Press(Board(), Qt::Key_2, Qt::AltModifier);
+  ASSERT_TRUE(Hands::Wait([this] { return AllAre("발주편집"); }));
+  const int rows = Slips().model()->rowCount();
+  const auto inOrder = [this] { return Hands::Rows(Board(), "FLEX1", {kSlipIdColumn}); };
+  const auto asRead = inOrder();
+  Slips().SortBy(kTotalColumn, RowOrder::Descending);
+  const auto sorted = inOrder();
+  ASSERT_NE(sorted, asRead);
+  Hands::ClickCell(Board(), "FLEX1", 1, 2);
+  EXPECT_EQ(Named(), "선택전표  발주편집  " + sorted[1][0]);
+  hands.AnswerBox("[발주편집]전표가 삭제되었습니다.", Qt::Key_Return);
+  Hands::Press(Board(), Qt::Key_F8);
+  EXPECT_EQ(RowOf(sorted[1][0]), -1);
+  EXPECT_EQ(IdAt(0), sorted[0][0]) << "the list that was read anew is sorted as before";
+  EXPECT_EQ(IdAt(Marked()), sorted[2][0]);
+  EXPECT_EQ(Named(), "선택전표  발주편집  " + sorted[2][0]);
+
+  const std::string partner = Hands::Rows(Board(), "FLEX1", {2})[0][0];
+  Hands::Press(Board(), Qt::Key_F, Qt::ControlModifier);
+  Hands::Type(Board(), QString::fromStdString(partner));
+  EXPECT_LT(Slips().model()->rowCount(), rows - 1);
+  EXPECT_EQ(Named(), "선택전표  발주편집  " + IdAt(Marked()));
+  EXPECT_EQ(Hands::Rows(Board(), "FLEX1", {2})[static_cast<size_t>(Marked())][0], partner);
+  Hands::Press(Board(), Qt::Key_Escape);
+  EXPECT_EQ(Slips().model()->rowCount(), rows - 1);
+  EXPECT_TRUE(Board().isVisible());
 }
 
 TEST_F(BoardJourney, ARefreshLeavesTheListWhereItWas) {
