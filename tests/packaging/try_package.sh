@@ -29,12 +29,12 @@ trap leave EXIT
 
 inside() { # a command on the bare system
   env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin HOME=/root LC_ALL=C.UTF-8 DEBIAN_FRONTEND=noninteractive \
-    chroot "$bare" "$@"
+    /usr/sbin/chroot "$bare" "$@"
 }
 
 as_clerk() { # a command of a user who may write nowhere but at home
   env -i PATH=/usr/bin:/bin HOME=$clerk LC_ALL=C.UTF-8 DISPLAY="${DISPLAY:-}" \
-    STORE_CONNECT_TIMEOUT=1 chroot --userspec=clerk "$bare" "$@"
+    XDG_RUNTIME_DIR=$clerk/runtime STORE_CONNECT_TIMEOUT=1 /usr/sbin/chroot --userspec=clerk "$bare" "$@"
 }
 
 install_in() { inside apt-get install -y -qq --no-install-recommends "$@" >"$folder/apt.log" 2>&1 || {
@@ -65,16 +65,16 @@ files_of_system() { # all but what the package manager and the user keep for the
 }
 
 open_screen() {
-  local number=71
-  while [ -e "/tmp/.X$number-lock" ]; do number=$((number + 1)); done
-  Xvfb ":$number" -screen 0 1024x768x24 -nolisten tcp >/dev/null 2>&1 &
+  rm -f "$folder/screen"
+  # It takes a number that nobody has, and tells it when it can be drawn on.
+  Xvfb -displayfd 3 -screen 0 1024x768x24 -nolisten tcp 3>"$folder/screen" >/dev/null 2>&1 &
   screen=$!
-  export DISPLAY=:$number
-  for _ in $(seq 50); do
-    xdotool getdisplaygeometry >/dev/null 2>&1 && return
+  for _ in $(seq 100); do
+    [ -s "$folder/screen" ] && break
     sleep 0.1
   done
-  fail "no screen came up"
+  DISPLAY=:$(cat "$folder/screen")
+  export DISPLAY
 }
 
 shows() { # whether a window of that title comes up
@@ -85,6 +85,9 @@ shows() { # whether a window of that title comes up
   fail "no window \"$1\" came up"
 }
 
+# Without a window manager nobody else gives a window the keyboard.
+to_window() { xdotool windowfocus "$(xdotool search --onlyvisible --name "$1" | tail -1)"; }
+
 # Another machine's server would be needed to get further than a refused login.
 use_as_a_clerk() {
   local ended=0
@@ -92,15 +95,18 @@ use_as_a_clerk() {
   program=$!
   shows "^로그인$"
   scrot -o "$folder/login.png"
-  xdotool search --onlyvisible --name "^로그인$" windowfocus
+  to_window "^로그인$"
   xdotool type --delay 30 u01
   xdotool key Return
   xdotool type --delay 30 geheim1
   xdotool key Return
   shows "^에러$"
   scrot -o "$folder/refused.png"
-  xdotool search --onlyvisible --name "^에러$" windowfocus key Return
-  xdotool search --onlyvisible --name "^로그인$" windowfocus key Escape
+  to_window "^에러$"
+  xdotool key Return
+  sleep 0.5
+  to_window "^로그인$"
+  xdotool key Escape
   for _ in $(seq 100); do
     kill -0 "$program" 2>/dev/null || break
     sleep 0.1
@@ -118,6 +124,7 @@ use_as_a_clerk() {
 log_has() { grep -q "$1" "$bare$clerk/.local/share/store-client/log/store-client.log" || fail "the log lacks: $1"; }
 
 check_log() {
+  cp "$bare$clerk/.local/share/store-client/log/store-client.log" "$folder/" || return
   local log=$bare$clerk/.local/share/store-client/log/store-client.log
   log_has "program: started: version $(dpkg-deb -f "$deb" Version)"
   log_has "program: ended"
@@ -149,6 +156,7 @@ say "using it"
 mkdir -p "$bare$clerk/.config/store-client"
 printf '[TARNWICK]\r\n데이터서버=127.0.0.1;PORT=9\r\n회사아이디=demo\r\n' | iconv -t CP949 \
   >"$bare$clerk/.config/store-client/OPT.ini"
+mkdir -m 700 "$bare$clerk/runtime"
 inside chown -R clerk: $clerk
 open_screen
 use_as_a_clerk
