@@ -5,6 +5,7 @@
 #include <mutex>
 
 #include "basics/deployment.h"
+#include "gateway/database_software.h"
 
 namespace store {
 namespace {
@@ -104,6 +105,7 @@ bool OdbcConnection::Connect(const std::string& connectString, std::string& erro
   }
   connected_ = true;
   if (!Prepare(errorText)) return false;
+  NoteDatabaseSoftware(handle_);
   NoteAnswer();
   return true;
 }

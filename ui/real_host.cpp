@@ -14,7 +14,9 @@
 #include <cstring>
 #include <memory>
 
+#include "basics/deployment.h"
 #include "forms/host.h"
+#include "forms/program_places.h"
 #include "ui/desk.h"
 #include "ui/instance_call.h"
 #include "ui/instance_lock.h"
@@ -86,6 +88,16 @@ bool PreviousInstance() {
   return false;
 }
 
+ProgramPlaces PlacesOfInstallation() {
+  const std::string machine = STORE_MACHINE_OPTIONS;
+  if (machine.empty()) return {};
+  const std::string own =
+      FromQt(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation));
+  return {.OwnOptions = own + "/store-client/OPT.ini",
+          .MachineOptions = machine,
+          .WorkFolder = DataFolder()};
+}
+
 void OpenWindows() {
   Host.MsgBox = ShowMessage;
   Host.ShowModal = [](Form& form) { TheDesk().ShowModal(form); };
@@ -142,6 +154,7 @@ void OpenRealHost() {
   Host.ProgramFolder = FromQt(QCoreApplication::applicationDirPath());
   Host.DocumentsFolder =
       FromQt(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+  Places = PlacesOfInstallation();
   Host.ProgramTitle = "TARNWICK";
   Host.Version = {STORE_VERSION_MAJOR, STORE_VERSION_MINOR, STORE_VERSION_PATCH};
 }

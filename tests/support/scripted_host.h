@@ -73,6 +73,8 @@ class ScriptedHost {
   /// The per-user settings store: application, section, key.
   std::map<std::tuple<std::string, std::string, std::string>, std::string> Settings;
 
+  std::vector<std::string> Records;  ///< Of the log, in order, those of this thread.
+
   /// The program's folder: empty, and gone with this object. The user's documents lie in it.
   const std::filesystem::path Folder;
 

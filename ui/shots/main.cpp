@@ -3,8 +3,8 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QDateEdit>
+#include <QDialog>
 #include <QLineEdit>
-#include <QMessageBox>
 #include <QSettings>
 #include <QTemporaryDir>
 
@@ -14,6 +14,7 @@
 #include "lookup/HELP_BPR.h"
 #include "lookup/party_lookups.h"
 #include "start/Main_Start.h"
+#include "ui/about.h"
 #include "ui/desk.h"
 #include "ui/qt_text.h"
 #include "ui/run_store.h"
@@ -149,13 +150,12 @@ void ShootNewProduct(Director& director) {
 
 void ShootBox(Director& director, const QString& name, std::function<void()> show) {
   director.WhenShown("frm_Start", [show = std::move(show)](FormWindow&) { Dispatch(show); });
-  director.When(
-      [] { return qobject_cast<QMessageBox*>(QApplication::activeModalWidget()) != nullptr; },
-      [&director, name] {
-        QWidget& box = *QApplication::activeModalWidget();
-        director.Save(box, name);
-        Press(box, Qt::Key_Escape);
-      });
+  director.When([] { return qobject_cast<QDialog*>(QApplication::activeModalWidget()) != nullptr; },
+                [&director, name] {
+                  QWidget& box = *QApplication::activeModalWidget();
+                  director.Save(box, name);
+                  Press(box, Qt::Key_Escape);
+                });
 }
 
 void ShootBoxes(Director& director) {
@@ -164,6 +164,7 @@ void ShootBoxes(Director& director) {
     Host.MsgBox("발주일자를 확인바랍니다. 현재일기준 전후한달만 처리가능합니다.", box::Critical,
                 "발주일자오류");
   });
+  ShootBox(director, "about", [] { ShowAbout(TheDesk().FrontWindow()); });
 }
 
 QSize AskedSize(const QString& text) {
