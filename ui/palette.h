@@ -30,6 +30,13 @@ inline constexpr QRgb RestingRow = 0xFFE4EBF1;  ///< While it has not.
 inline constexpr QRgb Warning = 0xFFB3261E;
 }  // namespace look
 
+/// On paper, which is white whatever the windows look like.
+namespace paper {
+inline constexpr QRgb Ink = 0xFF000000;
+inline constexpr QRgb Line = 0xFFB0B0B0;
+inline constexpr QRgb Header = 0xFFECECEC;  ///< Behind the heads of a table.
+}  // namespace paper
+
 /// A colour that a form asked for, as a tint that can be looked at all day.
 QColor Softened(int rgb);
 
