@@ -64,8 +64,18 @@ FormWindow::~FormWindow() = default;
 
 void FormWindow::Act(const std::function<void()>& event) {
   if (gone_) return;
+  if (TheDesk().InsideCall()) return ActLater(event);
   for (GridView* grid : grids_) grid->TakeOverOpenCell();
   if (!gone_) Dispatch(event);
+}
+
+/// A button that a key has pressed before the call comes up by a timer, within the call.
+void FormWindow::ActLater(std::function<void()> event) {
+  const QPointer<FormWindow> here(this);
+  TheDesk().WaitsForPainting([here, event = std::move(event)] {
+    if (here == nullptr) return;
+    QTimer::singleShot(0, here, [here, event] { here->Act(event); });
+  });
 }
 
 void FormWindow::BindControls() {
@@ -259,6 +269,7 @@ void FormWindow::FilterRows() {
 }
 
 bool FormWindow::KeyPressed(const QKeyEvent& event, QWidget& at) {
+  if (TheDesk().InsideCall()) return true;
   const Key key = NamedKey(event);
   if (InTypedText(at) && !IsFunctionKey(event)) return false;
   if (qobject_cast<const QMenuBar*>(&at) != nullptr) return false;  // a person walks along it

@@ -35,6 +35,8 @@ class FormWindow : public QWidget {
 
   /// An event of the form from the hand of a person: a cell that is being typed into is taken over
   /// first, as when one types a quantity and presses the save key.
+  /// Within a call to the server, where no event of a form may run, it waits for the end of the
+  /// call, and so has to own what it touches.
   void Act(const std::function<void()>& event);
 
   /// Something else that follows the form after each event.
@@ -96,6 +98,7 @@ class FormWindow : public QWidget {
   QWidget* WidgetOf(const Control* control) const;
   void FollowFocus();
   void QueueActivate();
+  void ActLater(std::function<void()> event);
   bool InTypedText(const QWidget& at) const;
   bool EscapesFilter(const QWidget& at) const;
   void FilterRows();

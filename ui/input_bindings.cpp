@@ -147,7 +147,7 @@ class CheckBinding : public Binding {
   CheckBinding(FormWindow& window, CheckBox& check, QCheckBox& box)
       : Binding(check, box), check_(check), box_(box) {
     QObject::connect(&box, &QCheckBox::clicked, &window, [&window, &check](bool ticked) {
-      window.Act([&] {
+      window.Act([&check, ticked] {
         check.Value = ticked ? 1 : 0;
         if (check.Click) check.Click();
       });

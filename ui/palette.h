@@ -54,6 +54,13 @@ inline constexpr Hue Waiting{0xFFB7791F, 0xFFE0A94A};    ///< For an answer.
 inline constexpr Hue Connected{0xFF2E7D32, 0xFF69B86D};  ///< With the server.
 }  // namespace look
 
+/// On paper, which is white whatever the windows look like.
+namespace paper {
+inline constexpr QRgb Ink = 0xFF000000;
+inline constexpr QRgb Line = 0xFFB0B0B0;
+inline constexpr QRgb Header = 0xFFECECEC;  ///< Behind the heads of a table.
+}  // namespace paper
+
 /// A colour that a form asked for, as a tint that can be looked at all day.
 QColor Softened(int rgb);
 

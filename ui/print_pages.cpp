@@ -7,6 +7,7 @@
 #include <numeric>
 
 #include "ui/barcode.h"
+#include "ui/palette.h"
 #include "ui/qt_text.h"
 
 namespace store {
@@ -29,9 +30,9 @@ constexpr double kHairline = 4;
 constexpr size_t kHeadColumns = 2;
 constexpr double kLeastName = 500;
 
-const QColor kInk(Qt::black);
-const QColor kLine(0xB0, 0xB0, 0xB0);
-const QColor kHeader(0xEC, 0xEC, 0xEC);
+const QColor kInk(paper::Ink);
+const QColor kLine(paper::Line);
+const QColor kHeader(paper::Header);
 
 int FlagsOf(const PrintedColumn& column) {
   const int wrap = column.IsName ? int(Qt::TextWrapAnywhere) : 0;

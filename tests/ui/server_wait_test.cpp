@@ -218,6 +218,17 @@ TEST_F(ServerWaitTest, CountedWorkShowsHowFarItHasCome) {
   EXPECT_EQ(window_->findChild<QFrame*>("WaitPanel"), nullptr);
 }
 
+// A key presses a button, and a timer lets it come up again.
+TEST_F(ServerWaitTest, AButtonThatComesUpWithinACallActsBehindIt) {
+  Dispatch([&] {
+    QTimer::singleShot(0, window_, [this] { Find<QPushButton>(*window_, "Command1").click(); });
+    for (int round = 0; round < 3; ++round) Host.ShowServer(ServerLink::Waiting, 300ms);
+    EXPECT_EQ(done_, "");
+    Host.ShowServer(ServerLink::Connected, 350ms);
+  });
+  EXPECT_TRUE(QTest::qWaitFor([this] { return done_ == "save "; }));
+}
+
 TEST_F(ServerWaitTest, TheLampSaysHowTheServerStandsWhileTheCallRuns) {
   ServerLamp lamp;
   lamp.resize(lamp.sizeHint());

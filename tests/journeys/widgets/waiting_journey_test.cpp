@@ -1,5 +1,6 @@
 // The database is slow, and a person presses Esc: a search is given up, a save is not.
 #include <QLabel>
+#include <QRadioButton>
 #include <QtTest>
 #include <string>
 
@@ -49,7 +50,8 @@ TEST_F(WaitingJourney, EscStopsARefreshOfTheBoard) {
   ASSERT_NO_FATAL_FAILURE(Start("u01,1111"));
   const auto slips = [this] { return Hands::Rows(Board(), "FLEX1", {kSlipIdColumn}); };
   Hands::Press(Board(), Qt::Key_4, Qt::AltModifier);
-  ASSERT_TRUE(Hands::Wait([&] { return slips().size() > 3; }));
+  auto* due = Board().findChild<QRadioButton*>("Option1_3");
+  ASSERT_TRUE(Hands::Wait([&] { return due->isChecked() && slips().size() > 3; }));
   const auto before = slips();
   {
     const Somebody locked(LockedFor(5), "demo");
