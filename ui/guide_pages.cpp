@@ -21,6 +21,7 @@ QString GuidePageOf(const std::string& formName) {
                                                 {"frm_Order03", "order_units.md"},
                                                 {"frm_OrderPLU", "quick_pick.md"},
                                                 {"frm_PE_UNIT", "receipt.md"},
+                                                {"frmPrint", "printing.md"},
                                                 {"DT9RECEV", "handheld_receive.md"},
                                                 {"frmProperties", "handheld_receive.md#차례"},
                                                 {"FRM_NAMECHK", "handheld_receive.md#차례"},
