@@ -24,6 +24,7 @@ namespace {
 constexpr QSize kSize(1024, 720);
 constexpr int kDepotLetters = 16;
 constexpr int kGap = 12;
+constexpr int kNameWidth = 100;
 constexpr int kMarkAlone = 1;  // a tax mark without a product code behind it
 
 }  // namespace
@@ -54,11 +55,11 @@ QWidget* BatchWindow::Header() {
   slip->addWidget(CaptionLabel("일자"));
   slip->addWidget(Named("DTPicker1", new QDateEdit));
   slip->addWidget(Named("Command1_1", new KeyButton({}, Qt::Key_Escape)));
-  return Group("card", Alone(Folding(row, slip)));
+  return Group("card", Folding(row, slip));
 }
 
 QWidget* BatchWindow::Choice() {
-  auto* partner = Named("Text1_1", new QLineEdit);
+  auto* partner = Named("Text1_1", AtLeast(kNameWidth, new QLineEdit));
   partner->setPlaceholderText("상호   /전화   Enter");
   auto* row = Row();
   const std::array<const char*, 3> letters = {"1", "2", "3"};
@@ -69,6 +70,7 @@ QWidget* BatchWindow::Choice() {
     row->addWidget(option);
   }
   row->addWidget(CaptionLabel("Space 선택"));
+  row->addStretch();
   auto* search = Row();
   search->addWidget(CaptionLabel("거래처"));
   search->addWidget(partner, 2);
@@ -76,7 +78,7 @@ QWidget* BatchWindow::Choice() {
   search->addWidget(Named("Command1_0", new KeyButton({}, Qt::Key_F5)));
   search->addWidget(CaptionLabel("메모"));
   search->addWidget(Named("Text1_0", new QLineEdit), 2);
-  return Group("card", Alone(Folding(row, search)));
+  return Group("card", Folding(row, search, 1));
 }
 
 QWidget* BatchWindow::Rows() {
@@ -116,7 +118,7 @@ QWidget* BatchWindow::Foot() {
   buttons->addStretch();
   buttons->addWidget(remove);
   buttons->addWidget(make);
-  return Group("totals", Alone(Folding(row, buttons)));
+  return Group("totals", Folding(row, buttons));
 }
 
 }  // namespace store

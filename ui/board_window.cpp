@@ -103,7 +103,7 @@ QWidget* BoardWindow::Actions() {
   row->addWidget(Named("HandheldMenu", new KeyButton({}, Qt::Key_F7)));
   row->addWidget(Named("LaAgain", new KeyButton({}, Qt::Key_F6)));
   row->addStretch();
-  return Folding(row, SlipFinder());
+  return Holder(Folding(row, SlipFinder()));
 }
 
 QLayout* BoardWindow::SlipFinder() {
@@ -138,7 +138,7 @@ QWidget* BoardWindow::Search() {
     period->addWidget(date);
   }
   period->addWidget(Named("Image1_3", new KeyButton({}, Qt::Key_F5)));
-  return Group("card", Alone(Folding(row, period)));
+  return Group("card", Folding(row, period));
 }
 
 QWidget* BoardWindow::Slips() {
@@ -189,7 +189,7 @@ QWidget* BoardWindow::Sums() {
     chosen->setText(slip.isEmpty() ? QString()
                                    : "선택전표  " + ToQt(board_.SelectedSlipState) + "  " + slip);
   });
-  return Group("totals", Alone(Folding(row, sum)));
+  return Group("totals", Folding(row, sum));
 }
 
 void BoardWindow::resizeEvent(QResizeEvent* event) {

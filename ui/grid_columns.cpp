@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "ui/qt_text.h"
+#include "ui/style.h"
 
 namespace store {
 namespace {
@@ -17,6 +18,7 @@ constexpr int kCellMargin = 12;
 constexpr int kMeasuredRows = 100;
 constexpr size_t kRememberedTexts = 1000;  // of a column
 constexpr int kLongestCode = 120;
+constexpr int kLeastName = 84;  // in large type
 constexpr const char* kBoldMark = "\x01";
 
 }  // namespace
@@ -115,7 +117,11 @@ int GridColumns::LeastOf(int column) const {
   if (!IsName(column)) return NeedOf(column);
   if (dragged_.contains(column)) return kNarrowest;
   const QString header = model_.headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
-  return view_.horizontalHeader()->fontMetrics().horizontalAdvance(header) + kHeaderMargin;
+  const int least = view_.horizontalHeader()->fontMetrics().horizontalAdvance(header);
+  // Figures in large type would leave nothing of a name on a small screen; better scroll to them.
+  const bool isLarge = TypeSize() > kTypeSizes.constFirst();
+  return std::max(least + kHeaderMargin,
+                  isLarge ? std::min(NeedOf(column), Scaled(kLeastName)) : 0);
 }
 
 // --- sharing

@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "ui/grid_view.h"
+#include "ui/store_style.h"
 #include "ui/style.h"
 
 namespace store {
@@ -33,14 +34,7 @@ void PaintTick(QPainter& painter, const QRect& cell, bool ticked) {
   QRect box(0, 0, size, size);
   box.moveCenter(cell.center());
   painter.setRenderHint(QPainter::Antialiasing);
-  painter.setPen(QPen(QColor(look::Muted), 1));
-  painter.setBrush(QColor(look::Paper));
-  painter.drawRoundedRect(box, 2, 2);
-  if (!ticked) return;
-  painter.setPen(QPen(QColor(look::Bright), 2));
-  painter.drawPolyline(
-      QPolygon({box.topLeft() + QPoint(2, size / 2), box.topLeft() + QPoint(size / 2 - 1, size - 3),
-                box.topLeft() + QPoint(size - 2, 3)}));
+  PaintTickBox(painter, box, ticked);
 }
 
 /// A line of text at its side of the room, cut where it does not fit. It is placed by hand: a scan

@@ -128,8 +128,11 @@ void HistoryChartView::PaintDate(QPainter& painter, int day, const QRect& column
                      Qt::AlignLeft | Qt::AlignVCenter,
                      ToQt(grid_.TextMatrix(history::Year, day)) + "." + ToQt(month));
   }
-  painter.drawText(cell.translated(0, 2 * line), Qt::AlignCenter,
-                   "-" + ToQt(grid_.TextMatrix(history::DaysBack, day)));
+  // In large type on a narrow screen there is room for every other one.
+  const bool isTight = fontMetrics().horizontalAdvance("-00 ") > column.width();
+  if (isTight && day % 2 == 0) return;
+  painter.drawText(cell.translated(0, 2 * line).adjusted(-cell.width() / 2, 0, cell.width() / 2, 0),
+                   Qt::AlignCenter, "-" + ToQt(grid_.TextMatrix(history::DaysBack, day)));
 }
 
 }  // namespace store

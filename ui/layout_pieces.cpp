@@ -4,7 +4,7 @@
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QResizeEvent>
+#include <QLineEdit>
 #include <QScreen>
 #include <QScrollArea>
 #include <QSplitter>
@@ -19,7 +19,7 @@ namespace {
 
 constexpr int kMargin = 8;
 constexpr int kSpacing = 6;
-constexpr double kLeastShare = 0.9;  // of the screen, for a window whose content is larger
+constexpr QSize kWindowFrame(8, 40);  // round a window, as desktops draw it
 
 /// As large as its content as long as the screen has room for it.
 class ScrolledPart : public QScrollArea {
@@ -36,54 +36,42 @@ class ScrolledPart : public QScrollArea {
   }
   QSize sizeHint() const override { return widget()->sizeHint(); }
   QSize minimumSizeHint() const override {
-    return widget()->minimumSizeHint().boundedTo(screen()->availableSize() * kLeastShare);
+    return widget()->minimumSizeHint().boundedTo(screen()->availableSize() - kWindowFrame);
+  }
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    // What the form writes makes the content grow, and the window with it.
+    if (watched == widget() && event->type() == QEvent::LayoutRequest) updateGeometry();
+    return QScrollArea::eventFilter(watched, event);
   }
 };
 
 /// Two groups side by side or, where that is too wide for the window, one below the other.
-class FoldingPart : public QWidget {
+class FoldingLayout : public QBoxLayout {
  public:
-  FoldingPart(QLayout* first, QLayout* second) : halves_(new QBoxLayout(QBoxLayout::LeftToRight)) {
-    halves_->setContentsMargins(0, 0, 0, 0);
-    halves_->setSpacing(kSpacing);
-    for (QLayout* half : {first, second}) {
-      half->setContentsMargins(0, 0, 0, 0);
-      halves_->addLayout(half, half == first ? 1 : 0);
-    }
-    setLayout(halves_);
-    // The layout would hold the part to the width of both.
-    halves_->setSizeConstraint(QLayout::SetNoConstraint);
+  FoldingLayout(QLayout* first, QLayout* second, int takesRoom) : QBoxLayout(LeftToRight) {
+    setSpacing(kSpacing);
+    addLayout(first);
+    addLayout(second);
+    setStretch(takesRoom, 1);
   }
-  QSize minimumSizeHint() const override {
-    const QSize first = halves_->itemAt(0)->minimumSize();
-    const QSize second = halves_->itemAt(1)->minimumSize();
-    const bool folded = halves_->direction() == QBoxLayout::TopToBottom;
-    return {std::max(first.width(), second.width()),
-            folded ? first.height() + kSpacing + second.height()
-                   : std::max(first.height(), second.height())};
+  QSize minimumSize() const override {
+    const QSize first = itemAt(0)->minimumSize();
+    const QSize second = itemAt(1)->minimumSize();
+    const bool folded = direction() == TopToBottom;
+    const QMargins margins = contentsMargins();
+    const QSize inner(std::max(first.width(), second.width()),
+                      folded ? first.height() + kSpacing + second.height()
+                             : std::max(first.height(), second.height()));
+    return inner.grownBy(margins);
   }
-
- protected:
-  void resizeEvent(QResizeEvent* event) override {
-    QWidget::resizeEvent(event);
-    Fold();
+  void setGeometry(const QRect& room) override {
+    const int sideBySide = itemAt(0)->minimumSize().width() + kSpacing +
+                           itemAt(1)->minimumSize().width() + contentsMargins().left() +
+                           contentsMargins().right();
+    const Direction wanted = sideBySide <= room.width() ? LeftToRight : TopToBottom;
+    if (direction() != wanted) setDirection(wanted);
+    QBoxLayout::setGeometry(room);
   }
-  bool event(QEvent* event) override {
-    if (event->type() == QEvent::LayoutRequest) Fold();
-    return QWidget::event(event);
-  }
-
- private:
-  void Fold() {
-    const int both = halves_->itemAt(0)->minimumSize().width() + kSpacing +
-                     halves_->itemAt(1)->minimumSize().width();
-    const auto direction = both <= width() ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom;
-    if (halves_->direction() == direction) return;
-    halves_->setDirection(direction);
-    updateGeometry();
-  }
-
-  QBoxLayout* halves_;
 };
 
 QLabel* WithRole(QLabel* label, const char* role) {
@@ -154,6 +142,11 @@ QWidget* ListAndDetails(QWidget* list, QWidget* details) {
   return halves;
 }
 
+QLineEdit* AtLeast(int pixels, QLineEdit* line) {
+  FollowLook(*line, [line, pixels] { line->setMinimumWidth(Scaled(pixels)); });
+  return line;
+}
+
 QHBoxLayout* Row() {
   auto* row = new QHBoxLayout;
   row->setSpacing(kSpacing);
@@ -179,7 +172,9 @@ QLayout* Alone(QWidget* widget) {
   return row;
 }
 
-QWidget* Folding(QLayout* first, QLayout* second) { return new FoldingPart(first, second); }
+QLayout* Folding(QLayout* first, QLayout* second, int takesRoom) {
+  return new FoldingLayout(first, second, takesRoom);
+}
 
 QWidget* Scrolled(QLayout* content) {
   auto* inner = new QWidget;

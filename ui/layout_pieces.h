@@ -11,6 +11,7 @@ class QFrame;
 class QHBoxLayout;
 class QLabel;
 class QLayout;
+class QLineEdit;
 class QVBoxLayout;
 class QWidget;
 
@@ -44,10 +45,12 @@ QWidget* ListAndDetails(QWidget* list, QWidget* details);
 QLayout* Alone(QWidget* widget);
 
 /// Two groups of things side by side or, where that is too wide for the window, one below the
-/// other. The first one takes the room that is over.
-QWidget* Folding(QLayout* first, QLayout* second);
+/// other. `takesRoom` is the one, 0 or 1, that gets the room that is over.
+QLayout* Folding(QLayout* first, QLayout* second, int takesRoom = 0);
 
 /// Rows and columns with the spacing of all windows.
+/// A line to type into that does not get narrower than `pixels`, which grow with the type.
+QLineEdit* AtLeast(int pixels, QLineEdit* line);
 QHBoxLayout* Row();
 QVBoxLayout* Column();
 /// Makes `content` the layout of a whole window. On a screen that is smaller than it, it can be

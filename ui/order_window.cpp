@@ -27,6 +27,7 @@ namespace {
 
 constexpr QSize kSize(1024, 720);
 constexpr int kTwoLines = 2;
+constexpr int kNameWidth = 100;
 
 }  // namespace
 
@@ -65,11 +66,11 @@ QWidget* OrderWindow::Header() {
   auto* buttons = Row();
   buttons->addStretch();
   AddWindowButtons(*buttons);
-  return Group("card", Alone(Folding(head, buttons)));
+  return Group("card", Folding(head, buttons));
 }
 
 void OrderWindow::AddSupplier(QHBoxLayout& row) {
-  auto* supplier = Named("Text1", new QLineEdit);
+  auto* supplier = Named("Text1", AtLeast(kNameWidth, new QLineEdit));
   auto* recent = Named("Recent", new KeyButton);
   auto* find = Named("LaCTHELP", new KeyButton("찾기"));
   recent->WriteKey("↓");
@@ -228,7 +229,7 @@ QWidget* OrderWindow::Foot() {
   buttons->addStretch();
   buttons->addWidget(save);
   buttons->addWidget(confirm);
-  return Group("totals", Alone(Folding(totals, buttons)));
+  return Group("totals", Folding(totals, buttons));
 }
 
 }  // namespace store

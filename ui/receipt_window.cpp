@@ -21,6 +21,7 @@ namespace {
 
 constexpr QSize kSize(1000, 660);
 constexpr int kTwoLines = 2;
+constexpr int kNameWidth = 100;
 constexpr int kBoxWidth = 220;
 constexpr int kGap = 24;
 
@@ -59,7 +60,7 @@ QWidget* ReceiptWindow::Header() {
   depot->setMinimumContentsLength(8);
   auto* slip = Row();
   slip->addWidget(CaptionLabel("거래처"));
-  slip->addWidget(Named("Text1", new QLineEdit), 3);
+  slip->addWidget(Named("Text1", AtLeast(kNameWidth, new QLineEdit)), 3);
   slip->addWidget(CaptionLabel("발주일자"));
   slip->addWidget(Named("DTOrderDate", new QDateEdit));
   slip->addWidget(CaptionLabel("입고일자"));
@@ -68,7 +69,7 @@ QWidget* ReceiptWindow::Header() {
   place->addWidget(CaptionLabel("입고하치장(창고)"));
   place->addWidget(depot, 2);
   place->addWidget(Named("Label4", new KeyButton("닫기", Qt::Key_Escape)));
-  return Group("card", Alone(Folding(slip, place)));
+  return Group("card", Folding(slip, place));
 }
 
 QWidget* ReceiptWindow::QuantityBox() {
@@ -101,7 +102,7 @@ QWidget* ReceiptWindow::Foot() {
   buttons->addWidget(sheet);
   buttons->addWidget(confirm);
   OnPress(*sheet, [this] { receipt_.FLEX1_KeyDown(Key::F12); });
-  return Group("totals", Alone(Folding(totals, buttons)));
+  return Group("totals", Folding(totals, buttons));
 }
 
 }  // namespace store

@@ -82,7 +82,7 @@ QWidget* ReceiveWindow::PartnerChange() {
   auto* hint = Row();
   hint->addStretch();
   hint->addWidget(CaptionLabel("********** 칸에서 Enter: 품목등록"));
-  return Group("card", Alone(Folding(row, hint)));
+  return Group("card", Folding(row, hint));
 }
 
 QWidget* ReceiveWindow::Buttons() {

@@ -4,10 +4,11 @@
 #include <QFontMetrics>
 #include <QPalette>
 #include <QPointer>
-#include <QStyleFactory>
 #include <QWidget>
 #include <utility>
 #include <vector>
+
+#include "ui/store_style.h"
 
 namespace store {
 namespace {
@@ -44,17 +45,6 @@ QFrame[role="band"] QLabel { color: @Inverse; }
 QToolTip { background: @Tip; color: @Ink; border: 1px solid @TipEdge; padding: 3px; }
 )";
 
-/// The widget style draws the edges of these darker than their ground, which is lost in the dark.
-constexpr const char* kDarkRules = R"(
-QRadioButton::indicator, QCheckBox::indicator { width: 12px; height: 12px;
-  border: 1px solid @Muted; background: @Paper; }
-QRadioButton::indicator { border-radius: 7px; }
-QCheckBox::indicator { border-radius: 2px; }
-QRadioButton::indicator:checked, QCheckBox::indicator:checked { background: @Bright;
-  border: 1px solid @Bright; }
-QRadioButton::indicator:disabled, QCheckBox::indicator:disabled { border-color: @Edge; }
-)";
-
 struct Follower {
   QPointer<QObject> Owner;
   std::function<void()> Dress;
@@ -77,7 +67,6 @@ QFont WithSize(double size) {
 
 QString Rules() {
   QString rules = QString::fromUtf8(kRules);
-  if (CurrentTheme() == Theme::Dark) rules += kDarkRules;
   // A name that another one begins with comes behind it.
   const std::pair<const char*, QColor> colours[] = {
       {"@Ink", look::Ink},         {"@Muted", look::Muted},     {"@Disabled", look::Disabled},
@@ -88,6 +77,29 @@ QString Rules() {
       {"@Inverse", look::Inverse}, {"@Warning", look::Warning}};
   for (const auto& [name, colour] : colours) rules.replace(name, colour.name());
   return rules;
+}
+
+void GiveLook(QApplication& application) {
+  QFont font;
+  font.setFamilies({"NanumGothic", "Malgun Gothic", "Noto Sans CJK KR", "sans-serif"});
+  font.setPointSizeF(Points(kWorkSize));
+  QApplication::setFont(font);
+
+  QPalette palette{QColor(look::Header), QColor(look::Window)};
+  palette.setColor(QPalette::Base, QColor(look::Paper));
+  palette.setColor(QPalette::Highlight, QColor(look::Accent));
+  palette.setColor(QPalette::HighlightedText, QColor(look::Inverse));
+  palette.setColor(QPalette::PlaceholderText, QColor(look::Muted));
+  palette.setColor(QPalette::Link, QColor(look::Bright));
+  palette.setColor(QPalette::LinkVisited, QColor(look::Bright));
+  palette.setColor(QPalette::AlternateBase, QColor(look::Card));
+  for (const QPalette::ColorRole role :
+       {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+    palette.setColor(QPalette::All, role, QColor(look::Ink));
+    palette.setColor(QPalette::Disabled, role, QColor(look::Disabled));
+  }
+  QApplication::setPalette(palette);
+  application.setStyleSheet(Rules());
 }
 
 }  // namespace
@@ -124,27 +136,8 @@ QFont BoxFont() { return WithSize(kBoxSize); }
 QFont DetailFont() { return WithSize(kDetailSize); }
 
 void ApplyStyle(QApplication& application) {
-  QApplication::setStyle(QStyleFactory::create("Fusion"));
-  QFont font;
-  font.setFamilies({"NanumGothic", "Malgun Gothic", "Noto Sans CJK KR", "sans-serif"});
-  font.setPointSizeF(Points(kWorkSize));
-  QApplication::setFont(font);
-
-  QPalette palette{QColor(look::Header), QColor(look::Window)};
-  palette.setColor(QPalette::Base, QColor(look::Paper));
-  palette.setColor(QPalette::Highlight, QColor(look::Accent));
-  palette.setColor(QPalette::HighlightedText, QColor(look::Inverse));
-  palette.setColor(QPalette::PlaceholderText, QColor(look::Muted));
-  palette.setColor(QPalette::Link, QColor(look::Bright));
-  palette.setColor(QPalette::LinkVisited, QColor(look::Bright));
-  palette.setColor(QPalette::AlternateBase, QColor(look::Card));
-  for (const QPalette::ColorRole role :
-       {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
-    palette.setColor(QPalette::All, role, QColor(look::Ink));
-    palette.setColor(QPalette::Disabled, role, QColor(look::Disabled));
-  }
-  QApplication::setPalette(palette);
-  application.setStyleSheet(Rules());
+  QApplication::setStyle(new StoreStyle);
+  GiveLook(application);
 }
 
 void ChangeLook(int typeSize, Theme theme) {
@@ -152,7 +145,7 @@ void ChangeLook(int typeSize, Theme theme) {
   if (size == type_size_now && theme == CurrentTheme()) return;
   type_size_now = size;
   SetTheme(theme);
-  ApplyStyle(*qApp);
+  GiveLook(*qApp);
   const std::vector<Follower> followers = Followers();
   for (const Follower& follower : followers) {
     if (follower.Owner != nullptr) follower.Dress();

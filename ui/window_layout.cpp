@@ -13,6 +13,7 @@
 #include "ui/form_window.h"
 #include "ui/grid_view.h"
 #include "ui/qt_text.h"
+#include "ui/style.h"
 
 namespace store {
 namespace {
@@ -79,7 +80,7 @@ QString WindowLayout::KeyOf(const QString& part) const { return window_.objectNa
 void WindowLayout::GiveFirstSize() {
   const QRect room = window_.screen()->availableGeometry();
   const double share = share_ < 1 ? share_ : kUnmaximized;
-  const QSize size = (QSizeF(room.size()) * share).toSize().expandedTo(least_);
+  const QSize size = (QSizeF(room.size()) * share).toSize().expandedTo(Scaled(least_));
   QRect place({}, size.boundedTo(room.size()));
   place.moveCenter(room.center());
   window_.setGeometry(place);

@@ -87,7 +87,7 @@ TEST_F(GuideTest, F1OpensItWhereItHasNoOtherMeaning) {
 TEST_F(GuideTest, OneReadsGoesBackAndSearches) {
   OpenGuide("board.md#공지사항", nullptr);
   GuideWindow* guide = Guide();
-  ASSERT_TRUE(QTest::qWaitForWindowExposed(guide));
+  ASSERT_TRUE(QTest::qWaitForWindowActive(guide));
   auto& view = *guide->findChild<QTextBrowser*>();
   auto& contents = *guide->findChild<QListWidget*>();
   EXPECT_EQ(view.textCursor().block().text(), "공지사항");
