@@ -4,12 +4,14 @@
 #include <QMenuBar>
 
 #include "board/frm_Start.h"
+#include "ui/about.h"
 #include "ui/binding.h"
 #include "ui/form_window.h"
 #include "ui/guide_window.h"
 #include "ui/key_button.h"
 #include "ui/qt_text.h"
 #include "ui/style.h"
+#include "ui/support_file.h"
 #include "ui/user_choices.h"
 #include "ui/window_layout.h"
 
@@ -103,7 +105,9 @@ MenuLines HelpLines(FormWindow& window, frm_Start& /*board*/) {
           {"단축키 표", page("keys.md")},
           {"메시지와 뜻", page("messages.md")},
           Border(),
-          OfButton(window, "Label4")};
+          OfButton(window, "Label4"),
+          {kSaveSupportText, [&window] { window.Act(SaveSupportFile); }},
+          {"프로그램 정보", [&window] { ShowAbout(&window); }}};
 }
 
 void Fill(QMenu& menu, const MenuLines& lines) {
