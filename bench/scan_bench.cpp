@@ -1,4 +1,5 @@
 // A scan, from the last digit of the barcode to the line on the screen.
+#include <QAccessible>
 #include <QTemporaryDir>
 #include <algorithm>
 #include <chrono>
@@ -157,6 +158,27 @@ double MedianOf(std::vector<double> times) {
   return *middle;
 }
 
+/// Makes every part of the window known, as a program does that reads the screen aloud.
+void AskForParts(const QAccessibleInterface& part) {
+  for (int i = 0; i < part.childCount(); ++i) {
+    if (const QAccessibleInterface* child = part.child(i)) AskForParts(*child);
+  }
+}
+
+/// A key press with a reader of the screen at work, and without, by turns.
+Duel KeyPressesHeard(DeskHand& hand) {
+  constexpr int kTurns = 5;
+  Duel shortest{1e9, 1e9};
+  for (int turn = 0; turn < kTurns; ++turn) {
+    QAccessible::setActive(true);
+    AskForParts(*QAccessible::queryAccessibleInterface(hand.GridArea().window()));
+    shortest.Ours = std::min(shortest.Ours, KeyPressTime(hand));
+    QAccessible::setActive(false);
+    shortest.Peer = std::min(shortest.Peer, KeyPressTime(hand));
+  }
+  return shortest;
+}
+
 }  // namespace
 
 void BenchDrafts(BenchServer& server, RatioTable& table) {
@@ -186,6 +208,8 @@ void BenchKeyPress(RatioTable& table) {
   const double few = KeyPressTimeAt(hand, order, 3);
   const double many = KeyPressTimeAt(hand, order, 300);
   table.AddTimes("a key press in an order of 300 lines, against one of 3", {many, few}, 1.2);
+  table.AddTimes("the same with a reader of the screen, against without", KeyPressesHeard(hand),
+                 1.3);
   ClearDesk();
 }
 

@@ -3,6 +3,7 @@
 
 #include "board/frm_Start.h"
 #include "gateway/gateway.h"
+#include "gateway/stoppable_reads.h"
 
 namespace store {
 namespace {
@@ -38,6 +39,7 @@ void ShowFirstRow(const std::string& statement, std::span<Label> labels) {
 }  // namespace
 
 void frm_Start::Image5_Click() {
+  const StoppableReads mayBeStopped;
   ShowPartner(FLEX1.TextMatrix(FLEX1.Row(), board::PartnerCode));
   // The conditions are looked up by the slip's total instead of its key, so the pane stays empty.
   // Customers know it that way, and it is kept.

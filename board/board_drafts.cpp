@@ -72,12 +72,11 @@ void frm_Start::Open(SlipForm& form, Draft draft) {
   form.SlipTable = draft.SlipTable;
   form.NoPriceMode = draft.NoPriceMode;
   form.WrittenEarlier = std::move(draft);
-  if (!modal) {
+  if (modal) {
+    ShowReceipt(form);
+  } else {
     Host.Show(form);
-    return;
   }
-  Host.ShowModal(form);
-  RefreshBoard();
 }
 
 }  // namespace store

@@ -8,6 +8,7 @@
 #include "board/frm_Start.h"
 #include "forms/host.h"
 #include "gateway/gateway.h"
+#include "gateway/stoppable_reads.h"
 #include "lookup/combo_fillers.h"
 #include "slips/order_types.h"
 #include "slips/slip.h"
@@ -61,8 +62,12 @@ std::string WithoutBackslashes(std::string text) {
 void frm_Start::RefreshBoard() {
   const Hourglass waiting;
   NotePlace();
-  LoadNotices();
-  LoadSlips();
+  {
+    const StoppableReads mayBeStopped;
+    LoadNotices();
+    LoadSlips();
+  }
+  // No order could be saved without the depots.
   FillDepots(Session.StoreCode, Combo1, false);
   CountDrafts();
   CountDeleted();
@@ -132,6 +137,8 @@ void frm_Start::LoadSlips() {
   const RecordsetSlot before = SlotA;
   OpenRecordset(SlotA, SqlText);
   const bool read = SlotA != nullptr && SlotA != before;
+  const char* const notRead =
+      StoppableReads::Stopped() ? " 조회를 중지했습니다" : " 서버에서 읽지 못했습니다";
   FLEX1.SetRows(1);
   double lines = 0;
   double total = 0;
@@ -144,8 +151,7 @@ void frm_Start::LoadSlips() {
   Label6[0].Caption =
       std::to_string(FLEX1.Rows() - 1) + "건   " + FormatNumber(lines, kMaskWhole) + " 상품";
   Label6[1].Caption = FormatNumber(total, FormatAmount) + "원";
-  LaRead.Caption =
-      FormatDateValue(Host.Now(), "HH:NN") + (read ? " 조회" : " 서버에서 읽지 못했습니다");
+  LaRead.Caption = FormatDateValue(Host.Now(), "HH:NN") + (read ? " 조회" : notRead);
   if (!read) return SelectSlip();
   GoToPlace(condition == place_.Condition);
   place_.Condition = condition;

@@ -5,6 +5,7 @@
 #include "forms/host.h"
 #include "forms/open_forms.h"
 #include "gateway/gateway.h"
+#include "lookup/print_slip.h"
 #include "slips/order_types.h"
 #include "slips/slip.h"
 #include "slips/slip_form.h"
@@ -69,9 +70,18 @@ void frm_Start::OpenReceipt(const std::string& slipId) {
   if (receipt == nullptr) return;
   receipt->SlipId = slipId;
   receipt->SlipTable = "PEM23";
-  Host.ShowModal(*receipt);
+  ShowReceipt(*receipt);
+}
+
+void frm_Start::ShowReceipt(SlipForm& receipt) {
+  lastForReceipt_ = receipt.SlipId;
+  Host.ShowModal(receipt);
   RefreshBoard();
 }
+
+void frm_Start::PrintSelected() { PrintSlip(SelectedSlipId); }
+
+void frm_Start::PrintLastReceipt() { PrintReceipt(lastForReceipt_); }
 
 void frm_Start::NewOrder(int buttonIndex) {
   SlipForm* order = FreeOrderForm();

@@ -62,6 +62,7 @@ void frm_Start::PublishControls() {
   Publish("HandheldMenu", HandheldMenu);
   Publish("LaDraft", LaDraft);
   Publish("LaDeleted", LaDeleted);
+  Publish("LaAgain", LaAgain);
   Publish("Image5", Image5);
   Publish("LaCT", LaCT);
   Publish("LaPM", LaPM);
@@ -96,6 +97,7 @@ void frm_Start::ConnectEvents() {
   Image3.Click = [this] { Image3_Click(); };
   LaDraft.Click = [this] { LaDraft_Click(); };
   LaDeleted.Click = [this] { LaDeleted_Click(); };
+  LaAgain.Click = [this] { LaAgain_Click(); };
   Image5.Click = [this] { Image5_Click(); };
   Label4.Click = [this] { Label4_Click(); };
   Label5[0].Click = [this] { Label5_Click(0); };

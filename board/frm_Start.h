@@ -52,6 +52,7 @@ class frm_Start : public MainWindow {
   std::array<Label, 2> Label5;      ///< 0 closes the window, 1 makes it small.
   Menu HandheldMenu{"핸디터미널"};  ///< The runs of the handheld terminal's path.
   Label LaDraft;                    ///< Drafts that can be brought back; hidden when there is none.
+  Label LaAgain{"지난 발주 다시"};  ///< Writes the selected slip's order once more.
   Label LaDeleted;                  ///< Slips deleted today that can be taken back; likewise.
   Label Image5;                     ///< "[F4]": Details of the selected slip.
   // Details.
@@ -77,6 +78,13 @@ class frm_Start : public MainWindow {
   void HandheldMenu_Click(int entry);
   void LaDraft_Click();
   void LaDeleted_Click();
+  /// A new order of what the selected slip orders, at the prices of today. The slip stays as it is,
+  /// and nothing is stored before the new order is.
+  void LaAgain_Click();
+  /// Prints the selected slip, or what has been received on it.
+  void PrintSelected();
+  /// Prints what was received on the order that was opened for receipt last.
+  void PrintLastReceipt();
   void FLEX0_RowColChange();
   void FLEX0_DblClick();
   void FLEX1_Click();
@@ -100,6 +108,7 @@ class frm_Start : public MainWindow {
   void SelectSlip();
   void OpenSlip(const std::string& slipId, const std::string& stateWord);
   void OpenReceipt(const std::string& slipId);
+  void ShowReceipt(SlipForm& receipt);
   void NewOrder(int buttonIndex);
   void DeleteOrRevert();
   void FindSlip();
@@ -124,6 +133,7 @@ class frm_Start : public MainWindow {
 
   Place place_;
   bool activated_ = false;
+  std::string lastForReceipt_;  // the order
 };
 
 /// Makes the board known by its name.

@@ -77,7 +77,10 @@ class TextBox : public Control {
   bool Masked = false;
   bool MultiLine = false;
   bool Scanned = false;  ///< A scanner writes into it, whatever stands in front of its form.
-  int BackColor = -1;    ///< 0xRRGGBB; -1 means the window's own.
+  /// A code that came into the box, with an Enter behind it, as quickly as only a scanner types.
+  /// Without this event it is entered like anything else.
+  std::function<void(const std::string& code)> Scan;
+  int BackColor = -1;  ///< 0xRRGGBB; -1 means the window's own.
 
   const std::string& Text() const { return text_; }
   void SetText(const std::string& text);
@@ -174,6 +177,13 @@ class Menu : public Control {
   std::vector<std::string> Entries;  ///< An empty one parts those before it from those behind it.
   /// The user has chosen an entry, counted from 0 with the empty ones.
   std::function<void(int entry)> Click;
+
+  /// Opens the list, as a press on the button does. The window follows.
+  void Open() { ++openings_; }
+  unsigned Openings() const { return openings_; }
+
+ private:
+  unsigned openings_ = 0;
 };
 
 /// Fires every `Interval` milliseconds while it is enabled and the interval is not 0.

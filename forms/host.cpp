@@ -15,8 +15,13 @@ HostDoor EmptyHost() {
   host.ScreenSize = [](int& width, int& height) { width = height = 0; };
   host.SetPointer = [](int) {};
   host.Beep = [] {};
+  host.ScanTaken = [] {};
   host.DoEvents = [] {};
   host.ShowServer = [](ServerLink, std::chrono::milliseconds) {};
+  host.OfferStop = [](std::chrono::milliseconds) { return false; };
+  host.ShowProgress = [](const std::string&, int, int) {};
+  host.Print = [](const PrintedDocument&) { return PrintFate::Cancelled; };
+  host.WritePdf = [](const PrintedDocument&, const std::string&) { return false; };
   host.Now = [] { return ClockTime{2000, 1, 1, 0, 0, 0}; };
   host.Sleep = [](int) {};
   host.OpenAddress = [](const std::string&) { return false; };

@@ -7,6 +7,7 @@
 
 #include "basics/dates.h"
 #include "forms/form.h"
+#include "forms/printed_document.h"
 #include "forms/serial_port.h"
 
 namespace store {
@@ -36,7 +37,11 @@ enum class ServerLink {
   Waiting,    ///< A call is running, and has been for longer than a moment.
   Connected,  ///< The last call was answered, be it with a refusal.
   Lost,       ///< The last call was given up, or has found no way to the server.
+  Stopped,    ///< A person has stopped the read; how the server stands is as it was known before.
 };
+
+/// What has become of a document that was to be printed.
+enum class PrintFate { Printed, Cancelled, Failed };
 
 struct ProgramVersionNumbers {
   int Major = 0;
@@ -71,6 +76,8 @@ struct HostDoor {
   /// One of the pointer values above.
   std::function<void(int pointer)> SetPointer;
   std::function<void()> Beep;
+  /// Tells the ear that a scan was taken; `Beep` that one was not.
+  std::function<void()> ScanTaken;
   /// Lets pending window events run, painting among them.
   std::function<void()> DoEvents;
 
@@ -78,6 +85,16 @@ struct HostDoor {
   /// lasts longer than a moment, so that the windows go on painting. `lasted` is the time that the
   /// call has taken so far. Nothing behind this door may call the server.
   std::function<void(ServerLink link, std::chrono::milliseconds lasted)> ShowServer;
+  /// Told in its place while a read lasts that the person may stop. True once they want it stopped.
+  std::function<bool(std::chrono::milliseconds lasted)> OfferStop;
+  /// How far a long step has come that can be counted; `of` is 0 when it is over. The windows
+  /// paint.
+  std::function<void(const std::string& what, int done, int of)> ShowProgress;
+
+  /// Asks for a printer and prints the document on it.
+  std::function<PrintFate(const PrintedDocument& document)> Print;
+  /// Writes the document into a file, as PDF. False when that cannot be done.
+  std::function<bool(const PrintedDocument& document, const std::string& path)> WritePdf;
 
   std::function<ClockTime()> Now;
   std::function<void(int milliseconds)> Sleep;

@@ -5,8 +5,8 @@
 
 namespace store {
 
-/// The workstation's options: file "OPT.ini" in `Host.ProgramFolder`, a private profile in code
-/// page 949 (see basics/profile_file.h).
+/// The workstation's options: file "OPT.ini" beside the program or where forms/program_places.h
+/// says, a private profile in code page 949 (see basics/profile_file.h).
 
 /// The one section of the options file.
 inline constexpr const char* kOptionSection = "TARNWICK";

@@ -32,6 +32,9 @@ class DataTier {
 
   /// Whether the server has answered the last call, be it with a refusal.
   virtual bool Reached() const { return true; }
+
+  /// Whether the last `GETSQL` was stopped by the person (gateway/stoppable_reads.h).
+  virtual bool Stopped() const { return false; }
 };
 
 /// Makes data objects by name and address. A program that puts another maker into the gateway's

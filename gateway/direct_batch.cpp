@@ -23,6 +23,9 @@ constexpr SQLINTEGER kDeadlock = 1213;
 constexpr SQLINTEGER kLockWaitOver = 1205;
 constexpr int kAttempts = 4;
 
+/// What it says when the storing itself went wrong, as a node does that is leaving its cluster.
+constexpr SQLINTEGER kCommitFailed = 1180;
+
 /// The server's number for the first statement when that is a guard that found nothing; the others
 /// count on. The server itself has none so high.
 constexpr SQLINTEGER kFirstGuard = 30000;
@@ -165,12 +168,12 @@ bool RunOneByOne(OdbcConnection& connection, const std::vector<std::string>& sta
   return done;
 }
 
-/// Sends what is a transaction by itself. When the connection breaks meanwhile, the server may have
-/// come to its end all the same.
+/// Sends what is a transaction by itself. When the connection breaks meanwhile, or the storing at
+/// its end, the server may have come through all the same.
 bool RunInOneTrip(const OdbcConnection& connection, const std::string& text,
                   BatchFailure& failure) {
   if (Run(connection, text, failure)) return true;
-  if (!connection.Alive()) SayInDoubt(failure);
+  if (!connection.Alive() || failure.Number == kCommitFailed) SayInDoubt(failure);
   return false;
 }
 

@@ -6,7 +6,9 @@
 #include "basics/deployment.h"
 #include "gateway/direct_batch.h"
 #include "gateway/direct_reader.h"
+#include "gateway/end_at_server.h"
 #include "gateway/guard.h"
+#include "gateway/stoppable_reads.h"
 
 namespace store {
 namespace {
@@ -53,6 +55,7 @@ void TellStale(Answer& answer) {
 /// changes nothing and can be made again.
 void Read(OdbcConnection& connection, const std::string& statement, Answer& answer) {
   if (!connection.RecentlyAnswered() && !connection.Alive()) return TellStale(answer);
+  if (connection.GivenUp()) return;
   OdbcStatement run(connection);
   if (run.Run(statement, answer.errorText)) answer.rows = ReadAllRows(run, answer.errorText);
   answer.done = answer.rows != nullptr;
@@ -79,27 +82,39 @@ std::string OverdueText(std::chrono::seconds limit) {
 
 }  // namespace
 
-bool DirectTier::Reach(const std::string& connectString, std::string& errorText) {
+std::string DirectTier::GaveUp(KeptConnection::End ended, std::chrono::seconds limit) {
+  kept_.reset();
+  stopped_ = ended == KeptConnection::End::Stopped;
+  return stopped_ ? kReadStopped : OverdueText(limit);
+}
+
+bool DirectTier::Reach(const std::string& connectString, std::string& errorText,
+                       bool mayBeStopped) {
   if (kept_ && keptString_ == connectString) return true;
   kept_ = std::make_unique<KeptConnection>();
   keptString_ = connectString;
   // The driver's own time-out covers the way to the server, but not a name that nobody resolves.
   const std::chrono::seconds limit = ConnectTimeout() + std::chrono::seconds(1);
   const auto answer = std::make_shared<Answer>();
-  const bool inTime = kept_->Do(
+  const KeptConnection::End ended = kept_->Do(
       [answer, connectString](OdbcConnection& connection) {
         answer->done = connection.Connect(connectString, answer->errorText);
       },
-      limit);
-  if (inTime && answer->done) return true;
-  errorText = inTime ? answer->errorText : OverdueText(limit);
+      limit, mayBeStopped);
+  if (ended != KeptConnection::End::Done) {
+    errorText = GaveUp(ended, limit);
+    return false;
+  }
+  if (answer->done) return true;
+  errorText = answer->errorText;
   kept_.reset();
   return false;
 }
 
 std::unique_ptr<Recordset> DirectTier::GETSQL(const std::string& statement, std::string& errorText,
                                               const std::string& connectString) {
-  reached_ = false;
+  reached_ = stopped_ = false;
+  const bool mayBeStopped = StoppableReads::Allowed();
   if (!IsGuard(statement)) {
     errorText = "SELECT 문만 조회할 수 있습니다.";
     return nullptr;
@@ -107,13 +122,15 @@ std::unique_ptr<Recordset> DirectTier::GETSQL(const std::string& statement, std:
   if (!NamesItsSource(connectString, errorText)) return nullptr;
   // On a stale connection the read is made once more, on a fresh one.
   for (int attempt = 0; attempt < 2; ++attempt) {
-    if (!Reach(connectString, errorText)) return nullptr;
+    if (!Reach(connectString, errorText, mayBeStopped)) return nullptr;
     const auto answer = std::make_shared<Answer>();
-    if (!kept_->Do([answer, statement](
-                       OdbcConnection& connection) { Read(connection, statement, *answer); },
-                   ReadLimit())) {
-      kept_.reset();
-      errorText = OverdueText(ReadLimit());
+    const KeptConnection::End ended = kept_->Do(
+        [answer, statement](OdbcConnection& connection) { Read(connection, statement, *answer); },
+        ReadLimit(), mayBeStopped);
+    if (ended != KeptConnection::End::Done) {
+      const std::string serverId = kept_->ServerId();
+      errorText = GaveUp(ended, ReadLimit());
+      if (stopped_ && !serverId.empty()) EndAtServer(connectString, serverId, statement);
       return nullptr;
     }
     errorText = answer->done ? std::string() : answer->errorText;
@@ -126,18 +143,18 @@ std::unique_ptr<Recordset> DirectTier::GETSQL(const std::string& statement, std:
 
 bool DirectTier::PUTSQL(const std::vector<std::string>& statements, std::string& errorText,
                         const std::string& connectString) {
-  inDoubt_ = reached_ = false;
+  inDoubt_ = reached_ = stopped_ = false;
   if (!NamesItsSource(connectString, errorText)) return false;
   std::vector<std::string> toRun;
   std::copy_if(statements.begin(), statements.end(), std::back_inserter(toRun),
                [](const std::string& statement) { return !statement.empty(); });
   // A stale connection has carried nothing of the batch, which then goes out on a fresh one.
   for (int attempt = 0; attempt < 2; ++attempt) {
-    if (!Reach(connectString, errorText)) return false;
+    if (!Reach(connectString, errorText, false)) return false;
     const auto answer = std::make_shared<Answer>();
-    if (!kept_->Do(
+    if (kept_->Do(
             [answer, toRun](OdbcConnection& connection) { Write(connection, toRun, *answer); },
-            BatchLimit())) {
+            BatchLimit()) != KeptConnection::End::Done) {
       kept_.reset();
       inDoubt_ = true;
       errorText = OverdueText(BatchLimit()) + kInDoubtText;

@@ -15,14 +15,18 @@ class DirectTier : public DataTier {
               const std::string& connectString) override;
   bool InDoubt() const override { return inDoubt_; }
   bool Reached() const override { return reached_; }
+  bool Stopped() const override { return stopped_; }
 
  private:
-  bool Reach(const std::string& connectString, std::string& errorText);
+  bool Reach(const std::string& connectString, std::string& errorText, bool mayBeStopped);
+  /// Lets go of a connection whose job is not done, and says why.
+  std::string GaveUp(KeptConnection::End ended, std::chrono::seconds limit);
 
   std::unique_ptr<KeptConnection> kept_;  // nothing when the last one is no longer fit
   std::string keptString_;
   bool inDoubt_ = false;
   bool reached_ = false;
+  bool stopped_ = false;
 };
 
 }  // namespace store

@@ -6,7 +6,9 @@
 
 #include "basics/records.h"
 #include "forms/host.h"
+#include "gateway/call_log.h"
 #include "gateway/check.h"
+#include "gateway/stoppable_reads.h"
 
 namespace store {
 
@@ -39,15 +41,19 @@ class ServerCall {
  public:
   ~ServerCall() {
     Calling = false;
-    Host.ShowServer(ServerObject->Reached() ? ServerLink::Connected : ServerLink::Lost,
-                    std::chrono::duration_cast<std::chrono::milliseconds>(
-                        std::chrono::steady_clock::now() - start_));
+    if (!ServerObject->Stopped()) LogLink(ServerObject->Reached());
+    Host.ShowServer(Link(), std::chrono::duration_cast<std::chrono::milliseconds>(
+                                std::chrono::steady_clock::now() - start_));
   }
   ServerCall() { Check(!std::exchange(Calling, true), "no call to the server within another one"); }
   ServerCall(const ServerCall&) = delete;
   ServerCall& operator=(const ServerCall&) = delete;
 
  private:
+  static ServerLink Link() {
+    if (ServerObject->Stopped()) return ServerLink::Stopped;
+    return ServerObject->Reached() ? ServerLink::Connected : ServerLink::Lost;
+  }
   const std::chrono::steady_clock::time_point start_ = std::chrono::steady_clock::now();
 };
 
@@ -55,7 +61,9 @@ void MakeServerObject() {
   LastErrorText.clear();
   if (!DataSpace) DataSpace = std::make_unique<DataSpaceObject>();
   ServerObject = DataSpace->CreateObject(kProgId, "http://" + AppOptions.BusinessServer);
-  if (!ServerObject) Host.ShowServer(ServerLink::Lost, {});
+  if (ServerObject) return;
+  LogLink(false);
+  Host.ShowServer(ServerLink::Lost, {});
 }
 
 /// A text that a value has broken is not for the server, whatever it would make of it.
@@ -66,10 +74,31 @@ bool IsWhole(const std::string& statement) {
   return false;
 }
 
-RecordsetSlot Read(const std::string& statement) {
-  if (!IsWhole(statement)) return nullptr;
+RecordsetSlot AskServer(const std::string& statement) {
+  if (!ServerObject || !IsWhole(statement)) return nullptr;
+  if (StoppableReads::Stopped()) {
+    LastErrorText = kReadStopped;
+    return nullptr;
+  }
   const ServerCall call;
-  return ServerObject->GETSQL(statement, LastErrorText, ConnectString);
+  RecordsetSlot rows = ServerObject->GETSQL(statement, LastErrorText, ConnectString);
+  if (ServerObject->Stopped()) StoppableReads::NoteStopped();
+  return rows;
+}
+
+RecordsetSlot Read(const std::string& statement) {
+  RecordsetSlot rows = AskServer(statement);
+  // What a person has stopped has not failed.
+  if (!rows && !StoppableReads::Stopped()) LogFailedRead(statement, LastErrorText);
+  return rows;
+}
+
+bool SendToServer(const std::vector<std::string>& statements) {
+  if (!ServerObject || !std::all_of(statements.begin(), statements.end(), IsWhole)) return false;
+  const ServerCall call;
+  if (ServerObject->PUTSQL(statements, LastErrorText, ConnectString)) return true;
+  BatchInDoubt = ServerObject->InDoubt();
+  return false;
 }
 
 }  // namespace
@@ -102,7 +131,7 @@ void BuildConnectString(const std::string& server, const std::string& user,
 void OpenRecordset(RecordsetSlot& slot, const std::string& statement) {
   MayReplace(slot);
   MakeServerObject();
-  if (!ServerObject) return;
+  if (!ServerObject) return LogFailedRead(statement, LastErrorText);
   slot = Read(statement);
   if (&slot == &SlotC) ServerObject.reset();
 }
@@ -115,7 +144,6 @@ void CloseRecordset(RecordsetSlot& slot) {
 
 RecordsetSlot FetchRecordset(const std::string& statement) {
   MakeServerObject();
-  if (!ServerObject) return nullptr;
   return Read(statement);
 }
 
@@ -148,12 +176,11 @@ std::string QueryText(const std::string& statement, const std::string& otherwise
 }
 
 std::int16_t ExecuteBatch(const std::vector<std::string>& statements) {
+  Check(!StoppableReads::Allowed(), "no batch where reads may be stopped");
   MakeServerObject();
   BatchInDoubt = false;
-  if (!ServerObject || !std::all_of(statements.begin(), statements.end(), IsWhole)) return 0;
-  const ServerCall call;
-  if (ServerObject->PUTSQL(statements, LastErrorText, ConnectString)) return -1;
-  BatchInDoubt = ServerObject->InDoubt();
+  if (SendToServer(statements)) return -1;
+  LogFailedBatch(statements, LastErrorText, BatchInDoubt);
   return 0;
 }
 
@@ -172,6 +199,7 @@ void ResetGateway() {
   ConnectString.clear();
   LastErrorText.clear();
   BatchInDoubt = false;
+  ResetLinkLog();
 }
 
 }  // namespace store

@@ -88,30 +88,38 @@ void KeptConnection::Serve(const std::shared_ptr<Desk>& desk) {
   desk->Become(State::Ended);
 }
 
-bool KeptConnection::Await(std::chrono::milliseconds limit) {
+KeptConnection::End KeptConnection::Await(std::chrono::milliseconds limit, bool mayBeStopped) {
   const Clock::time_point start = Clock::now();
   if (desk_->Leaves(Desk::State::Posted,
                     start + std::min(limit, std::chrono::milliseconds(kUnnoticed)))) {
-    return true;
+    return End::Done;
   }
   const Hourglass waiting;
   const Clock::time_point end = start + limit;
   while (Clock::now() < end) {
-    Host.ShowServer(ServerLink::Waiting,
-                    std::chrono::duration_cast<std::chrono::milliseconds>(Clock::now() - start));
-    if (desk_->Leaves(Desk::State::Posted, std::min(end, Clock::now() + kRound))) return true;
+    const auto lasted = std::chrono::duration_cast<std::chrono::milliseconds>(Clock::now() - start);
+    if (!mayBeStopped) {
+      Host.ShowServer(ServerLink::Waiting, lasted);
+    } else if (Host.OfferStop(lasted)) {
+      return End::Stopped;
+    }
+    if (desk_->Leaves(Desk::State::Posted, std::min(end, Clock::now() + kRound))) return End::Done;
   }
-  return false;
+  return End::Overdue;
 }
 
-bool KeptConnection::Do(Job job, std::chrono::milliseconds limit) {
-  if (desk_->state != Desk::State::Free) return false;
+KeptConnection::End KeptConnection::Do(Job job, std::chrono::milliseconds limit,
+                                       bool mayBeStopped) {
+  if (desk_->state != Desk::State::Free) return End::Overdue;
   desk_->job = std::move(job);
   desk_->Become(Desk::State::Posted);
-  if (Await(limit)) return true;
+  const End ended = Await(limit, mayBeStopped);
+  if (ended == End::Done) return ended;
   desk_->connection.GiveUp();
   thread_.detach();
-  return false;
+  return ended;
 }
+
+std::string KeptConnection::ServerId() const { return desk_->connection.ServerId(); }
 
 }  // namespace store

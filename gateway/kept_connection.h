@@ -3,6 +3,7 @@
 #include <chrono>
 #include <functional>
 #include <memory>
+#include <string>
 #include <thread>
 
 #include "gateway/odbc_connection.h"
@@ -22,16 +23,23 @@ class KeptConnection {
   KeptConnection& operator=(const KeptConnection&) = delete;
 
   using Job = std::function<void(OdbcConnection&)>;
+  enum class End {
+    Done,
+    Overdue,  ///< Not done within the limit.
+    Stopped,  ///< By the person, where `mayBeStopped`.
+  };
   /// Does the job on the connection's thread and waits for it; the pointer is an hourglass when
-  /// that takes long enough to be noticed. False when it is not done within the limit. The job may
-  /// then still come to its end at any time, so it has to own what it touches; the connection is
-  /// given up and takes no further job.
-  bool Do(Job job, std::chrono::milliseconds limit);
+  /// that takes long enough to be noticed. A job that is not done may still come to its end at any
+  /// time, so it has to own what it touches; the connection is given up and takes no further job.
+  End Do(Job job, std::chrono::milliseconds limit, bool mayBeStopped = false);
+
+  /// The server's number of the connection; empty before the first job has connected.
+  std::string ServerId() const;
 
  private:
   struct Desk;
   static void Serve(const std::shared_ptr<Desk>& desk);
-  bool Await(std::chrono::milliseconds limit);
+  End Await(std::chrono::milliseconds limit, bool mayBeStopped);
 
   std::shared_ptr<Desk> desk_;
   std::thread thread_;

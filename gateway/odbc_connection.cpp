@@ -5,6 +5,7 @@
 #include <mutex>
 
 #include "basics/deployment.h"
+#include "gateway/database_software.h"
 
 namespace store {
 namespace {
@@ -104,6 +105,7 @@ bool OdbcConnection::Connect(const std::string& connectString, std::string& erro
   }
   connected_ = true;
   if (!Prepare(errorText)) return false;
+  NoteDatabaseSoftware(handle_);
   NoteAnswer();
   return true;
 }
@@ -132,7 +134,21 @@ bool OdbcConnection::Prepare(std::string& errorText) {
       "'NO_ZERO_IN_DATE',''),'NO_ZERO_DATE',''),'ANSI_QUOTES',''),',NO_BACKSLASH_ESCAPES')";
   if (!OdbcStatement(*this).Run(settings, errorText) || !AskWhetherMariaDb(errorText)) return false;
   if (isMariaDb_) SortWholeRows();
+  AskServerId();
   return true;
+}
+
+// Only for ending a read at the server that somebody stops; without the number it runs to its end.
+void OdbcConnection::AskServerId() {
+  std::string ignored;
+  OdbcStatement asked(*this);
+  char id[24] = "";
+  SQLLEN length = 0;
+  if (asked.Run("SELECT CONNECTION_ID()", ignored) && SQL_SUCCEEDED(Odbc.Fetch(asked.Handle())) &&
+      SQL_SUCCEEDED(Odbc.GetData(asked.Handle(), 1, SQL_C_CHAR, id, sizeof(id), &length)) &&
+      length > 0 && length < static_cast<SQLLEN>(sizeof(id))) {
+    serverId_.assign(id, static_cast<size_t>(length));
+  }
 }
 
 void OdbcConnection::SortWholeRows() {

@@ -33,6 +33,8 @@ class OdbcConnection {
   bool GivenUp() const { return givenUp_; }
 
   SQLHDBC Handle() const { return handle_; }
+  /// The server's number of this connection; empty where it has not said one.
+  const std::string& ServerId() const { return serverId_; }
   /// Whether the server runs a compound block sent as one statement.
   bool RunsCompoundBlocks() const { return isMariaDb_; }
 
@@ -41,11 +43,13 @@ class OdbcConnection {
   bool Prepare(std::string& errorText);
   bool AskWhetherMariaDb(std::string& errorText);
   void SortWholeRows();
+  void AskServerId();
 
   SQLHENV environment_ = SQL_NULL_HENV;
   SQLHDBC handle_ = SQL_NULL_HDBC;
   bool connected_ = false;
   bool isMariaDb_ = false;
+  std::string serverId_;
   std::atomic<bool> givenUp_{false};
   std::chrono::steady_clock::time_point answered_{};
 };

@@ -6,7 +6,9 @@
 #include "basics/records.h"
 #include "basics/whole_file.h"
 #include "forms/host.h"
+#include "forms/program_places.h"
 #include "gateway/gateway.h"
+#include "gateway/stoppable_reads.h"
 #include "handheld/wire/master_line.h"
 
 namespace store {
@@ -37,20 +39,18 @@ std::string LevelPriceStatement(int level, const char* side) {
       "level"_a = std::to_string(level), "store"_a = Session.StoreCode, "side"_a = side);
 }
 
-std::string ProgramPath(const char* below) { return Host.ProgramFolder + below; }
-
 /// Where the outside tool stands: the installation's place for it, or under the program's folder.
 std::string TransferTool() {
   const std::string tool = TransferToolPath();
-  return tool.empty() ? ProgramPath("/MULTIDROP/multi32e.exe") : tool;
+  return tool.empty() ? Host.ProgramFolder + "/MULTIDROP/multi32e.exe" : tool;
 }
 
 /// Empty when the file stands, else what the platform says.
 std::string WriteMasterFile(const std::string& text) {
   std::error_code refusal;
-  std::filesystem::create_directories(ProgramPath("/MASTER"), refusal);
+  std::filesystem::create_directories(WorkFolder() + "/MASTER", refusal);
   if (refusal) return refusal.message();
-  return ReplaceFile(ProgramPath("/MASTER/MASTER.txt"), text);
+  return ReplaceFile(WorkFolder() + "/MASTER/MASTER.txt", text);
 }
 
 }  // namespace
@@ -134,9 +134,14 @@ void FRM_CRDIMP::BuildMasterFile(std::int16_t& written) {
               box::Critical, "크래들 IMPORT");
 }
 
+RecordsetSlot FRM_CRDIMP::FetchProducts() const {
+  const StoppableReads mayBeStopped;
+  return FetchRecordset(MasterStatement());
+}
+
 bool FRM_CRDIMP::WriteProducts(std::string& refusal) {
   const Hourglass waiting;
-  const RecordsetSlot products = FetchRecordset(MasterStatement());
+  const RecordsetSlot products = FetchProducts();
   // An empty file would take the terminal's products away.
   if (AtEof(products)) return false;
   const int count = products->RecordCount();

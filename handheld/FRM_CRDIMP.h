@@ -39,6 +39,7 @@ class FRM_CRDIMP : public HandheldForm {
   /// True when the file stands. `refusal` is what the platform says against it.
   bool WriteProducts(std::string& refusal);
   std::string MasterStatement() const;
+  RecordsetSlot FetchProducts() const;
   std::string MasterText(const RecordsetSlot& products);
 };
 

@@ -3,6 +3,7 @@
 #include "basics/numbers.h"
 #include "basics/records.h"
 #include "basics/text.h"
+#include "forms/counted_work.h"
 #include "forms/host.h"
 #include "handheld/FRM_DT900_01.h"
 #include "slips/depot_choice.h"
@@ -94,7 +95,9 @@ bool FRM_DT900_01::AddHandheldLine(int row, int number) {
 
 bool FRM_DT900_01::BuildSlips() {
   nextLine_ = 0;
+  CountedWork work("전표를 만드는 중입니다.", FLEX.Rows() - FLEX.FixedRows());
   for (int row = FLEX.FixedRows(); row < FLEX.Rows(); ++row) {
+    work.Step();
     if (IsPostable(row) && !AddRow(row)) return false;
   }
   FinishSlip();

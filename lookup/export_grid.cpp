@@ -2,15 +2,14 @@
 
 #include <xlsxwriter.h>
 
-#include <cerrno>
-#include <cstdio>
 #include <filesystem>
-#include <string_view>
 
 #include "basics/dates.h"
 #include "basics/numbers.h"
 #include "basics/text.h"
+#include "forms/counted_work.h"
 #include "forms/host.h"
+#include "lookup/new_document.h"
 
 namespace store {
 namespace {
@@ -42,46 +41,18 @@ void WriteCell(lxw_worksheet* sheet, const std::string& address, const std::stri
   }
 }
 
-/// A window's caption as a part of a file's name.
-std::string FileWord(const std::string& caption) {
-  std::string word = Trim(caption);
-  for (char& letter : word) {
-    const bool isControl = static_cast<unsigned char>(letter) < ' ';
-    if (isControl || std::string_view("/\\:*?\"<>|").find(letter) != std::string_view::npos) {
-      letter = '_';
-    }
-  }
-  return word;
-}
-
-/// A new and empty file among the user's documents, named after the window and the minute. It is
-/// taken in one step, so that no sheet is ever written over. Empty where no file can be made.
-std::string NewFile(const std::string& window) {
-  const std::filesystem::path folder(Host.DocumentsFolder);
-  std::error_code ignored;
-  std::filesystem::create_directories(folder, ignored);
-  const std::string name = FileWord(window) + FormatDateValue(Host.Now(), "_YYYY-MM-DD_HHNN");
-  for (int number = 1;; ++number) {
-    const std::string further = number == 1 ? "" : "_" + std::to_string(number);
-    std::string path = (folder / (name + further + ".xlsx")).string();
-    if (std::FILE* file = std::fopen(path.c_str(), "wbx")) {
-      std::fclose(file);
-      return path;
-    }
-    if (errno != EEXIST) return {};
-  }
-}
-
 bool WriteWorkbook(const Grid& grid, const std::string& path) {
   lxw_workbook* workbook = path.empty() ? nullptr : workbook_new(path.c_str());
   if (workbook == nullptr) return false;
   lxw_worksheet* sheet = workbook_add_worksheet(workbook, nullptr);
+  CountedWork work("엑셀 파일을 만드는 중입니다.", grid.Rows());
   for (int row = 0; row < grid.Rows(); ++row) {
     std::string letters;
     for (int column = 0; column < grid.Cols(); ++column) {
       letters = ColumnLetters(row, column, letters);
       WriteCell(sheet, letters + std::to_string(row + 1), grid.TextMatrix(row, column));
     }
+    work.Step();
   }
   return workbook_close(workbook) == LXW_NO_ERROR;
 }
@@ -103,7 +74,8 @@ void ExportGrid(const Grid& grid, const std::string& window, Label& where) {
   bool opened = false;
   {
     const Hourglass waiting;
-    const std::string path = NewFile(window);
+    const std::string path =
+        NewDocument(Trim(window) + FormatDateValue(Host.Now(), "_YYYY-MM-DD_HHNN"), ".xlsx");
     written = WriteWorkbook(grid, path);
     if (written) where.Caption = "엑셀 저장: " + path;
     opened = written && Host.OpenAddress(path);

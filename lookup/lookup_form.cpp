@@ -2,6 +2,7 @@
 
 #include "forms/host.h"
 #include "gateway/gateway.h"
+#include "gateway/stoppable_reads.h"
 #include "lookup/consonant_tabs.h"
 #include "lookup/export_grid.h"
 
@@ -81,6 +82,7 @@ void LookupForm::WalkTabs(int step) {
 }
 
 void LookupForm::Fill(const std::string& statement) {
+  const StoppableReads mayBeStopped;
   SqlText = statement;
   FillLookupGrid(SqlText, FLEX1);
   if (FLEX1.Rows() <= FLEX1.FixedRows()) return;

@@ -7,6 +7,7 @@
 #include "forms/host.h"
 #include "forms/open_forms.h"
 #include "gateway/gateway.h"
+#include "gateway/stoppable_reads.h"
 #include "order/kind_pane.h"
 #include "order/supplier_pane.h"
 #include "slips/item_list.h"
@@ -157,6 +158,7 @@ void frm_OrderPLU::FillCategories(Grid& grid, int level, const std::string& code
   SqlText = AppOptions.OrderInfoPartnersOnly != 0
                 ? SetUpKindStatement(level, prefix, SupplierOfOrder())
                 : KindStatement(level, prefix);
+  const StoppableReads mayBeStopped;
   OpenRecordset(SlotA, SqlText);
   ForEachRow(SlotA, [&grid] { grid.AddItem(ListEntry(FieldText(SlotA, 1), FieldText(SlotA, 0))); });
   CloseRecordset(SlotA);

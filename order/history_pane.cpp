@@ -7,6 +7,7 @@
 #include "basics/records.h"
 #include "forms/host.h"
 #include "gateway/gateway.h"
+#include "gateway/stoppable_reads.h"
 
 namespace store {
 namespace {
@@ -48,6 +49,7 @@ void HistoryPane::ShowHistory(const std::string& productCode, const std::string&
   PRGHP.Visible = true;
   HistoryOf = name;
   SqlText = HistoryStatement(productCode);
+  const StoppableReads mayBeStopped;
   OpenRecordset(SlotA, SqlText);
   PRGHP.SetRows(history::Quantity + 1);
   PRGHP.SetRows(history::Rows);

@@ -103,7 +103,7 @@ void ItemBoxPane::SearchItems() {
   std::int16_t count = 0;
   ToInt16(RecordCountOf(SlotC), count);
   if (count == 1) {
-    AddItemLine();
+    if (AddItemLine() && AddInProgress == 0) Host.ScanTaken();
     return;
   }
   if (count > 1) {
@@ -132,22 +132,24 @@ void ItemBoxPane::ListHits() {
   }
 }
 
-void ItemBoxPane::AddItemLine() {
+/// False when the item is refused, which the person has then been told.
+bool ItemBoxPane::AddItemLine() {
   const std::string code = ItemText(item::Code);
   const std::optional<double> price = PriceOf(code);
   if (!price) {
     RefuseUnread();
-    return;
+    return false;
   }
   RemoveLinesOf(code);
   if (form_.NoPriceMode == 0 && AppOptions.OrderZeroPrice == 0 && *price == 0) {
     RefuseForPrice();
-    return;
+    return false;
   }
   InsertLine(*price);
   FLEX1.SetRow(1);
   RecalcLine(1);
   inBox.SetText("");
+  return true;
 }
 
 void ItemBoxPane::InsertLine(double price) {
@@ -197,8 +199,10 @@ void ItemBoxPane::NoteRefused(const std::string& code, const std::string& reason
   ShowRefused();
 }
 
-void ItemBoxPane::ForgetRefused() {
-  refused_.clear();
+void ItemBoxPane::ForgetRefused() { SetRefused({}); }
+
+void ItemBoxPane::SetRefused(std::vector<std::string> refused) {
+  refused_ = std::move(refused);
   ShowRefused();
 }
 

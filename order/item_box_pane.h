@@ -58,8 +58,12 @@ class ItemBoxPane : public LinesPane {
   /// False for an item that has left the list or has no price, or whose price could not be read
   /// (`PriceUnread`); the line is then not there.
   bool AddDraftLine(const std::string& productCode, const std::string& quantity);
+  const std::vector<std::string>& Refused() const { return refused_; }
+  void SetRefused(std::vector<std::string> refused);
   /// Another order begins: no code was refused for it.
   void ForgetRefused();
+  /// Adds a code to the refused ones, with what is the matter with it.
+  void NoteRefused(const std::string& code, const std::string& reason);
   /// Takes every line of an item out.
   void TakeOut(const std::string& productCode);
 
@@ -78,14 +82,13 @@ class ItemBoxPane : public LinesPane {
   std::string NameCriteria(const std::string& name) const;
   void SearchItems();
   void ListHits();
-  void AddItemLine();
+  bool AddItemLine();
   void InsertLine(double price);
   bool FitsUnit(double quantity, int row);
   std::optional<double> PriceOf(const std::string& code) const;
   void RefuseForWantOfItem();
   void RefuseUnread();
   void RefuseForPrice();
-  void NoteRefused(const std::string& code, const std::string& reason);
   void ShowRefused();
   void Warn(const std::string& text);
   void RemoveLinesOf(const std::string& productCode);

@@ -14,6 +14,8 @@ class ItemSums {
   /// Runs a SELECT of product codes and sums through `slot`, which is empty afterwards.
   ItemSums(RecordsetSlot& slot, const std::string& statement);
 
+  /// False when the read has failed: no item has a sum then, which says nothing of the items.
+  bool WasRead() const { return rows_ != nullptr; }
   /// Nothing when the item has no row.
   std::optional<std::string> Of(const std::string& productCode) const;
 

@@ -3,6 +3,7 @@
 #include "basics/records.h"
 #include "basics/text.h"
 #include "gateway/gateway.h"
+#include "gateway/stoppable_reads.h"
 
 namespace store {
 namespace {
@@ -89,6 +90,7 @@ void KindPane::FillKindGrid(Grid& grid, int level, const std::string& code,
   SqlText = AppOptions.OrderInfoPartnersOnly != 0
                 ? SetUpKindStatement(LevelCondition(level, levels_), supplier, condition)
                 : KindStatement(level, condition);
+  const StoppableReads mayBeStopped;
   OpenRecordset(SlotA, SqlText);
   FillSelectionGrid(grid);
 }

@@ -24,8 +24,10 @@ std::vector<std::string> CellsOfRow(const Grid& grid, int row) {
 void OrderForm::StartDraft() {
   Draft start = DraftNow();
   if (WrittenEarlier) BringBack(*std::exchange(WrittenEarlier, {}));
+  if (OrderedBefore) OrderAgain(*std::exchange(OrderedBefore, {}));
   draft_.Begin(std::move(start));
   NoteDraft();
+  BeginHistory();
 }
 
 Draft OrderForm::DraftNow() const {

@@ -10,6 +10,8 @@
 #include "forms/host.h"
 #include "forms/open_forms.h"
 #include "gateway/gateway.h"
+#include "gateway/stoppable_reads.h"
+#include "lookup/print_slip.h"
 #include "order/frm_Order.h"
 #include "order/frm_Order01.h"
 #include "order/frm_Order02.h"
@@ -60,6 +62,7 @@ OrderForm::OrderForm(const OrderTypeChoices& choices)
   Text4.SetText("2002-08-08");
   PublishControls();
   ConnectPanes();
+  ConnectHistory();
   TabOrder = {&DTOrderDate, &Combo1, &Text1, &inBox, &FLEX1, &FLEX2};
 }
 
@@ -91,16 +94,17 @@ void OrderForm::PublishControls() {
 
 void OrderForm::ConnectPanes() {
   SupplierChanged = [this] {
-    draft_.ForgetRefused();
-    ClearLines();
-    ForgetRefused();
-    inHand_.PutAside();
+    if (history_.IsMoving()) return;  // its lines come back with it
+    NoteSupplierStep();
+    SupplierSeen();
   };
   LinesChanged = [this] { NoteDraft(); };
   Combo1.Click = [this] { NoteDraft(); };
   FollowSupplier = [this](ItemListMoment moment) {
     const Hourglass waiting;
     ReadSupplierScope(moment);
+    NoteRecent();
+    SupplierSeen();
   };
   ItemLookup.Click = [this] {
     lookingUp_ = true;
@@ -124,8 +128,18 @@ void OrderForm::ConnectPanes() {
 }
 
 void OrderForm::ReadSupplierScope(ItemListMoment moment) {
-  ReadItemList(moment);
-  if (FillLeftSide) FillLeftSide();
+  {
+    const StoppableReads mayBeStopped;
+    ReadItemList(moment);
+  }
+  ShowSupplierScope();
+}
+
+void OrderForm::ShowSupplierScope() {
+  if (FillLeftSide) {
+    const StoppableReads mayBeStopped;
+    FillLeftSide();
+  }
   // Whatever is chosen beside it anew, the pick list starts empty.
   FLEX2.SetRows(1);
   NoteDraft();
@@ -134,6 +148,7 @@ void OrderForm::ReadSupplierScope(ItemListMoment moment) {
 void OrderForm::ReadItemList(ItemListMoment moment) {
   if (AppOptions.OrderInfoPartnersOnly != 1) return;
   const RecordsetSlot before = SlotC;
+  const StoppableReads mayBeStopped;
   choices_.ReadItems(moment, Text1.Tag);
   if (SlotC == before) return;  // this moment asks for no list
   itemList_ = SlotC;
@@ -167,6 +182,7 @@ void OrderForm::Activate() {
 }
 
 void OrderForm::ResetOrderForm() {
+  history_.End();
   ForgetRefused();
   FLEX1.SetRows(1);
   Text1.SetText("");
@@ -175,6 +191,7 @@ void OrderForm::ResetOrderForm() {
   LaSatae.Caption.clear();
   GiveTodaysDate();
   for (Label& amount : LaAmt) amount.Caption = "0";
+  ShowRecent();
 }
 
 void OrderForm::GiveTodaysDate() {
@@ -242,6 +259,7 @@ void OrderForm::SetOrderEditable(std::int16_t editable) {
                                        &ItemLookup, &FLEX2, &LaBtn[0], &LaBtn[1]}) {
     control->Enabled = enabled;
   }
+  ShowRecent();
 }
 
 bool OrderForm::KeyDown(Key key) {
@@ -277,6 +295,19 @@ void OrderForm::Label5_Click(int index) {
     if (MainWindow* board = TheMainWindow()) Host.Hide(*board);
     Host.Minimize(*this);
   }
+}
+
+void OrderForm::PrintStored() {
+  if (SlipId.empty()) {
+    Host.MsgBox("저장한 전표만 인쇄할 수 있습니다.\r먼저 저장하세요.", box::Critical, "인쇄");
+    return;
+  }
+  if (HoldsWork() &&
+      Host.MsgBox("저장하지 않은 내용은 인쇄되지 않습니다.\r저장된 전표를 인쇄하시겠습니까?",
+                  box::Question + box::YesNo, "인쇄") != box::Yes) {
+    return;
+  }
+  PrintSlip(SlipId);
 }
 
 void OrderForm::Unload() {

@@ -60,6 +60,8 @@ class OrderForm : public SlipForm,
   void Image1_Click(int index);
   void Image5_Click();
   void Command2_Click();
+  /// Prints the stored slip; what is not saved yet is not on it.
+  void PrintStored();
 
  protected:
   explicit OrderForm(const OrderTypeChoices& choices);
@@ -74,6 +76,7 @@ class OrderForm : public SlipForm,
   void PublishControls();
   void ConnectPanes();
   void ReadSupplierScope(ItemListMoment moment);
+  void ShowSupplierScope();
   void ReadItemList(ItemListMoment moment);
   void TakeItemListBack();
   void ResetOrderForm();
@@ -93,7 +96,7 @@ class OrderForm : public SlipForm,
   void FillHeader();
   void SaveSucceeded();
 
-  void TransferRow(int row, int column);
+  void TransferRow(int row, int column, std::vector<PickCell>& marks);
   void StartDraft();
   Draft DraftNow() const;
   void NoteDraft();
@@ -103,6 +106,25 @@ class OrderForm : public SlipForm,
   using SlipRows = std::vector<std::vector<std::string>>;
   std::optional<std::vector<DraftLine>> BringLinesBack(const Draft& draft, SlipRows slipRows);
   void ShowAfresh();
+
+  /// A supplier with what goes and comes back with it.
+  struct SupplierState {
+    std::string Name;
+    std::string Code;
+    ItemListMoment Moment = ItemListMoment::FormOpens;  ///< When its item list was read.
+    std::vector<std::string> Refused;                   ///< Codes that the order has refused.
+    std::vector<DraftLine> NotBroughtBack;              ///< Lines that stand in the draft alone.
+  };
+  void ConnectHistory();
+  void BeginHistory();
+  void NoteSupplierStep();
+  void SupplierSeen();
+  SupplierState SupplierNow() const;
+  LineHistory::Moved SwitchSupplier(SupplierState& other);
+  bool TakeSupplierState(const SupplierState& state);
+
+  void OrderAgain(const PastOrder& past);
+  bool AddPastLines(const PastOrder& past, std::vector<RefusedLine>& refused);
 
   void OpenQuickPick();
   void OpenQuickPickOnHits();
@@ -117,6 +139,8 @@ class OrderForm : public SlipForm,
   OrderInHand inHand_;
   SlipDraft draft_;
   RecordsetSlot itemList_;  // what this form has put into `SlotC`
+  SupplierState seen_;      // name and code as they stood before the next change
+  int supplierStep_ = 0;    // the last step in which the supplier changed
   bool lookingUp_ = false;  // in the item lookup, where products are registered
   ItemListMoment itemListMoment_ = ItemListMoment::FormOpens;
 };

@@ -41,6 +41,7 @@ void OrderForm::Image5_Click() {
 void OrderForm::Command2_Click() { Host.ShowModal(ThePanel()); }
 
 void OrderForm::AddPicked() {
+  const LineHistory::OneStep step(history_);
   for (int i = 0; i <= PickList.LastRow(); ++i) AddFromCode(PickList.At(i, 0));
 }
 

@@ -1,5 +1,7 @@
 #include "order/pick_list_pane.h"
 
+#include <utility>
+
 #include "basics/numbers.h"
 #include "basics/text.h"
 #include "forms/host.h"
@@ -38,7 +40,10 @@ void PickListPane::WalkToPickList() {
 }
 
 bool PickListPane::FLEX2_BeforeEdit(int row, int col) {
-  return row >= 1 && choices_.PickGrid[static_cast<size_t>(col)].Editable;
+  if (row < 1 || !choices_.PickGrid[static_cast<size_t>(col)].Editable) return false;
+  openedRow_ = row;
+  rowBefore_ = PickRowCells(FLEX2, row);
+  return true;
 }
 
 void PickListPane::FLEX2_RowColChange() {
@@ -48,7 +53,23 @@ void PickListPane::FLEX2_RowColChange() {
                       FLEX2.TextMatrix(row, pick::Standard);
 }
 
+void PickListPane::TellCellsChanged(std::vector<PickCell> cells) {
+  if (!cells.empty()) AsOneStep([&] { CellsChanged(std::move(cells)); });
+}
+
 void PickListPane::FLEX2_AfterEdit(int editedRow, int editedColumn) {
+  AsOneStep([&] {
+    const std::vector<std::string> before =
+        editedRow == openedRow_ ? std::exchange(rowBefore_, {}) : PickRowCells(FLEX2, editedRow);
+    openedRow_ = 0;
+    TakeEntry(editedRow, editedColumn);
+    std::vector<PickCell> cells;
+    AddChangedCells(FLEX2, editedRow, before, cells);
+    TellCellsChanged(std::move(cells));
+  });
+}
+
+void PickListPane::TakeEntry(int editedRow, int editedColumn) {
   const std::string& typed = FLEX2.TextMatrix(editedRow, editedColumn);
   if (!Trim(typed).empty() && !IsNumeric(typed)) {
     Host.Beep();

@@ -7,6 +7,7 @@
 #include "forms/form.h"
 #include "forms/grid.h"
 #include "order/order_type.h"
+#include "order/pick_cells.h"
 
 namespace store {
 
@@ -30,6 +31,9 @@ class PickListPane {
   /// Lists the items that the filter of `SlotC` lets pass. Their cells are made when they are
   /// looked at, of what has been read up to now.
   void FillPickGrid();
+  /// Tells that figures of the list were changed, which is an act of its own or part of one.
+  void TellCellsChanged(std::vector<PickCell> cells);
+
   /// Leads the keyboard into the list, to its first item unless one is current.
   void WalkToPickList();
 
@@ -44,10 +48,18 @@ class PickListPane {
   std::function<void(const std::string& code)> ItemTakenOut;
   /// What the item has sold is asked for.
   std::function<void(const std::string& code, const std::string& name)> HistoryWanted;
+  /// Does what one act of the person leads to.
+  std::function<void(const std::function<void()>& act)> AsOneStep;
+  /// Figures of the list were changed by the person.
+  std::function<void(std::vector<PickCell> cells)> CellsChanged;
 
  private:
+  void TakeEntry(int editedRow, int editedColumn);
+
   Form& form_;
   const OrderTypeChoices& choices_;
+  std::vector<std::string> rowBefore_;  // of the row in which a cell was opened last
+  int openedRow_ = 0;
 };
 
 }  // namespace store

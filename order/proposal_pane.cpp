@@ -1,11 +1,14 @@
 #include "order/proposal_pane.h"
 
+#include <utility>
+
 #include "basics/dates.h"
 #include "basics/numbers.h"
 #include "basics/records.h"
 #include "basics/text.h"
 #include "forms/host.h"
 #include "gateway/gateway.h"
+#include "gateway/stoppable_reads.h"
 #include "order/stock_list.h"
 
 namespace store {
@@ -58,6 +61,14 @@ std::string SafetyStatement(const std::string& condition) {
       "store"_a = Session.StoreCode, "condition"_a = condition);
 }
 
+/// Reads the items into `SlotA`, and the stock that they are held against.
+ItemSums ReadProposal(const std::string& statement) {
+  const StoppableReads mayBeStopped;
+  SqlText = statement;
+  OpenRecordset(SlotA, SqlText);
+  return ReadStock();
+}
+
 /// The cells of the current record of `SlotA`, tab-joined.
 std::string ProposalRow(const ItemSums& stockOfItems) {
   std::string row;
@@ -76,7 +87,7 @@ double ValueAt(const Grid& grid, int row, int col) {
 
 ProposalPane::ProposalPane(Form& form, const SupplierPane& supplier, PickListPane& pickList,
                            ProgressPane& progress)
-    : supplier_(supplier), picks_(pickList.FLEX2), progress_(progress) {
+    : supplier_(supplier), pickList_(pickList), picks_(pickList.FLEX2), progress_(progress) {
   TabOne1.Captions = {"판매량", "적정재고"};
   TabOne1.CurrTab = 0;
   TabOne1.Click = [this](int tab) { LaOrder_Click(tab); };
@@ -178,9 +189,9 @@ std::string ProposalPane::SafetyProposal() const {
 }
 
 void ProposalPane::FillProposal(const std::string& statement) {
-  SqlText = statement;
-  OpenRecordset(SlotA, SqlText);
-  const ItemSums stock = ReadStock();
+  const ItemSums stock = ReadProposal(statement);
+  // Against a stock that nobody could read, everything on the shelves would be ordered once more.
+  if (!stock.WasRead()) CloseRecordset(SlotA);
   picks_.Redraw = false;
   progress_.ShowProgress(RecordCountOf(SlotA));
   ForEachRow(SlotA, [&] {
@@ -201,11 +212,15 @@ void RecalcShortage(Grid& picks, int row) {
 void ProposalPane::Text3_KeyPress(Key key) {
   if (key != Key::Enter) return;
   const double times = ParseGrouped(Text3.Text());
+  std::vector<PickCell> cells;
   for (int row = 1; row < picks_.Rows(); ++row) {
+    const std::vector<std::string> before = PickRowCells(picks_, row);
     picks_.SetTextMatrix(row, proposal::Base,
                          NumberText(times * ValueAt(picks_, row, proposal::Fetched)));
     RecalcShortage(picks_, row);
+    AddChangedCells(picks_, row, before, cells);
   }
+  pickList_.TellCellsChanged(std::move(cells));
 }
 
 void ProposalPane::Check2_Click() {

@@ -63,6 +63,7 @@ class ProposalPane {
   void FillProposal(const std::string& statement);
 
   const SupplierPane& supplier_;
+  PickListPane& pickList_;
   Grid& picks_;
   ProgressPane& progress_;
 };

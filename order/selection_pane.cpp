@@ -4,6 +4,7 @@
 #include "basics/records.h"
 #include "basics/text.h"
 #include "gateway/gateway.h"
+#include "gateway/stoppable_reads.h"
 #include "order/kind_pane.h"
 
 namespace store {
@@ -80,6 +81,7 @@ void SelectionPane::Option1_Click(int index) {
 void SelectionPane::FillSelection() {
   SqlText = BySupplier() ? SelectableSuppliers() : SelectableKinds();
   PRHELP.SetRows(0);
+  const StoppableReads mayBeStopped;
   OpenRecordset(SlotA, SqlText);
   FillSelectionGrid(PRHELP);
 }
@@ -91,6 +93,7 @@ void SelectionPane::ClearCombos() {
 void SelectionPane::FillCombo(int index, const std::string& upperCode) {
   ComboBox& combo = Combo2[static_cast<size_t>(index)];
   combo.Clear();
+  const StoppableReads mayBeStopped;
   SqlText = KindsOfLevel(index + 1, UpperCondition(upperCode), SupplierCondition(ChosenSupplier()));
   OpenRecordset(SlotA, SqlText);
   ForEachRow(SlotA, [&] { combo.AddItem(ListEntry(FieldText(SlotA, 1), FieldText(SlotA, 0))); });

@@ -1,77 +1,20 @@
 #include "order/supplier_pane.h"
 
-#include "basics/records.h"
 #include "basics/text.h"
 #include "forms/host.h"
 #include "gateway/gateway.h"
+#include "gateway/stoppable_reads.h"
 #include "lookup/party_lookups.h"
+#include "order/recent_suppliers.h"
+#include "slips/order_suppliers.h"
 
 namespace store {
-namespace {
-
-std::string SupplierByPhone(const std::string& digits) {
-  return Splice(
-      "SELECT A.CT_CODE,A.CT_NAME,A.CT_PHONE,A.CT_ADDR1 ,A.CT_ADDR2  FROM   CT A LEFT JOIN CTCOM B "
-      "ON A.CT_CODE = B.CT_CODE  WHERE  A.CT_phone LIKE '%{digits}%'  AND B.CT_LEVEL2 IN "
-      "('0','1') ",
-      "digits"_a = digits);
-}
-
-std::string SupplierByCode(const std::string& code) {
-  return Splice(
-      "SELECT A.CT_CODE,A.CT_NAME,A.CT_PHONE,A.CT_ADDR1 ,A.CT_ADDR2  FROM   CT A LEFT JOIN CTCOM B "
-      "ON A.CT_CODE = B.CT_CODE  WHERE  A.CT_CODE = '{code}' AND B.CT_LEVEL2 IN ('0','1') ",
-      "code"_a = code);
-}
-
-std::string SupplierByName(const std::string& name) {
-  return Splice(
-      "SELECT A.CT_CODE,A.CT_NAME,A.CT_PHONE,A.CT_ADDR1 ,A.CT_ADDR2  FROM   CT A LEFT JOIN CTCOM B "
-      "ON A.CT_CODE = B.CT_CODE  WHERE  A.CT_NAME LIKE '%{name}%' AND B.CT_LEVEL2 IN ('0','1') ",
-      "name"_a = name);
-}
-
-// With the option on, the store's order settings decide who is a supplier, whatever the partner's
-// level.
-std::string SetUpSupplierByPhone(const std::string& digits) {
-  return Splice(
-      "SELECT DISTINCT A.CT_CODE,A.CT_NAME,A.CT_PHONE,A.CT_ADDR1 ,A.CT_ADDR2  FROM   ((SAFEIV LEFT "
-      "JOIN CT A ON SAFEIV.CT_CODE = A.CT_CODE) LEFT JOIN CTCOM B ON A.CT_CODE = B.CT_CODE)  WHERE "
-      " RCT_CODE = '{store}' AND A.CT_phone LIKE '%{digits}%'   ",
-      "store"_a = Session.StoreCode, "digits"_a = digits);
-}
-
-std::string SetUpSupplierByCode(const std::string& code) {
-  return Splice(
-      "SELECT DISTINCT A.CT_CODE,A.CT_NAME,A.CT_PHONE,A.CT_ADDR1 ,A.CT_ADDR2  FROM   ((SAFEIV LEFT "
-      "JOIN CT A ON SAFEIV.CT_CODE = A.CT_CODE) LEFT JOIN CTCOM B ON A.CT_CODE = B.CT_CODE)  WHERE "
-      " RCT_CODE = '{store}' AND A.CT_CODE = '{code}'  ",
-      "store"_a = Session.StoreCode, "code"_a = code);
-}
-
-std::string SetUpSupplierByName(const std::string& name) {
-  return Splice(
-      "SELECT DISTINCT A.CT_CODE,A.CT_NAME,A.CT_PHONE,A.CT_ADDR1 ,A.CT_ADDR2  FROM   ((SAFEIV LEFT "
-      "JOIN CT A ON SAFEIV.CT_CODE = A.CT_CODE) LEFT JOIN CTCOM B ON A.CT_CODE = B.CT_CODE)  WHERE "
-      " RCT_CODE = '{store}' AND A.CT_NAME LIKE '%{name}%'  ",
-      "store"_a = Session.StoreCode, "name"_a = name);
-}
-
-std::string SupplierStatement(const std::string& text) {
-  const bool setUpOnly = AppOptions.OrderInfoPartnersOnly != 0;
-  const std::string first = LeftChars(text, 1);
-  const std::string rest = MidChars(text, 2);
-  if (first == "/") return setUpOnly ? SetUpSupplierByPhone(rest) : SupplierByPhone(rest);
-  if (first == "#") return setUpOnly ? SetUpSupplierByCode(rest) : SupplierByCode(rest);
-  return setUpOnly ? SetUpSupplierByName(text) : SupplierByName(text);
-}
-
-}  // namespace
 
 SupplierPane::SupplierPane(SlipForm& form) : form_(form) {
   form.Publish("Label1", Label1);
   form.Publish("Text1", Text1);
   form.Publish("LaCTHELP", LaCTHELP);
+  form.Publish("Recent", Recent);
   // A line's price belongs to the supplier; another name means other prices.
   Text1.Change = [this] { SupplierChanged(); };
   Text1.GotFocus = [this] { Text1_GotFocus(); };
@@ -79,8 +22,9 @@ SupplierPane::SupplierPane(SlipForm& form) : form_(form) {
     Text1_KeyDown(key);
     Text1_KeyPress(key);
   };
-  Text1.OwnKeys = {Key::F1, Key::Enter};
+  Text1.OwnKeys = {Key::F1, Key::Enter, Key::Down};
   LaCTHELP.Click = [this] { LaCTHELP_Click(); };
+  Recent.Click = [this](int entry) { Recent_Click(entry); };
 }
 
 bool SupplierPane::HasSupplier() const { return !Trim(Text1.Text()).empty() && !Text1.Tag.empty(); }
@@ -92,6 +36,7 @@ void SupplierPane::TellNoSupplier() const {
 void SupplierPane::Text1_GotFocus() { Text1.SelectAll(); }
 
 void SupplierPane::Text1_KeyDown(Key key) {
+  if (key == Key::Down && Recent.Enabled) Recent.Open();
   if (key != Key::F1) return;
   LaCTHELP_Click();
   form_.SetFocus(*AfterLookup);
@@ -113,19 +58,23 @@ void SupplierPane::FindSupplier(TextBox& box, std::int16_t& found) {
   StringTable suppliers;
   std::int32_t rows = 0;
   std::int32_t highestColumn = 0;
-  QueryRows(SqlText, suppliers, rows, highestColumn);
+  {
+    const StoppableReads mayBeStopped;
+    QueryRows(SqlText, suppliers, rows, highestColumn);
+  }
   if (rows == 1) {
     TakeSupplier(box, suppliers.At(1, 0), suppliers.At(1, 1));
   } else {
-    ChooseSupplier(box, "");
+    ChooseSupplier(box, box.Text(), "");
   }
   found = !box.Text().empty() && !box.Tag.empty() ? -1 : 0;
   FollowSupplier(ItemListMoment::SupplierTyped);
 }
 
-void SupplierPane::ChooseSupplier(TextBox& box, const std::string& lookupTable) {
+void SupplierPane::ChooseSupplier(TextBox& box, const std::string& search,
+                                  const std::string& lookupTable) {
   HELP_CT lookup;
-  lookup.Text1.SetText(box.Text());
+  lookup.Text1.SetText(search);
   lookup.SlipTable = lookupTable;
   Host.ShowModal(lookup);
   TakeSupplier(box, lookup.ResultCode, lookup.ResultName);
@@ -141,9 +90,48 @@ void SupplierPane::TakeSupplier(TextBox& box, const std::string& code, const std
 }
 
 void SupplierPane::LaCTHELP_Click() {
-  ChooseSupplier(Text1, form_.SlipTable);
+  ChooseSupplier(Text1, Text1.Text(), form_.SlipTable);
+  LookupClosed();
+}
+
+void SupplierPane::LookupClosed() {
   FollowSupplier(ItemListMoment::LookupClosed);
   form_.SetFocus(*AfterLookup);
+}
+
+void SupplierPane::ShowRecent() {
+  recent_ = RecentSuppliers();
+  Recent.Entries.clear();
+  for (const RecentSupplier& each : recent_) {
+    Recent.Entries.push_back(each.Name + "   " + each.Code);
+  }
+  Recent.Enabled = Text1.Enabled && !recent_.empty();
+}
+
+void SupplierPane::NoteRecent() {
+  if (HasSupplier()) NoteRecentSupplier({Text1.Tag, Text1.Text()});
+  ShowRecent();
+}
+
+void SupplierPane::Recent_Click(int entry) {
+  if (entry < 0 || entry >= static_cast<int>(recent_.size())) return;
+  const RecentSupplier chosen = recent_[static_cast<size_t>(entry)];
+  std::string name;
+  switch (LookUpSupplier(chosen.Code, name)) {
+    case SupplierStand::Unreadable:
+      Host.MsgBox("서버에 물어볼 수 없어 발주처를 정하지 못했습니다.\r\r잠시 뒤에 다시 고르세요.",
+                  box::Critical, "최근 발주처");
+      return;
+    case SupplierStand::Offered:
+      TakeSupplier(Text1, chosen.Code, name);
+      break;
+    case SupplierStand::NotOffered:
+      ForgetRecentSupplier(chosen.Code);
+      ShowRecent();
+      ChooseSupplier(Text1, chosen.Name, "");
+      break;
+  }
+  LookupClosed();
 }
 
 }  // namespace store

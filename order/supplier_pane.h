@@ -3,8 +3,10 @@
 #include <cstdint>
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "order/order_type.h"
+#include "order/recent_suppliers.h"
 #include "slips/slip_form.h"
 
 namespace store {
@@ -19,12 +21,18 @@ class SupplierPane {
 
   Label Label1{"발주처"};
   TextBox Text1;
-  Label LaCTHELP;  ///< Opens the supplier lookup.
+  Label LaCTHELP;       ///< Opens the supplier lookup.
+  Menu Recent{"최근"};  ///< The suppliers chosen last; the arrow down in the box opens it, too.
 
   void Text1_GotFocus();
   void Text1_KeyDown(Key key);
   void Text1_KeyPress(Key key);
   void LaCTHELP_Click();
+  /// Chooses an entry of the list as the lookup would. One to whom no order can go any more leaves
+  /// the list, and the lookup opens on its name.
+  void Recent_Click(int entry);
+  /// The list as the workstation remembers it. It can be opened where the supplier can be changed.
+  void ShowRecent();
 
   /// Whether both name and code are there.
   bool HasSupplier() const;
@@ -40,13 +48,18 @@ class SupplierPane {
   std::function<void(ItemListMoment moment)> FollowSupplier;
   /// Where the keyboard goes after the lookup.
   Control* AfterLookup = nullptr;
+  /// A person has chosen: the list begins with that supplier from now on.
+  void NoteRecent();
 
  private:
   void FindSupplier(TextBox& box, std::int16_t& found);
-  void ChooseSupplier(TextBox& box, const std::string& lookupTable);
+  void ChooseSupplier(TextBox& box, const std::string& search, const std::string& lookupTable);
   void TakeSupplier(TextBox& box, const std::string& code, const std::string& name);
 
+  void LookupClosed();
+
   SlipForm& form_;
+  std::vector<RecentSupplier> recent_;
 };
 
 }  // namespace store

@@ -11,6 +11,7 @@
 #include "forms/open_forms.h"
 #include "gateway/gateway.h"
 #include "lookup/export_grid.h"
+#include "lookup/print_slip.h"
 #include "slips/depot_choice.h"
 #include "slips/draft_fate.h"
 #include "slips/item_list.h"
@@ -71,6 +72,7 @@ void frm_PE_UNIT::PublishControls() {
     inBox_KeyDown(key);
     inBox_KeyPress(key);
   };
+  inBox.Scan = [this](const std::string& code) { inBox_Scan(code); };
   FLEX1.KeyDown = [this](Key key) { FLEX1_KeyDown(key); };
   FLEX1.OwnKeys = {Key::F12};
   Command1[1].Click = [this] { Command1_Click(1); };
@@ -143,6 +145,8 @@ void frm_PE_UNIT::DTPicker1_Change() {
 
 void frm_PE_UNIT::Label4_Click() { Close(); }
 
+void frm_PE_UNIT::PrintStored() { PrintSlip(SlipId); }
+
 // What the confirmation will be held against is read before the lines: a change in between then
 // stops it.
 void frm_PE_UNIT::LoadReceiptSlip(const std::string& orderId) {
@@ -180,7 +184,8 @@ void frm_PE_UNIT::FLEX1_KeyDown(Key key) {
 }
 
 void frm_PE_UNIT::inBox_KeyPress(Key key) {
-  if (key == Key::Enter && FLEX1.Row() >= 1) AcceptReceivedQty(FLEX1.Row());
+  if (key != Key::Enter || TakesCode(Trim(inBox.Text()))) return;
+  if (FLEX1.Row() >= 1) AcceptReceivedQty(FLEX1.Row());
 }
 
 void frm_PE_UNIT::AcceptReceivedQty(int row) {

@@ -58,8 +58,13 @@ class frm_PE_UNIT : public SlipForm, public LinesPane {
   void DTPicker1_Change();
   void FLEX1_KeyDown(Key key);
   void inBox_KeyPress(Key key);
+  /// A scanner has sent the barcode or the code of a product: the keyboard goes to its line. One
+  /// that is not on the slip is told.
+  void inBox_Scan(const std::string& code);
   void Command1_Click(int index);
   void Label4_Click();
+  /// Prints the order as it is stored, or what has been received on it.
+  void PrintStored();
 
  private:
   void SetUpGrid();
@@ -69,6 +74,10 @@ class frm_PE_UNIT : public SlipForm, public LinesPane {
   void LoadReceiptHeader();
   void LoadReceiptLine();
   void AcceptReceivedQty(int row);
+  bool GoToLineOf(const std::string& code);
+  int NextLineOf(const std::string& code) const;
+  void TellNotOnSlip(const std::string& code) const;
+  bool TakesCode(const std::string& entry);
 
   void ValidateReceipt(std::int16_t& valid);
   void FillHeader();

@@ -13,6 +13,7 @@ void frm_PE_UNIT::StartDraft() {
   if (WrittenEarlier) BringBack(*std::exchange(WrittenEarlier, {}));
   draft_.Begin(std::move(start));
   NoteDraft();
+  history_.Begin();
 }
 
 Draft frm_PE_UNIT::DraftNow() const {

@@ -16,9 +16,32 @@ LinesPane::LinesPane(Form& form, const LineGridColumns& columns, BoxKeys keys)
   form.Publish("inBox", inBox);
   form.Publish("FLEX1", FLEX1);
   form.Publish("LaAmt", LaAmt);
+  form.Publish("LineUndo", LineUndo);
+  form.Publish("LineRedo", LineRedo);
   inBox.Scanned = true;
   inBox.OwnKeys = {Key::Enter, Key::Up, Key::Down};
   FLEX1.KeyPress = [this](const std::string& character) { FLEX1_KeyPress(character); };
+  FLEX1.RowColChange = [this] { history_.NoteRow(); };
+  LineUndo.Click = [this] { LineUndo_Click(); };
+  LineRedo.Click = [this] { LineRedo_Click(); };
+  LineUndo.Enabled = LineRedo.Enabled = false;
+  history_.Changed = [this] {
+    LineUndo.Enabled = history_.CanUndo();
+    LineRedo.Enabled = history_.CanRedo();
+  };
+}
+
+void LinesPane::LineUndo_Click() {
+  if (history_.Undo() && LinesChanged) LinesChanged();
+}
+
+void LinesPane::LineRedo_Click() {
+  if (history_.Redo() && LinesChanged) LinesChanged();
+}
+
+void LinesPane::LinesHaveChanged() {
+  history_.Note();
+  if (LinesChanged) LinesChanged();
 }
 
 void LinesPane::WalkTo(int row) {
@@ -42,12 +65,12 @@ void LinesPane::FLEX1_KeyPress(const std::string& character) {
 
 void LinesPane::RecalcLine(int row) {
   RecalcGridLine(FLEX1, row, columns_, LaAmt);
-  if (LinesChanged) LinesChanged();
+  LinesHaveChanged();
 }
 
 void LinesPane::RecalcTotals() {
   RecalcGridTotals(FLEX1, columns_, LaAmt);
-  if (LinesChanged) LinesChanged();
+  LinesHaveChanged();
 }
 
 void LinesPane::RemoveCurrentLine() {

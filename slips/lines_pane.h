@@ -7,6 +7,7 @@
 #include "forms/grid.h"
 #include "gateway/string_table.h"
 #include "slips/line_grid.h"
+#include "slips/line_history.h"
 #include "slips/slip.h"
 
 namespace store {
@@ -25,7 +26,11 @@ class LinesPane {
   TextBox inBox;
   Grid FLEX1;
   TotalLabels LaAmt;
+  Button LineUndo{"되돌리기"};  ///< Takes the last change of the lines back.
+  Button LineRedo{"다시하기"};  ///< Does it again.
 
+  void LineUndo_Click();
+  void LineRedo_Click();
   void inBox_KeyDown(Key key);
   void FLEX1_KeyPress(const std::string& character);
 
@@ -57,9 +62,12 @@ class LinesPane {
 
   /// A line came, went or has other figures.
   std::function<void()> LinesChanged;
+  /// What a person does to the lines. It begins when the form is ready for a person.
+  LineHistory history_{FLEX1, LaAmt};
 
  private:
   void WalkTo(int row);
+  void LinesHaveChanged();
 
   Form& form_;
   const LineGridColumns& columns_;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "basics/log.h"
 #include "forms/host.h"
 #include "gateway/gateway.h"
 #include "slips/post_order.h"
@@ -34,6 +35,13 @@ bool HasBrought(const TriesFound& found, const StoredOrder& order) {
   if (!found.Own || !SameOrder(*found.Own, order)) return false;
   return found.State == order.State ||
          (found.Own->State == order.State && found.State > order.State);
+}
+
+void LogTriesFound(const std::string& slipId, const TriesFound& found, const StoredOrder& order) {
+  const char* words = !found.Asked               ? ", and the database could not be asked"
+                      : HasBrought(found, order) ? ", and stored"
+                                                 : ", and not stored as it is now";
+  WriteLog(LogWeight::Note, "batch in doubt", "order " + slipId + " looked for" + words);
 }
 
 bool WereAskedFor(const TriesFound& found) {
@@ -73,9 +81,12 @@ bool OrderInHand::TriesCanBeAskedFor() const {
 /// When the order is found it is looked for once more.
 TriesFound OrderInHand::LookFor(const std::string& slipId, const StoredOrder& order) const {
   TriesFound found = LookForTries(slipId, tries_);
-  if (!HasBrought(found, order)) return found;
-  Host.Sleep(kUntilOnDisk);
-  return LookForTries(slipId, tries_);
+  if (HasBrought(found, order)) {
+    Host.Sleep(kUntilOnDisk);
+    found = LookForTries(slipId, tries_);
+  }
+  LogTriesFound(slipId, found, order);
+  return found;
 }
 
 void OrderInHand::FindItsKey(HeadArray& headValues, StringTable& lineValues) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "slips/draft.h"
@@ -18,8 +19,10 @@ class SlipDraft {
   /// The form goes on with a draft that was taken (`TakeDraft`). Lines that it could not write
   /// again stay in the draft until the slip is saved.
   void GoOnWith(const Draft& draft, std::vector<DraftLine> refused);
-  /// The supplier has changed and the lines have gone: so do the refused ones.
-  void ForgetRefused() { refused_.clear(); }
+  /// Those lines. They go when the supplier changes and the other lines have gone, and come back
+  /// with them.
+  const std::vector<DraftLine>& Refused() const { return refused_; }
+  void SetRefused(std::vector<DraftLine> refused) { refused_ = std::move(refused); }
   /// Something has changed; passed over before `Begin`. Returns before anything is on the disk.
   void Note(Draft now);
   /// A save under the key `triedId` is about to be sent: that is on the disk before this returns,

@@ -6,6 +6,7 @@
 
 #include "forms/form.h"
 #include "slips/draft.h"
+#include "slips/past_order.h"
 
 namespace store {
 
@@ -19,6 +20,8 @@ class SlipForm : public Form {
   std::int16_t NoPriceMode = 0;  ///< 1 leaves out the price lookup when a line is added.
   /// A draft of this run (`TakeDraft`) that the form goes on with when it opens.
   std::optional<Draft> WrittenEarlier;
+  /// A former order whose items a new one begins with.
+  std::optional<PastOrder> OrderedBefore;
 
   /// Whether the form holds something that a person has entered and that is not stored. The board
   /// never puts another slip in its place.

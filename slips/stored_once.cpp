@@ -2,6 +2,7 @@
 
 #include <map>
 
+#include "basics/log.h"
 #include "forms/host.h"
 #include "gateway/gateway.h"
 #include "slips/slip_checks.h"
@@ -11,6 +12,12 @@ namespace {
 
 std::map<std::string, StoredOnce> Work;
 
+const char* FoundWords(std::optional<Fate> fate) {
+  if (!fate) return "looked for, and not stored";
+  return *fate == Fate::Unknown ? "looked for, and the database could not be asked"
+                                : "looked for, and stored";
+}
+
 }  // namespace
 
 std::optional<Fate> StoredOnce::FateOfEarlier(const std::string& content) {
@@ -19,6 +26,7 @@ std::optional<Fate> StoredOnce::FateOfEarlier(const std::string& content) {
     Host.Sleep(kUntilOnDisk);
     fate = LookForLost(content);
   }
+  if (!lost_.empty()) WriteLog(LogWeight::Note, "batch in doubt", FoundWords(fate));
   if (fate && fate != Fate::Unknown) lost_.clear();
   return fate;
 }

@@ -10,6 +10,7 @@
 #include <thread>
 
 #include "basics/deployment.h"
+#include "basics/log.h"
 #include "basics/records.h"
 #include "forms/host.h"
 
@@ -194,6 +195,7 @@ sqlite3* OpenUserFile(const std::filesystem::path& path, const UserFileKind& kin
   sqlite3* file = OpenUsable(path, kind, state);
   if (file != nullptr || (state != State::Damaged && state != State::Newer)) return file;
   const auto aside = AsideName(path, state == State::Newer ? "newer" : "damaged");
+  WriteLog(LogWeight::Warning, "user's file", "set aside as " + aside.filename().string());
   if (!SetAside(path, aside)) return nullptr;
   notice = AsideNotice(state, kind.Holds, aside);
   return MakeOwnersAlone(path) ? OpenUsable(path, kind, state) : nullptr;

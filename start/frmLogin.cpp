@@ -1,5 +1,6 @@
 #include "start/frmLogin.h"
 
+#include "basics/log.h"
 #include "basics/records.h"
 #include "forms/form.h"
 #include "forms/host.h"
@@ -33,9 +34,13 @@ void TakeUser() {
   Session.UserName = FieldText(SlotA, 2);
   Session.UserStoreCode = FieldText(SlotA, 3);
   Session.UserLevel = FieldText(SlotA, 4);
+  WriteLog(LogWeight::Note, "login",
+           "user " + Session.UserCode + " of store " + Session.UserStoreCode);
 }
 
 void TellUnknownUser() {
+  // What was typed may be a password in the wrong box, so the record has none of it.
+  WriteLog(LogWeight::Warning, "login", "refused");
   Host.Beep();
   Host.MsgBox(
       "사용자정보 오류입니다.                    \r\r"

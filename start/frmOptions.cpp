@@ -5,6 +5,7 @@
 #include "basics/deployment.h"
 #include "forms/form.h"
 #include "forms/host.h"
+#include "gateway/call_log.h"
 #include "gateway/gateway.h"
 
 namespace store {
@@ -143,6 +144,7 @@ bool frmOptions::CompanyIsKnown() {
   SqlText = CompanyStatement(Text1[4].Text());
   LastErrorText.clear();
   if (server) SlotA = server->GETSQL(SqlText, LastErrorText, ConnectString);
+  if (!SlotA) LogFailedRead(SqlText, LastErrorText);
   return !AtEof(SlotA);
 }
 

@@ -2,6 +2,7 @@
 
 #include <iostream>
 
+#include "basics/log.h"
 #include "forms/host.h"
 #include "gateway/gateway.h"
 
@@ -9,7 +10,10 @@ namespace store {
 
 void LoadOptions() {
   const std::string fault = OptionsFileFault();
-  if (!fault.empty()) std::clog << fault << "\n";
+  if (!fault.empty()) {
+    std::clog << fault << "\n";
+    WriteLog(LogWeight::Warning, "options file", fault);
+  }
   for (const Option& option : kOptions) {
     const std::string value = ReadOption(kOptionSection, option.Key);
     if (option.Text != nullptr) AppOptions.*option.Text = value;

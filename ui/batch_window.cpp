@@ -48,12 +48,13 @@ QWidget* BatchWindow::Header() {
   row->addWidget(HeadingLabel("핸디터미널처리"));
   row->addWidget(Named("LaRun", HeadingLabel({})));
   row->addStretch();
-  row->addWidget(CaptionLabel("하치장"));
-  row->addWidget(depot);
-  row->addWidget(CaptionLabel("일자"));
-  row->addWidget(Named("DTPicker1", new QDateEdit));
-  row->addWidget(Named("Command1_1", new KeyButton({}, Qt::Key_Escape)));
-  return Group("card", row);
+  auto* slip = Row();
+  slip->addWidget(CaptionLabel("하치장"));
+  slip->addWidget(depot);
+  slip->addWidget(CaptionLabel("일자"));
+  slip->addWidget(Named("DTPicker1", new QDateEdit));
+  slip->addWidget(Named("Command1_1", new KeyButton({}, Qt::Key_Escape)));
+  return Group("card", Alone(Folding(row, slip)));
 }
 
 QWidget* BatchWindow::Choice() {
@@ -68,14 +69,14 @@ QWidget* BatchWindow::Choice() {
     row->addWidget(option);
   }
   row->addWidget(CaptionLabel("Space 선택"));
-  row->addStretch();
-  row->addWidget(CaptionLabel("거래처"));
-  row->addWidget(partner, 2);
-  row->addWidget(Named("Command2", new KeyButton({}, Qt::Key_F1)));
-  row->addWidget(Named("Command1_0", new KeyButton({}, Qt::Key_F5)));
-  row->addWidget(CaptionLabel("메모"));
-  row->addWidget(Named("Text1_0", new QLineEdit), 2);
-  return Group("card", row);
+  auto* search = Row();
+  search->addWidget(CaptionLabel("거래처"));
+  search->addWidget(partner, 2);
+  search->addWidget(Named("Command2", new KeyButton({}, Qt::Key_F1)));
+  search->addWidget(Named("Command1_0", new KeyButton({}, Qt::Key_F5)));
+  search->addWidget(CaptionLabel("메모"));
+  search->addWidget(Named("Text1_0", new QLineEdit), 2);
+  return Group("card", Alone(Folding(row, search)));
 }
 
 QWidget* BatchWindow::Rows() {
@@ -111,9 +112,11 @@ QWidget* BatchWindow::Foot() {
   auto* remove = Named("Command1_4", new KeyButton({}, QKeySequence(Qt::CTRL | Qt::Key_Delete)));
   auto* make = Named("Command1_3", new KeyButton({}, Qt::Key_F9));
   make->MarkMain();
-  row->addWidget(remove);
-  row->addWidget(make);
-  return Group("totals", row);
+  auto* buttons = Row();
+  buttons->addStretch();
+  buttons->addWidget(remove);
+  buttons->addWidget(make);
+  return Group("totals", Alone(Folding(row, buttons)));
 }
 
 }  // namespace store

@@ -59,25 +59,37 @@ class PressBinding : public Binding {
 /// A button below which the entries open. Each has a number or letter that chooses it.
 class MenuBinding : public Binding {
  public:
-  MenuBinding(FormWindow& window, Menu& menu, KeyButton& button) : Binding(menu, button) {
+  MenuBinding(FormWindow& window, Menu& menu, KeyButton& button)
+      : Binding(menu, button), window_(window), menu_(menu), button_(button) {
     button.setText(ToQt(menu.Caption));
-    auto* list = new QMenu(&button);
-    for (int entry = 0; entry < static_cast<int>(menu.Entries.size()); ++entry) {
-      const std::string& text = menu.Entries[static_cast<size_t>(entry)];
+    window.OnPress(button, [&menu] { menu.Open(); });
+  }
+
+ private:
+  void FollowValue() override {
+    if (std::exchange(openings_, menu_.Openings()) == menu_.Openings()) return;
+    Fill();
+    list_.popup(button_.mapToGlobal(button_.rect().bottomLeft()));
+    if (!list_.isEmpty()) list_.setActiveAction(list_.actions().constFirst());
+  }
+  void Fill() {
+    list_.clear();
+    for (int entry = 0; entry < static_cast<int>(menu_.Entries.size()); ++entry) {
+      const std::string& text = menu_.Entries[static_cast<size_t>(entry)];
       if (text.empty()) {
-        list->addSeparator();
+        list_.addSeparator();
         continue;
       }
-      const QAction* action = list->addAction(
-          QString("&%1  %2").arg(QString::number(entry + 1, 36).toUpper(), ToQt(text)));
-      QObject::connect(action, &QAction::triggered, &window,
-                       [&window, &menu, entry] { window.Act([&] { menu.Click(entry); }); });
+      const QAction* action = list_.addAction(NumberedEntry(entry, ToQt(text)));
+      QObject::connect(action, &QAction::triggered, &window_,
+                       [this, entry] { window_.Act([&] { menu_.Click(entry); }); });
     }
-    window.OnPress(button, [list, &button] {
-      list->popup(button.mapToGlobal(button.rect().bottomLeft()));
-      list->setActiveAction(list->actions().constFirst());
-    });
   }
+  FormWindow& window_;
+  Menu& menu_;
+  KeyButton& button_;
+  QMenu& list_ = *new QMenu(&button_);
+  unsigned openings_ = 0;
 };
 
 /// A button for each tab in a row; none is down before the first press.
@@ -192,6 +204,11 @@ std::unique_ptr<Binding> Bind(FormWindow& window, Control& control, QWidget& wid
   }
   if (std::unique_ptr<Binding> input = BindInput(window, control, widget)) return input;
   return std::make_unique<Binding>(control, widget);
+}
+
+QString NumberedEntry(int entry, const QString& text) {
+  return QString("&%1  %2").arg(QString::number(entry + 1, 36).toUpper(),
+                                QString(text).replace("&", "&&"));
 }
 
 void BindTimer(FormWindow& window, Timer& timer) {

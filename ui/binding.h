@@ -65,6 +65,9 @@ std::unique_ptr<Binding> Bind(FormWindow& window, Control& control, QWidget& wid
 /// other control.
 std::unique_ptr<Binding> BindInput(FormWindow& window, Control& control, QWidget& widget);
 
+/// The text of a menu's entry behind the number or letter that chooses it while the menu is open.
+QString NumberedEntry(int entry, const QString& text);
+
 /// Fires the timer's event while it is enabled and has an interval.
 void BindTimer(FormWindow& window, Timer& timer);
 

@@ -12,6 +12,7 @@
 #include "ui/grid_view.h"
 #include "ui/key_button.h"
 #include "ui/layout_pieces.h"
+#include "ui/style.h"
 
 namespace store {
 namespace {
@@ -75,7 +76,7 @@ class PairGrid {
 
 QWidget* BoardWindow::Notices() {
   notices_ = Named("FLEX0", new GridView(board_.FLEX0));
-  notices_->setMinimumHeight(60);
+  FollowLook(*notices_, [this] { notices_->setMinimumHeight(Scaled(60)); });
   auto* column = Column();
   column->addWidget(HeadingLabel("공지사항"));
   column->addWidget(notices_, 1);
@@ -135,8 +136,8 @@ void BoardWindow::MakeNoticePane() {
 void BoardWindow::PlaceNoticePane() {
   if (noticePane_ == nullptr) return;
   const QPoint corner = notices_->mapTo(this, notices_->rect().bottomLeft());
-  const QSize size(std::min(kNoticePane.width(), width() - 2 * kPaneMargin),
-                   std::min(kNoticePane.height(), height() - 2 * kPaneMargin));
+  const QSize size(std::min(Scaled(kNoticePane.width()), width() - 2 * kPaneMargin),
+                   std::min(Scaled(kNoticePane.height()), height() - 2 * kPaneMargin));
   noticePane_->setGeometry(corner.x(), corner.y() - size.height(), size.width(), size.height());
   noticePane_->raise();
 }

@@ -5,6 +5,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenuBar>
 #include <QRadioButton>
 #include <QSplitter>
 #include <QVBoxLayout>
@@ -12,6 +13,7 @@
 #include "basics/records.h"
 #include "board/frm_Start.h"
 #include "ui/binding.h"
+#include "ui/board_menu.h"
 #include "ui/grid_view.h"
 #include "ui/key_button.h"
 #include "ui/layout_pieces.h"
@@ -58,10 +60,15 @@ BoardWindow::BoardWindow(frm_Start& form) : FormWindow(form), board_(form) {
   auto* content = new QVBoxLayout;
   content->setContentsMargins(0, 0, 0, 0);
   content->setSpacing(0);
+  content->setMenuBar(BoardMenu(*this, form));
   content->addWidget(Band());
-  content->addLayout(work, 1);
+  content->addWidget(Scrolled(work), 1);
   setLayout(content);
   MakeNoticePane();
+  OnShortcut(QKeySequence(Qt::CTRL | Qt::Key_P),
+             [this] { Act([this] { board_.PrintSelected(); }); });
+  OnShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_P),
+             [this] { Act([this] { board_.PrintLastReceipt(); }); });
   BindControls();
   OfferActions(*slips_, SlipActions());
   OfferActions(*notices_, {KeyLine("공지 열기", Key::Enter, board_.FLEX0)});
@@ -79,9 +86,7 @@ QWidget* BoardWindow::Band() {
   auto* row = Row();
   row->addWidget(store, 1);
   for (KeyButton* button : {drafts, web, smaller, end}) row->addWidget(button);
-  QFont font = store->font();
-  font.setBold(true);
-  store->setFont(font);
+  FollowFont(*store, BoldFont);
   return Group("band", row);
 }
 
@@ -96,22 +101,22 @@ QWidget* BoardWindow::Actions() {
   add(1, QKeySequence(Qt::SHIFT | Qt::Key_F2));
   add(4, Qt::Key_F8);
   row->addWidget(Named("HandheldMenu", new KeyButton({}, Qt::Key_F7)));
+  row->addWidget(Named("LaAgain", new KeyButton({}, Qt::Key_F6)));
   row->addStretch();
-  row->addWidget(SlipFinder());
-  return Holder(row);
+  return Folding(row, SlipFinder());
 }
 
-QWidget* BoardWindow::SlipFinder() {
+QLayout* BoardWindow::SlipFinder() {
   auto* caption = new QLabel(ToQt(board_.Label7.Caption) + " (&F)");
   auto* number = Named("Text2", new QLineEdit);
   caption->setBuddy(number);
-  number->setFixedWidth(kFinderWidth);
+  FollowLook(*number, [number] { number->setFixedWidth(Scaled(kFinderWidth)); });
   number->setPlaceholderText("전표번호 Enter");
   auto* row = Row();
   row->addStretch();
   row->addWidget(caption);
   row->addWidget(number);
-  return Holder(row);
+  return row;
 }
 
 QWidget* BoardWindow::Search() {
@@ -124,16 +129,21 @@ QWidget* BoardWindow::Search() {
     row->addWidget(radio);
   }
   row->addStretch();
+  auto* period = Row();
+  period->addStretch();
   for (size_t i = 0; i < board_.DTOrderDate.size(); ++i) {
-    if (i == 1) row->addWidget(CaptionLabel("~"));
-    row->addWidget(Named(QString("DTOrderDate_%1").arg(i), new QDateEdit));
+    if (i == 1) period->addWidget(CaptionLabel("~"));
+    auto* date = Named(QString("DTOrderDate_%1").arg(i), new QDateEdit);
+    date->setAccessibleName(i == 0 ? "조회 시작일" : "조회 끝일");
+    period->addWidget(date);
   }
-  row->addWidget(Named("Image1_3", new KeyButton({}, Qt::Key_F5)));
-  return Group("card", row);
+  period->addWidget(Named("Image1_3", new KeyButton({}, Qt::Key_F5)));
+  return Group("card", Alone(Folding(row, period)));
 }
 
 QWidget* BoardWindow::Slips() {
   slips_ = Named("FLEX1", new GridView(board_.FLEX1));
+  slips_->setAccessibleName("발주 전표");
   slips_->Tint = [](int column, const QString& text) {
     return column == board::State ? StateTint(text) : QColor();
   };
@@ -167,17 +177,19 @@ QWidget* BoardWindow::Sums() {
   row->addSpacing(24);
   row->addWidget(chosen);
   row->addStretch();
-  row->addWidget(Named("LaDeleted", new KeyButton({}, QKeySequence(Qt::CTRL | Qt::Key_Z))));
-  row->addSpacing(12);
-  row->addWidget(CaptionLabel("합계"));
-  row->addWidget(total);
+  auto* sum = Row();
+  sum->addStretch();
+  sum->addWidget(Named("LaDeleted", new KeyButton({}, QKeySequence(Qt::CTRL | Qt::Key_Z))));
+  sum->addSpacing(12);
+  sum->addWidget(CaptionLabel("합계"));
+  sum->addWidget(total);
   AlsoSync([this, chosen, seen = SeenText()]() mutable {
     if (!seen.Differs(board_.SelectedSlipId + board_.SelectedSlipState)) return;
     const QString slip = ToQt(board_.SelectedSlipId);
     chosen->setText(slip.isEmpty() ? QString()
                                    : "선택전표  " + ToQt(board_.SelectedSlipState) + "  " + slip);
   });
-  return Group("totals", row);
+  return Group("totals", Alone(Folding(row, sum)));
 }
 
 void BoardWindow::resizeEvent(QResizeEvent* event) {

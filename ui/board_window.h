@@ -3,6 +3,7 @@
 #include "ui/form_window.h"
 
 class QFrame;
+class QLayout;
 class QLineEdit;
 
 namespace store {
@@ -22,7 +23,7 @@ class BoardWindow : public FormWindow {
  private:
   QWidget* Band();
   QWidget* Actions();
-  QWidget* SlipFinder();
+  QLayout* SlipFinder();
   QWidget* Search();
   QWidget* Slips();
   QWidget* Sums();

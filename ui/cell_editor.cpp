@@ -2,15 +2,17 @@
 
 #include <QKeyEvent>
 
-#include "ui/palette.h"
+#include "ui/style.h"
 
 namespace store {
 
 CellEditor::CellEditor(QWidget* parent) : QLineEdit(parent) {
   setFrame(false);
   setAlignment(Qt::AlignRight);
-  setStyleSheet(QString("border: 2px solid %1; border-radius: 0; padding: 0 2px; background: %2;")
-                    .arg(QColor(look::Accent).name(), QColor(look::OpenCell).name()));
+  FollowLook(*this, [this] {
+    setStyleSheet(QString("border: 2px solid %1; border-radius: 0; padding: 0 2px; background: %2;")
+                      .arg(QColor(look::Bright).name(), QColor(look::OpenCell).name()));
+  });
   hide();
 }
 

@@ -42,7 +42,7 @@ CradleWindow::CradleWindow(FRM_CRDIMP& form) : FormWindow(form) {
   content->addWidget(Buttons());
   FillWindow(*this, content);
   BindControls();
-  resize(kWidth, sizeHint().height());
+  FitContent(*this, {kWidth, 0});
 }
 
 QWidget* CradleWindow::Choices() {

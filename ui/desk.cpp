@@ -12,6 +12,7 @@
 
 #include "forms/open_forms.h"
 #include "ui/form_window.h"
+#include "ui/user_choices.h"
 #include "ui/window_registry.h"
 
 namespace store {
@@ -77,6 +78,12 @@ void Desk::PaintWindows(QEventLoop::ProcessEventsFlags flags, int milliseconds) 
   insideCall_ = before;
 }
 
+void Desk::ShowProgress(const std::string& what, int done, int of) {
+  if (of == 0) return progress_.Hide();
+  progress_.ShowProgress(what, done, of);
+  PaintWindows(QEventLoop::ExcludeUserInputEvents);
+}
+
 void Desk::Paint(QEventLoop::ProcessEventsFlags flags, int milliseconds) {
   ++painting_;
   if (milliseconds == 0) {
@@ -118,6 +125,7 @@ void Desk::DeleteLeaving() {
 
 FormWindow* Desk::Open(Form& form) {
   if (FormWindow* window = WindowOf(form)) return window;
+  TakeUserChoices();  // somebody may have logged in
   FormWindow* window = MakeWindow(form);
   if (window == nullptr) return nullptr;
   open_.push_back(window);
@@ -231,6 +239,7 @@ void Desk::Clear() {
   }
   DeleteLeaving();
   ending_ = false;
+  progress_.Hide();
   server_.Forget();
 }
 

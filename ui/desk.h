@@ -9,6 +9,7 @@
 
 #include "forms/form.h"
 #include "ui/server_wait.h"
+#include "ui/wait_panel.h"
 
 class QKeyEvent;
 class QLineEdit;
@@ -48,6 +49,8 @@ class Desk : public QObject {
   void ShowServer(ServerLink link, std::chrono::milliseconds lasted) {
     server_.Tell(link, lasted, depth_);
   }
+  /// How far a counted work has come; it is over when `of` is 0.
+  void ShowProgress(const std::string& what, int done, int of);
   /// Keeps `work` back while the windows paint. False when they do not, and it may run at once.
   bool WaitsForPainting(std::function<void()> work);
 
@@ -102,6 +105,7 @@ class Desk : public QObject {
   QPointer<QLineEdit> typedInto_;
   QString typedLater_;
   ServerWait server_;
+  WaitPanel progress_;
   bool insideCall_ = false;
   int painting_ = 0;
   int depth_ = 0;

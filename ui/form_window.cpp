@@ -5,17 +5,22 @@
 #include <QCloseEvent>
 #include <QEventLoop>
 #include <QKeyEvent>
+#include <QMenuBar>
 #include <QPainterPath>
 #include <QTimer>
 #include <QWindow>
 #include <algorithm>
 
+#include "ui/accessible_names.h"
 #include "ui/binding.h"
 #include "ui/desk.h"
 #include "ui/grid_view.h"
+#include "ui/guide_pages.h"
+#include "ui/guide_window.h"
 #include "ui/key_button.h"
 #include "ui/key_names.h"
 #include "ui/qt_text.h"
+#include "ui/user_choices.h"
 
 namespace store {
 namespace {
@@ -40,6 +45,18 @@ bool IsFunctionKey(const QKeyEvent& event) {
 FormWindow::FormWindow(Form& form) : form_(form) {
   setObjectName(ToQt(form.Name));
   OnShortcut(QKeySequence(Qt::CTRL | Qt::Key_0), [] { ForgetLayouts(); });
+  OnShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_F1), [this] { ShowGuide(); });
+  // "+" stands above "=" on one keyboard, alone on another, and in the block of digits on most.
+  for (const QKeyCombination plus :
+       {Qt::ControlModifier | Qt::Key_Plus, Qt::ControlModifier | Qt::ShiftModifier | Qt::Key_Plus,
+        Qt::ControlModifier | Qt::Key_Equal,
+        Qt::ControlModifier | Qt::KeypadModifier | Qt::Key_Plus}) {
+    OnShortcut(plus, [] { StepTypeSize(1); });
+  }
+  for (const QKeyCombination minus : {Qt::ControlModifier | Qt::Key_Minus,
+                                      Qt::ControlModifier | Qt::KeypadModifier | Qt::Key_Minus}) {
+    OnShortcut(minus, [] { StepTypeSize(-1); });
+  }
   OnShortcut(QKeySequence(Qt::CTRL | Qt::Key_F), [this] { FilterRows(); });
 }
 
@@ -158,6 +175,8 @@ void FormWindow::Sync() {
   FollowTitle();
   for (const auto& binding : bindings_) binding->Follow();
   for (const auto& sync : syncs_) sync();
+  // The captions that the form writes are there now.
+  if (!std::exchange(named_, true)) NameControls(*this);
   FollowFocus();
 }
 
@@ -242,10 +261,12 @@ void FormWindow::FilterRows() {
 bool FormWindow::KeyPressed(const QKeyEvent& event, QWidget& at) {
   const Key key = NamedKey(event);
   if (InTypedText(at) && !IsFunctionKey(event)) return false;
+  if (qobject_cast<const QMenuBar*>(&at) != nullptr) return false;  // a person walks along it
   if (key == Key::Escape && EscapesFilter(at)) return true;
 
   const bool walks = key == Key::Up || key == Key::Down || key == Key::Delete || key == Key::Tab;
   if (key != Key::None && event.isAutoRepeat() && !walks) return true;  // a key that was held down
+  if (ScanTakes(event, at)) return true;
 
   if (key != Key::None) {
     bool used = false;
@@ -260,6 +281,16 @@ bool FormWindow::KeyPressed(const QKeyEvent& event, QWidget& at) {
   return ShortcutTakes(event) || gone_;
 }
 
+/// A scanner's code, with its Enter, goes to a box that asks for codes.
+bool FormWindow::ScanTakes(const QKeyEvent& event, const QWidget& at) {
+  const QString code = scan_.Take(event);
+  const Binding* binding = code.isEmpty() ? nullptr : BindingAt(at);
+  const auto* box = binding == nullptr ? nullptr : dynamic_cast<TextBox*>(&binding->Bound());
+  if (box == nullptr || !box->Enabled || !box->Scan) return false;
+  Act([&] { box->Scan(FromQt(code)); });
+  return true;
+}
+
 bool FormWindow::ShortcutTakes(const QKeyEvent& event) {
   const QKeySequence pressed(event.keyCombination());
   for (const auto& [keys, handler] : shortcuts_) {
@@ -267,8 +298,13 @@ bool FormWindow::ShortcutTakes(const QKeyEvent& event) {
     if (!event.isAutoRepeat()) handler();
     return true;
   }
-  return false;
+  // Where F1 has no other meaning in the window.
+  if (pressed != QKeySequence(Qt::Key_F1)) return false;
+  ShowGuide();
+  return true;
 }
+
+void FormWindow::ShowGuide() { OpenGuide(GuidePageOf(form_.Name), this); }
 
 bool FormWindow::event(QEvent* event) {
   const bool handled = QWidget::event(event);
@@ -276,6 +312,9 @@ bool FormWindow::event(QEvent* event) {
     case QEvent::Paint:
       // Only a window that a person can see may begin to work and keep them waiting.
       if (!std::exchange(painted_, true)) QueueActivate();
+      break;
+    case QEvent::Resize:
+      if (!mask().isEmpty()) setMask(RoundedRegion(width(), height()));
       break;
     case QEvent::WindowDeactivate:
       left_ = !TheDesk().BoxIsOpen();

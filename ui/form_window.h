@@ -11,6 +11,7 @@
 #include "forms/form.h"
 #include "forms/grid.h"
 #include "ui/context_action.h"
+#include "ui/scan_run.h"
 #include "ui/window_layout.h"
 
 class QEventLoop;
@@ -99,8 +100,11 @@ class FormWindow : public QWidget {
   bool EscapesFilter(const QWidget& at) const;
   void FilterRows();
   void ChainTabOrder();
+  bool ScanTakes(const QKeyEvent& event, const QWidget& at);
   bool ShortcutTakes(const QKeyEvent& event);
   void FollowTitle();
+  /// At the page that is about this window.
+  void ShowGuide();
 
   Form& form_;
   WindowLayout layout_{*this};
@@ -109,9 +113,11 @@ class FormWindow : public QWidget {
   std::vector<std::function<void()>> syncs_;
   std::vector<std::pair<QKeySequence, std::function<void()>>> shortcuts_;
   std::vector<GridView*> grids_;
+  ScanRun scan_;
   std::vector<GridView*> worked_;  // the grids with lines of their own
   QEventLoop* loop_ = nullptr;
   unsigned focusSeen_ = 0;
+  bool named_ = false;
   bool placed_ = false;  // where a person has left it
   bool gone_ = false;    // the form has closed and may not even be there any more
   bool painted_ = false;

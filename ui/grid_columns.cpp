@@ -33,6 +33,11 @@ void GridColumns::Follow() {
   ShareWidth();
 }
 
+void GridColumns::MeasureAnew() {
+  needs_.clear();
+  Follow();
+}
+
 void GridColumns::ShowColumns() {
   // What the form hides by now may have been all that a person had left.
   if (Shown().empty()) switchedOff_.clear();

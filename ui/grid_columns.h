@@ -27,6 +27,8 @@ class GridColumns {
   /// After a scroll: what has come into view may be wider than all before it.
   void MeasureView();
   void ShareWidth();
+  /// After a change of the letters' size.
+  void MeasureAnew();
   /// A border that a person drags moves between two columns; the others stay.
   void MoveBorder(int section, int oldSize, int newSize);
 

@@ -37,7 +37,7 @@ void PaintTick(QPainter& painter, const QRect& cell, bool ticked) {
   painter.setBrush(QColor(look::Paper));
   painter.drawRoundedRect(box, 2, 2);
   if (!ticked) return;
-  painter.setPen(QPen(QColor(look::Accent), 2));
+  painter.setPen(QPen(QColor(look::Bright), 2));
   painter.drawPolyline(
       QPolygon({box.topLeft() + QPoint(2, size / 2), box.topLeft() + QPoint(size / 2 - 1, size - 3),
                 box.topLeft() + QPoint(size - 2, 3)}));
@@ -138,11 +138,11 @@ void GridDelegate::PaintPlace(QPainter& painter, const QRect& cell,
     painter.fillRect(QRect(cell.topLeft(), QSize(kCopyBar, cell.height())), QColor(look::Accent));
   }
   if (!IsMarked(index)) return;
-  painter.setPen(QColor(view_.hasFocus() ? look::Accent : look::Muted));
+  painter.setPen(QColor(view_.hasFocus() ? look::Bright : look::Muted));
   painter.drawLine(cell.topLeft(), cell.topRight());
   painter.drawLine(cell.bottomLeft(), cell.bottomRight());
   if (!view_.hasFocus() || index != view_.currentIndex()) return;
-  painter.setPen(QPen(QColor(look::Accent), 2));
+  painter.setPen(QPen(QColor(look::Bright), 2));
   painter.setBrush(Qt::NoBrush);
   painter.drawRect(cell.adjusted(1, 1, -1, -1));
 }

@@ -52,7 +52,6 @@ GridView::GridView(Grid& grid, int lines, QWidget* parent)
   verticalHeader()->setVisible(false);
   verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
   verticalHeader()->setMinimumSectionSize(1);
-  verticalHeader()->setDefaultSectionSize(RowHeight(lines));
   horizontalHeader()->setVisible(grid.FixedRows() > 0);
   horizontalHeader()->setSectionsClickable(true);
   horizontalHeader()->setHighlightSections(false);
@@ -67,6 +66,10 @@ GridView::GridView(Grid& grid, int lines, QWidget* parent)
           });
   connect(horizontalHeader(), &QHeaderView::customContextMenuRequested, this,
           &GridView::OpenHeaderMenu);
+  FollowLook(*this, [this, lines] {
+    verticalHeader()->setDefaultSectionSize(RowHeight(lines));
+    columns_.MeasureAnew();
+  });
   connect(horizontalHeader(), &QHeaderView::sectionClicked, this, &GridView::TitleClicked);
   filter_->Typed = [this](const QString& text) { FilterBy(text); };
   filter_->GoneOn = [this] { GoOnToRows(); };

@@ -1,5 +1,6 @@
 #include "ui/history_chart_view.h"
 
+#include <QAccessible>
 #include <QPainter>
 #include <QPainterPath>
 
@@ -22,6 +23,7 @@ constexpr int kNarrowBars = 30;
 
 HistoryChartView::HistoryChartView(const Grid& grid) : grid_(grid) {
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+  setAccessibleName("판매이력");
 }
 
 void HistoryChartView::Follow() {
@@ -33,6 +35,7 @@ void HistoryChartView::Follow() {
 
 void HistoryChartView::SetItem(const QString& item) {
   item_ = item;
+  if (QAccessible::isActive()) setAccessibleDescription(Heading());
   update();
 }
 
@@ -43,7 +46,7 @@ bool HistoryChartView::IsNarrow() const {
 QSize HistoryChartView::sizeHint() const {
   const int line = fontMetrics().lineSpacing();
   const int lines = IsNarrow() ? 1 : 5;  // heading; quantity, day, month, days back
-  return {600, lines * line + (IsNarrow() ? kNarrowBars : kWideBars) + 3 * kMargin};
+  return {600, lines * line + Scaled(IsNarrow() ? kNarrowBars : kWideBars) + 3 * kMargin};
 }
 
 // The form paints the rows above a day's bar white; those it leaves are the bar.
@@ -73,16 +76,19 @@ void HistoryChartView::paintEvent(QPaintEvent*) {
   }
 }
 
-void HistoryChartView::PaintHeading(QPainter& painter, const QRect& room) const {
+QString HistoryChartView::Heading() const {
   double sold = 0;
   for (int day = 1; day < grid_.Cols(); ++day) {
     sold += ParseNumber(grid_.TextMatrix(history::Quantity, day));
   }
-  QString total = ToQt(FormatNumber(sold, "#,##0.##"));
+  return "최근 31일 판매  " + item_ + "   합계 " + ToQt(FormatNumber(sold, "#,##0.##"));
+}
+
+void HistoryChartView::PaintHeading(QPainter& painter, const QRect& room) const {
   QRect line(room.left(), room.top(), room.width(), fontMetrics().lineSpacing());
   if (IsNarrow()) line.setLeft(room.left() + room.width() / 4 + 2 * kMargin);
   painter.setPen(QColor(look::Ink));
-  painter.drawText(line, Qt::AlignLeft, "최근 31일 판매  " + item_ + "   합계 " + total);
+  painter.drawText(line, Qt::AlignLeft, Heading());
   painter.setPen(QColor(look::Muted));
   painter.drawText(line, Qt::AlignRight, "F5 좁게   F6 넓게");
 }

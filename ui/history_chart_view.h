@@ -25,6 +25,7 @@ class HistoryChartView : public QWidget {
   void paintEvent(QPaintEvent* event) override;
 
  private:
+  QString Heading() const;
   int BarRows(int day) const;
   void PaintHeading(QPainter& painter, const QRect& room) const;
   void PaintDay(QPainter& painter, int day, const QRect& column) const;

@@ -34,6 +34,7 @@ class TextBinding : public Binding {
     if (box.MaxLength > 0) edit.setMaxLength(box.MaxLength);
     edit.setProperty(kScannedProperty, box.Scanned);
     if (box.Masked) edit.setEchoMode(QLineEdit::Password);
+    FollowLook(edit, [this] { ShowGround(); });
     QObject::connect(&edit, &QLineEdit::textEdited, &window, [this](const QString& text) {
       const std::string typed = FromQt(text);
       seen_.Differs(typed);
@@ -45,13 +46,15 @@ class TextBinding : public Binding {
   void FollowValue() override {
     // Setting the text drops what an input method is putting together, so only when it differs.
     if (seen_.Differs(box_.Text())) edit_.setText(ToQt(box_.Text()));
-    if (std::exchange(groundSeen_, box_.BackColor) != box_.BackColor) ShowGround();
+    if (groundSeen_ != box_.BackColor) ShowGround();
     if (selectionSeen_ == box_.SelectionRevision()) return;
     selectionSeen_ = box_.SelectionRevision();
     if (box_.WantedSelection() == TextBox::Selection::All) edit_.selectAll();
     if (box_.WantedSelection() == TextBox::Selection::End) edit_.end(false);
   }
   void ShowGround() {
+    groundSeen_ = box_.BackColor;
+    if (groundSeen_ < 0 && edit_.styleSheet().isEmpty()) return;
     edit_.setStyleSheet(
         box_.BackColor < 0
             ? QString()
@@ -106,7 +109,7 @@ void ColourDaysOff(QCalendarWidget& calendar) {
   QTextCharFormat ink;
   ink.setForeground(QColor(look::Warning));
   calendar.setWeekdayTextFormat(Qt::Sunday, ink);
-  ink.setForeground(QColor(look::Accent));
+  ink.setForeground(QColor(look::Bright));
   calendar.setWeekdayTextFormat(Qt::Saturday, ink);
 }
 
@@ -117,7 +120,7 @@ class DateBinding : public Binding {
     LeaveFocusToClicks(edit);
     edit.setDisplayFormat(kDateForm);
     edit.setCalendarPopup(true);
-    ColourDaysOff(*edit.calendarWidget());
+    FollowLook(edit, [&edit] { ColourDaysOff(*edit.calendarWidget()); });
     // The earliest date stands for a text that is no date, and shows as a blank.
     edit.setSpecialValueText(QStringLiteral(" "));
     QObject::connect(&edit, &QDateEdit::dateChanged, &window, [this](const QDate& date) {

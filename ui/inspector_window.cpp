@@ -27,7 +27,7 @@ InspectorWindow::InspectorWindow(FRM_NAMECHK& form) : FormWindow(form), check_(f
   content->addWidget(Buttons());
   FillWindow(*this, content);
   BindControls();
-  resize(kWidth, sizeHint().height());
+  FitContent(*this, {kWidth, 0});
 }
 
 QWidget* InspectorWindow::Buttons() {

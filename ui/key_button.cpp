@@ -18,11 +18,13 @@ constexpr int kKeyPadding = 4;
 KeyButton::KeyButton(const QString& text, const QKeySequence& keys)
     : QPushButton(text), keys_(keys), key_(keys.toString(QKeySequence::NativeText)) {
   setFocusPolicy(Qt::NoFocus);
+  setAccessibleDescription(key_);
   setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Fixed);
 }
 
 void KeyButton::WriteKey(const QString& key) {
   key_ = key;
+  setAccessibleDescription(key);
   updateGeometry();
 }
 
@@ -37,7 +39,7 @@ QSize KeyButton::sizeHint() const {
   if (!key_.isEmpty()) {
     width += metrics.horizontalAdvance(key_) + 2 * kKeyPadding + (text().isEmpty() ? 0 : kGap);
   }
-  return {width, std::max(kHeight, metrics.lineSpacing() + 10)};
+  return {width, std::max(Scaled(kHeight), metrics.lineSpacing() + 10)};
 }
 
 void KeyButton::paintEvent(QPaintEvent*) {
@@ -51,7 +53,7 @@ void KeyButton::paintEvent(QPaintEvent*) {
   } else if (underMouse()) {
     ground = Hovered(main_);
   }
-  const QColor edge(hasFocus() ? look::Accent : look::Edge);
+  const QColor edge(hasFocus() ? look::Bright : look::Edge);
   painter.setPen(QPen(edge, hasFocus() ? 2 : 1));
   painter.setBrush(ground);
   painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 4, 4);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QSize>
 #include <QString>
 #include <array>
 #include <string>
@@ -34,14 +35,27 @@ std::string StoreAnd(const TextBox& partner);
 
 /// A heading above its content.
 QWidget* Titled(QWidget* heading, QWidget* content);
+QWidget* Titled(QLayout* heading, QWidget* content);
 
 /// A list above what belongs to its current row, with a border that a person can move.
 QWidget* ListAndDetails(QWidget* list, QWidget* details);
 
+/// A layout that holds one widget.
+QLayout* Alone(QWidget* widget);
+
+/// Two groups of things side by side or, where that is too wide for the window, one below the
+/// other. The first one takes the room that is over.
+QWidget* Folding(QLayout* first, QLayout* second);
+
 /// Rows and columns with the spacing of all windows.
 QHBoxLayout* Row();
 QVBoxLayout* Column();
-/// Makes `content` the layout of a whole window.
+/// Makes `content` the layout of a whole window. On a screen that is smaller than it, it can be
+/// scrolled.
 void FillWindow(QWidget& window, QVBoxLayout* content);
+/// The part of a window that gives way in this manner.
+QWidget* Scrolled(QLayout* content);
+/// Makes a window as large as its content and at least `least`, in each size of type.
+void FitContent(QWidget& window, const QSize& least);
 
 }  // namespace store

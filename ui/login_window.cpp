@@ -11,6 +11,7 @@
 #include "ui/key_button.h"
 #include "ui/layout_pieces.h"
 #include "ui/qt_text.h"
+#include "ui/style.h"
 
 namespace store {
 namespace {
@@ -21,7 +22,6 @@ constexpr int kBandHeight = 84;
 }  // namespace
 
 LoginWindow::LoginWindow(frmLogin& form) : FormWindow(form) {
-  setFixedSize(kSize);
   LayOut();
   BindControls();
 }
@@ -51,7 +51,10 @@ void LoginWindow::LayOut() {
   buttons->addWidget(ok);
   buttons->addWidget(cancel);
   auto* content = new QVBoxLayout;
-  content->setContentsMargins(48, kBandHeight + 22, 48, 20);
+  FollowLook(*this, [this, content] {
+    setFixedSize(Scaled(kSize));
+    content->setContentsMargins(Scaled(QMargins(48, kBandHeight + 22, 48, 20)));
+  });
   content->addLayout(fields);
   content->addStretch();
   content->addLayout(buttons);
@@ -62,7 +65,7 @@ void LoginWindow::LayOut() {
 
 void LoginWindow::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  PaintBandedGround(painter, rect(), kBandHeight, ToQt(Host.ProgramTitle));
+  PaintBandedGround(painter, rect(), Scaled(kBandHeight), ToQt(Host.ProgramTitle));
 }
 
 }  // namespace store

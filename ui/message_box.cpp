@@ -18,7 +18,7 @@ constexpr int kIconSize = 36;
 constexpr int kIcons = box::Critical | box::Question | box::Warning | box::Information;
 
 struct Sign {
-  QRgb Colour;
+  QColor Colour;
   QString Letter;
 };
 
@@ -29,9 +29,9 @@ Sign SignOf(int style) {
     case box::Warning:
       return {look::Warning, "!"};
     case box::Question:
-      return {look::Accent, "?"};
+      return {look::Bright, "?"};
     case box::Information:
-      return {look::Accent, "i"};
+      return {look::Bright, "i"};
     default:
       return {};
   }
@@ -41,17 +41,18 @@ Sign SignOf(int style) {
 QPixmap IconOf(int style, double scale) {
   const Sign sign = SignOf(style);
   if (sign.Letter.isEmpty()) return {};
-  QPixmap icon(QSize(kIconSize, kIconSize) * scale);
+  const int side = Scaled(kIconSize);
+  QPixmap icon(QSize(side, side) * scale);
   icon.setDevicePixelRatio(scale);
   icon.fill(Qt::transparent);
   QPainter painter(&icon);
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(Qt::NoPen);
-  painter.setBrush(QColor(sign.Colour));
-  painter.drawEllipse(QRectF(1, 1, kIconSize - 2, kIconSize - 2));
-  painter.setPen(QColor(look::Inverse));
+  painter.setBrush(sign.Colour);
+  painter.drawEllipse(QRectF(1, 1, side - 2, side - 2));
+  painter.setPen(QColor(look::Paper));
   painter.setFont(TotalFont());
-  painter.drawText(QRect(0, 0, kIconSize, kIconSize), Qt::AlignCenter, sign.Letter);
+  painter.drawText(QRect(0, 0, side, side), Qt::AlignCenter, sign.Letter);
   return icon;
 }
 

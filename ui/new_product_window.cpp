@@ -62,7 +62,7 @@ NewProductWindow::NewProductWindow(NEW_PR& form) : FormWindow(form), product_(fo
   content->addWidget(Buttons());
   FillWindow(*this, content);
   BindControls();
-  resize(kSize.expandedTo(sizeHint()));
+  FitContent(*this, kSize);
 }
 
 QWidget* NewProductWindow::Article() {

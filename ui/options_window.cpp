@@ -32,7 +32,7 @@ OptionsWindow::OptionsWindow(frmOptions& form) : FormWindow(form) {
   content->addWidget(Buttons());
   FillWindow(*this, content);
   BindControls();
-  resize(kWidth, sizeHint().height());
+  FitContent(*this, {kWidth, 0});
 }
 
 QWidget* OptionsWindow::ConnectionFields() {

@@ -19,6 +19,7 @@
 #include "ui/grid_view.h"
 #include "ui/key_button.h"
 #include "ui/layout_pieces.h"
+#include "ui/style.h"
 
 namespace store {
 namespace {
@@ -47,7 +48,7 @@ QRadioButton* Option(const QString& name, const char* letter) {
 
 QLineEdit* NarrowBox(const QString& name) {
   auto* box = Named(name, new QLineEdit);
-  box->setMaximumWidth(kNarrowBox);
+  FollowLook(*box, [box] { box->setMaximumWidth(Scaled(kNarrowBox)); });
   box->setAlignment(Qt::AlignRight);
   return box;
 }

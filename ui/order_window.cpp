@@ -16,6 +16,7 @@
 #include "ui/history_chart_view.h"
 #include "ui/key_button.h"
 #include "ui/layout_pieces.h"
+#include "ui/line_undo.h"
 #include "ui/order_left_sides.h"
 #include "ui/progress_panel.h"
 #include "ui/qt_text.h"
@@ -49,6 +50,7 @@ OrderWindow::OrderWindow(OrderForm& form) : FormWindow(form), order_(form) {
   content->addWidget(Foot());
   FillWindow(*this, content);
   new ProgressPanel(*this);
+  OnShortcut(QKeySequence(Qt::CTRL | Qt::Key_P), [this] { Act([this] { order_.PrintStored(); }); });
   BindControls();
   OfferActions(*lines_, LineActions());
   OfferActions(*items_, ItemActions());
@@ -57,20 +59,25 @@ OrderWindow::OrderWindow(OrderForm& form) : FormWindow(form), order_(form) {
 }
 
 QWidget* OrderWindow::Header() {
-  auto* row = Row();
-  AddDateAndDepot(*row);
-  AddSupplier(*row);
-  AddWindowButtons(*row);
-  return Group("card", row);
+  auto* head = Row();
+  AddDateAndDepot(*head);
+  AddSupplier(*head);
+  auto* buttons = Row();
+  buttons->addStretch();
+  AddWindowButtons(*buttons);
+  return Group("card", Alone(Folding(head, buttons)));
 }
 
 void OrderWindow::AddSupplier(QHBoxLayout& row) {
   auto* supplier = Named("Text1", new QLineEdit);
+  auto* recent = Named("Recent", new KeyButton);
   auto* find = Named("LaCTHELP", new KeyButton("찾기"));
+  recent->WriteKey("↓");
   find->WriteKey("F1");
   supplier->setPlaceholderText("상호   /전화   #코드");
   row.addWidget(Named("Label1", CaptionLabel({})));
   row.addWidget(supplier, 3);
+  row.addWidget(recent);
   row.addWidget(find);
 }
 
@@ -87,15 +94,20 @@ void OrderWindow::AddDateAndDepot(QHBoxLayout& row) {
 void OrderWindow::AddWindowButtons(QHBoxLayout& row) {
   auto* state = Named("LaSatae", new QLabel);
   state->setAlignment(Qt::AlignCenter);
-  state->setMinimumWidth(state->fontMetrics().horizontalAdvance("  발주확정  "));
+  FollowLook(*state, [state] {
+    state->setMinimumWidth(state->fontMetrics().horizontalAdvance("  발주확정  "));
+  });
   row.addWidget(state);
   row.addWidget(Named("Label5_1", new KeyButton("최소화", QKeySequence(Qt::CTRL | Qt::Key_M))));
   row.addWidget(Named("Label5_0", new KeyButton("닫기", Qt::Key_Escape)));
-  AlsoSync([this, state, seen = SeenText()]() mutable {
-    if (!seen.Differs(order_.LaSatae.Caption)) return;
+  const auto dress = [this, state] {
     const QColor tint = StateTint(ToQt(order_.LaSatae.Caption));
     state->setStyleSheet(tint.isValid() ? "background: " + tint.name() + "; border-radius: 3px;"
                                         : QString());
+  };
+  FollowLook(*state, dress);
+  AlsoSync([this, dress, seen = SeenText()]() mutable {
+    if (seen.Differs(order_.LaSatae.Caption)) dress();
   });
 }
 
@@ -103,7 +115,7 @@ QWidget* OrderWindow::ItemBox() {
   auto* box = Named("inBox", new QLineEdit);
   auto* warning = Named("Label6", new ElidedLabel);
   warning->setProperty("role", "warning");
-  box->setFont(BoxFont());
+  FollowFont(*box, BoxFont);
   box->setPlaceholderText("바코드 / 수량     ,품명     .규격");
   auto* row = Row();
   row->setContentsMargins(0, 0, 0, 0);
@@ -125,12 +137,19 @@ QWidget* OrderWindow::Lines() {
   refused->setProperty("role", "warning");
   refused->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   auto* heading = Row();
-  heading->setContentsMargins(0, 0, 0, 0);
   heading->addWidget(HeadingLabel("발주 내역   (Del 행 삭제,  Ctrl+G 규격)"));
   heading->addWidget(refused, 1);
-  auto* top = new QWidget;
-  top->setLayout(heading);
-  return Titled(top, lines_);
+  auto* undo = Row();
+  undo->setContentsMargins(0, 0, 0, 0);
+  AddLineUndo(*this, *undo);
+  undo->addStretch();
+  auto* column = Column();
+  column->setContentsMargins(0, 0, 0, 0);
+  column->addWidget(Titled(heading, lines_), 1);
+  column->addLayout(undo);
+  auto* widget = new QWidget;
+  widget->setLayout(column);
+  return widget;
 }
 
 // What the right button offers on a line of the order.
@@ -199,15 +218,17 @@ void OrderWindow::FollowHistory() {
 }
 
 QWidget* OrderWindow::Foot() {
-  auto* row = Row();
-  AddTotals(*row, {"발주건수", "발주금액", "공 급 가", "부 가 세"});
-  row->addStretch();
+  auto* totals = Row();
+  AddTotals(*totals, {"발주건수", "발주금액", "공 급 가", "부 가 세"});
+  totals->addStretch();
   auto* save = Named("LaBtn_0", new KeyButton("발주편집 저장", Qt::Key_F9));
   auto* confirm = Named("LaBtn_1", new KeyButton("발주확정", QKeySequence(Qt::SHIFT | Qt::Key_F9)));
   confirm->MarkMain();
-  row->addWidget(save);
-  row->addWidget(confirm);
-  return Group("totals", row);
+  auto* buttons = Row();
+  buttons->addStretch();
+  buttons->addWidget(save);
+  buttons->addWidget(confirm);
+  return Group("totals", Alone(Folding(totals, buttons)));
 }
 
 }  // namespace store

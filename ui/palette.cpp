@@ -12,12 +12,16 @@ namespace {
 constexpr int kHoverLighter = 108;  // percent
 constexpr int kPressedDarker = 112;
 
-const QHash<QString, QColor>& StateTints() {
-  static const QHash<QString, QColor> tints = {{ToQt(kWordEditing), QColor(0xDCE9F7)},
-                                               {ToQt(kWordConfirmed), QColor(0xFCE8C8)},
-                                               {ToQt(kWordApproved), QColor(0xD9EFD9)},
-                                               {ToQt(kWordShipped), QColor(0xE6DDF3)},
-                                               {ToQt(kWordReceived), QColor(0xE3E6E9)}};
+constexpr int kAskedInDark = 27;  // percent of a colour that a form asked for; the rest is paper
+
+Theme theme_now = Theme::Light;
+
+const QHash<QString, Hue>& StateTints() {
+  static const QHash<QString, Hue> tints = {{ToQt(kWordEditing), Hue(0xFFDCE9F7, 0xFF1F3C5A)},
+                                            {ToQt(kWordConfirmed), Hue(0xFFFCE8C8, 0xFF5A431A)},
+                                            {ToQt(kWordApproved), Hue(0xFFD9EFD9, 0xFF234A2A)},
+                                            {ToQt(kWordShipped), Hue(0xFFE6DDF3, 0xFF45365F)},
+                                            {ToQt(kWordReceived), Hue(0xFFE3E6E9, 0xFF3B4248)}};
   return tints;
 }
 
@@ -32,13 +36,27 @@ double Luminance(const QColor& color) {
 
 }  // namespace
 
+Theme CurrentTheme() { return theme_now; }
+
+void SetTheme(Theme theme) { theme_now = theme; }
+
 QColor Softened(int rgb) {
   const QColor asked = QColor::fromRgb(static_cast<QRgb>(rgb));
-  const auto halfWhite = [](int part) { return (part + 255) / 2; };
-  return QColor(halfWhite(asked.red()), halfWhite(asked.green()), halfWhite(asked.blue()));
+  const QColor paper(look::Paper);
+  // On white half of the colour is left; in the dark a bright ground would drown the bright
+  // letters.
+  const int share = theme_now == Theme::Dark ? kAskedInDark : 50;
+  const auto mixed = [share](int part, int ground) {
+    return (part * share + ground * (100 - share)) / 100;
+  };
+  return QColor(mixed(asked.red(), paper.red()), mixed(asked.green(), paper.green()),
+                mixed(asked.blue(), paper.blue()));
 }
 
-QColor StateTint(const QString& word) { return StateTints().value(word); }
+QColor StateTint(const QString& word) {
+  const auto tint = StateTints().find(word);
+  return tint == StateTints().end() ? QColor() : QColor(*tint);
+}
 
 QColor Hovered(bool main) {
   return main ? QColor(look::Accent).lighter(kHoverLighter) : QColor(look::RestingRow);
@@ -51,21 +69,23 @@ QColor Pressed(bool main) {
 std::vector<TextPair> TextPairs() {
   using namespace look;
   std::vector<TextPair> pairs = {
-      {"heading on a card", Band, Card},
-      {"heading in a popup", Band, Paper},
-      {"heading in a window", Band, Window},
+      {"heading on a card", Heading, Card},
+      {"heading in a popup", Heading, Paper},
+      {"heading in a window", Heading, Window},
       {"warning in a window", Warning, Window},
       {"warning on a card", Warning, Card},
       {"Sunday in the calendar", Warning, Paper},
-      {"Saturday in the calendar", Accent, Paper},
-      {"link", Accent, Window},
+      {"Saturday in the calendar", Bright, Paper},
+      {"link", Bright, Window},
+      {"link on paper", Bright, Paper},
       {"text on the band", Inverse, Band},
       {"text where the band ends", Inverse, Accent},
       {"main button", Inverse, Accent},
       {"main button under the pointer", Inverse, Hovered(true)},
       {"main button, pressed", Inverse, Pressed(true)},
       {"chosen text", Inverse, Accent},
-      {"sign of a warning box", Inverse, Warning},
+      {"sign of a box", Paper, Bright},
+      {"sign of a warning box", Paper, Warning},
       {"column header", Ink, Header},
       {"button", Ink, Paper},
       {"button under the pointer", Ink, Hovered(false)},
@@ -81,11 +101,11 @@ std::vector<TextPair> TextPairs() {
       {"open cell", Ink, OpenCell},
   };
   // Texts, and the codes above them, on whatever ground they come to stand.
-  for (const QRgb ground : {Paper, Card, Window, CurrentRow, RestingRow}) {
+  for (const Hue ground : {Paper, Card, Window, CurrentRow, RestingRow}) {
     pairs.push_back({"text", Ink, ground});
     pairs.push_back({"caption or code", Muted, ground});
   }
-  for (const QColor& tint : StateTints()) pairs.push_back({"state", Ink, tint});
+  for (const Hue& tint : StateTints()) pairs.push_back({"state", Ink, tint});
   return pairs;
 }
 

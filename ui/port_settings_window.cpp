@@ -28,7 +28,7 @@ PortSettingsWindow::PortSettingsWindow(frmProperties& form) : FormWindow(form) {
   content->addWidget(Foot());
   FillWindow(*this, content);
   BindControls();
-  resize(kWidth, sizeHint().height());
+  FitContent(*this, {kWidth, 0});
 }
 
 QWidget* PortSettingsWindow::Fields() {

@@ -6,6 +6,7 @@
 
 #include "ui/form_window.h"
 #include "ui/layout_pieces.h"
+#include "ui/style.h"
 
 namespace store {
 namespace {
@@ -32,7 +33,7 @@ ProgressPanel::ProgressPanel(QWidget& window) : QFrame(&window) {
 }
 
 void ProgressPanel::showEvent(QShowEvent* event) {
-  QRect place(QPoint(), kSize.boundedTo(parentWidget()->size()));
+  QRect place(QPoint(), Scaled(kSize).boundedTo(parentWidget()->size()));
   place.moveCenter(parentWidget()->rect().center());
   setGeometry(place);
   raise();

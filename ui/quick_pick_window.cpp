@@ -12,6 +12,7 @@
 #include "ui/key_button.h"
 #include "ui/layout_pieces.h"
 #include "ui/qt_text.h"
+#include "ui/style.h"
 #include "ui/tile_wall.h"
 
 namespace store {
@@ -91,7 +92,7 @@ QWidget* QuickPickWindow::Foot() {
   auto* row = Row();
   row->setContentsMargins(0, 0, 0, 0);
   for (KeyButton* button : {up, down, pick, back, close}) {
-    button->setMinimumHeight(kFingerButton);
+    FollowLook(*button, [button] { button->setMinimumHeight(Scaled(kFingerButton)); });
     row->addWidget(button);
   }
   row->insertStretch(2);

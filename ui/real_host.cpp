@@ -14,12 +14,16 @@
 #include <cstring>
 #include <memory>
 
+#include "basics/deployment.h"
 #include "forms/host.h"
+#include "forms/program_places.h"
 #include "ui/desk.h"
 #include "ui/instance_call.h"
 #include "ui/instance_lock.h"
 #include "ui/message_box.h"
+#include "ui/print_document.h"
 #include "ui/qt_text.h"
+#include "ui/scan_sounds.h"
 #include "ui/serial_port.h"
 
 namespace store {
@@ -84,6 +88,16 @@ bool PreviousInstance() {
   return false;
 }
 
+ProgramPlaces PlacesOfInstallation() {
+  const std::string machine = STORE_MACHINE_OPTIONS;
+  if (machine.empty()) return {};
+  const std::string own =
+      FromQt(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation));
+  return {.OwnOptions = own + "/store-client/OPT.ini",
+          .MachineOptions = machine,
+          .WorkFolder = DataFolder()};
+}
+
 void OpenWindows() {
   Host.MsgBox = ShowMessage;
   Host.ShowModal = [](Form& form) { TheDesk().ShowModal(form); };
@@ -97,11 +111,20 @@ void OpenWindows() {
 void OpenWorkstation() {
   Host.ScreenSize = ScreenSize;
   Host.SetPointer = SetPointer;
-  Host.Beep = [] { QApplication::beep(); };
+  Host.Beep = SoundRefused;
+  Host.ScanTaken = SoundTaken;
   Host.DoEvents = [] { TheDesk().LetWindowsPaint(); };
   Host.ShowServer = [](ServerLink link, std::chrono::milliseconds lasted) {
     TheDesk().ShowServer(link, lasted);
   };
+  Host.OfferStop = [](std::chrono::milliseconds lasted) {
+    return TheDesk().Server().OfferStop(lasted);
+  };
+  Host.ShowProgress = [](const std::string& what, int done, int of) {
+    TheDesk().ShowProgress(what, done, of);
+  };
+  Host.Print = PrintOnPrinter;
+  Host.WritePdf = WritePdf;
   Host.Now = Now;
   Host.Sleep = [](int milliseconds) {
     QThread::msleep(static_cast<unsigned long>(std::max(0, milliseconds)));
@@ -131,6 +154,7 @@ void OpenRealHost() {
   Host.ProgramFolder = FromQt(QCoreApplication::applicationDirPath());
   Host.DocumentsFolder =
       FromQt(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+  Places = PlacesOfInstallation();
   Host.ProgramTitle = "TARNWICK";
   Host.Version = {STORE_VERSION_MAJOR, STORE_VERSION_MINOR, STORE_VERSION_PATCH};
 }

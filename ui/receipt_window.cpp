@@ -13,6 +13,7 @@
 #include "ui/grid_view.h"
 #include "ui/key_button.h"
 #include "ui/layout_pieces.h"
+#include "ui/line_undo.h"
 #include "ui/style.h"
 
 namespace store {
@@ -34,6 +35,8 @@ ReceiptWindow::ReceiptWindow(frm_PE_UNIT& form) : FormWindow(form), receipt_(for
   content->addWidget(lines, 1);
   content->addWidget(Foot());
   FillWindow(*this, content);
+  OnShortcut(QKeySequence(Qt::CTRL | Qt::Key_P),
+             [this] { Act([this] { receipt_.PrintStored(); }); });
   BindControls();
   OfferActions(*lines, LineActions());
   TitleTells([this] { return StoreAnd(receipt_.Text1); });
@@ -54,28 +57,30 @@ QWidget* ReceiptWindow::Header() {
   auto* depot = Named("Combo1", new QComboBox);
   depot->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   depot->setMinimumContentsLength(8);
-  auto* row = Row();
-  row->addWidget(CaptionLabel("거래처"));
-  row->addWidget(Named("Text1", new QLineEdit), 3);
-  row->addWidget(CaptionLabel("발주일자"));
-  row->addWidget(Named("DTOrderDate", new QDateEdit));
-  row->addWidget(CaptionLabel("입고일자"));
-  row->addWidget(Named("DTPicker1", new QDateEdit));
-  row->addWidget(CaptionLabel("입고하치장(창고)"));
-  row->addWidget(depot, 2);
-  row->addWidget(Named("Label4", new KeyButton("닫기", Qt::Key_Escape)));
-  return Group("card", row);
+  auto* slip = Row();
+  slip->addWidget(CaptionLabel("거래처"));
+  slip->addWidget(Named("Text1", new QLineEdit), 3);
+  slip->addWidget(CaptionLabel("발주일자"));
+  slip->addWidget(Named("DTOrderDate", new QDateEdit));
+  slip->addWidget(CaptionLabel("입고일자"));
+  slip->addWidget(Named("DTPicker1", new QDateEdit));
+  auto* place = Row();
+  place->addWidget(CaptionLabel("입고하치장(창고)"));
+  place->addWidget(depot, 2);
+  place->addWidget(Named("Label4", new KeyButton("닫기", Qt::Key_Escape)));
+  return Group("card", Alone(Folding(slip, place)));
 }
 
 QWidget* ReceiptWindow::QuantityBox() {
   auto* box = Named("inBox", new QLineEdit);
-  box->setFont(BoxFont());
-  box->setFixedWidth(kBoxWidth);
+  FollowFont(*box, BoxFont);
+  FollowLook(*box, [box] { box->setFixedWidth(Scaled(kBoxWidth)); });
   box->setPlaceholderText("입고량");
   auto* row = Row();
   row->setContentsMargins(0, 0, 0, 0);
   row->addWidget(box);
   row->addWidget(CaptionLabel("↑ ↓ 로 행을 고르고 입고량을 넣은 뒤 Enter      Del 행 삭제"));
+  AddLineUndo(*this, *row);
   row->addSpacing(kGap);
   row->addWidget(Named("LaSheet", new ElidedLabel), 1);
   auto* line = new QWidget;
@@ -84,17 +89,19 @@ QWidget* ReceiptWindow::QuantityBox() {
 }
 
 QWidget* ReceiptWindow::Foot() {
-  auto* row = Row();
-  AddTotals(*row, {"건수", "합계금액", "공급가액", "부가세액"});
-  row->addStretch();
+  auto* totals = Row();
+  AddTotals(*totals, {"건수", "합계금액", "공급가액", "부가세액"});
+  totals->addStretch();
   auto* sheet = new KeyButton("엑셀", Qt::Key_F12);
   auto* confirm = Named("Command1_1", new KeyButton({}, Qt::Key_F9));
   confirm->MarkMain();
   confirm->setFocusPolicy(Qt::TabFocus);
-  row->addWidget(sheet);
-  row->addWidget(confirm);
+  auto* buttons = Row();
+  buttons->addStretch();
+  buttons->addWidget(sheet);
+  buttons->addWidget(confirm);
   OnPress(*sheet, [this] { receipt_.FLEX1_KeyDown(Key::F12); });
-  return Group("totals", row);
+  return Group("totals", Alone(Folding(totals, buttons)));
 }
 
 }  // namespace store

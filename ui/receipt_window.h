@@ -16,7 +16,7 @@ class ReceiptWindow : public FormWindow {
 
  private:
   static QWidget* Header();
-  static QWidget* QuantityBox();
+  QWidget* QuantityBox();
   QWidget* Foot();
   ContextActions LineActions();
   void ExportLines();

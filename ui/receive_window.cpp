@@ -10,6 +10,7 @@
 #include "ui/grid_view.h"
 #include "ui/key_button.h"
 #include "ui/layout_pieces.h"
+#include "ui/style.h"
 
 namespace store {
 namespace {
@@ -25,7 +26,7 @@ KeyButton* WithKey(const QString& name, const QString& key) {
 
 QLineEdit* CodeField(const QString& name) {
   auto* field = Named(name, new QLineEdit);
-  field->setFixedWidth(kCodeWidth);
+  FollowLook(*field, [field] { field->setFixedWidth(Scaled(kCodeWidth)); });
   return field;
 }
 
@@ -78,8 +79,10 @@ QWidget* ReceiveWindow::PartnerChange() {
   row->addWidget(WithKey("Command3", "F1"));
   row->addWidget(WithKey("Command2", "F6"));
   row->addStretch();
-  row->addWidget(CaptionLabel("********** 칸에서 Enter: 품목등록"));
-  return Group("card", row);
+  auto* hint = Row();
+  hint->addStretch();
+  hint->addWidget(CaptionLabel("********** 칸에서 Enter: 품목등록"));
+  return Group("card", Alone(Folding(row, hint)));
 }
 
 QWidget* ReceiveWindow::Buttons() {

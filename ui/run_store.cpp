@@ -2,10 +2,12 @@
 
 #include <QApplication>
 #include <QElapsedTimer>
+#include <QSysInfo>
 #include <QTimer>
 #include <QWidget>
 #include <cstdio>
 
+#include "basics/log.h"
 #include "board/frm_Start.h"
 #include "forms/host.h"
 #include "forms/open_forms.h"
@@ -17,9 +19,14 @@
 #include "slips/drafts.h"
 #include "start/Main_Start.h"
 #include "start/frmSplash.h"
+#include "ui/about.h"
+#include "ui/accessible_names.h"
 #include "ui/desk.h"
+#include "ui/guide_window.h"
 #include "ui/korean.h"
+#include "ui/log_file.h"
 #include "ui/program_icon.h"
+#include "ui/qt_text.h"
 #include "ui/real_host.h"
 #include "ui/store_windows.h"
 #include "ui/style.h"
@@ -72,6 +79,14 @@ void QuitWhenBoardIsUsable(const StartClock& start) {
   });
 }
 
+void LogStart() {
+  WriteLog(LogWeight::Note, "program",
+           "started: version " + FromQt(QApplication::applicationVersion()) + ", build " +
+               FromQt(qApp->property(kBuildProperty).toString()) + ", Qt " + qVersion() + ", " +
+               FromQt(QSysInfo::prettyProductName()) + ", " +
+               FromQt(QGuiApplication::platformName()));
+}
+
 }  // namespace
 
 void PrepareStore(QApplication& application) {
@@ -81,6 +96,8 @@ void PrepareStore(QApplication& application) {
   QGuiApplication::setDesktopFileName(kDesktopFile);
   // Between the login and the main window there are moments without a window.
   QApplication::setQuitOnLastWindowClosed(false);
+  TellKindsOfParts();
+  QApplication::setApplicationVersion(STORE_VERSION);
   OpenRealHost();
   RegisterStoreWindows();
   RegisterStartForms();
@@ -94,6 +111,8 @@ void PrepareStore(QApplication& application) {
 int RunStore(QApplication& application, const std::string& commandLine) {
   const StartClock start;
   PrepareStore(application);
+  OpenLogFile();
+  LogStart();
   start.Tell("toolkit, style and forms");
   if (start.Running()) TellSteps(start);
   bool goesOn = false;
@@ -101,10 +120,13 @@ int RunStore(QApplication& application, const std::string& commandLine) {
   start.Tell("start data and items are there, the board opens");
   if (start.Running()) QuitWhenBoardIsUsable(start);
   const int code = goesOn && !TheDesk().Ending() ? QApplication::exec() : 0;
+  CloseGuide();
   TheDesk().Clear();
   DropAllForms();
   ResetDrafts();
   ResetDeletedSlips();
+  WriteLog(LogWeight::Note, "program", "ended");
+  CloseLogFile();
   return code;
 }
 

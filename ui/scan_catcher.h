@@ -4,6 +4,8 @@
 #include <QPointer>
 #include <QString>
 
+#include "ui/scan_run.h"
+
 class QKeyEvent;
 class QLineEdit;
 class QMessageBox;
@@ -33,14 +35,12 @@ class ScanCatcher : public QObject {
  private:
   bool TakesText(const QKeyEvent& event);
   bool TakesEnter(const QKeyEvent& event);
-  bool GoesOn(const QKeyEvent& event);
 
   QMessageBox& box_;
   const bool isQuestion_;
   const QPointer<QLineEdit> field_;
-  QString coming_;  // of a code whose Enter has not come
-  QString kept_;    // codes, each with its Enter
-  quint64 last_ = 0;
+  ScanRun run_;
+  QString kept_;  // codes, each with its Enter
 };
 
 }  // namespace store

@@ -15,7 +15,7 @@ constexpr int kDisc = 10;
 constexpr int kGap = 6;
 
 struct Sign {
-  QRgb Colour;
+  QColor Colour;
   const char* Word;
   const char* Tip;
 };
@@ -23,15 +23,16 @@ struct Sign {
 Sign SignOf(ServerLink link) {
   switch (link) {
     case ServerLink::Waiting:
-      return {0xFFB7791F, "응답 대기",
+      return {look::Waiting, "응답 대기",
               "데이터서버의 응답을 기다리고 있습니다. 그동안 누른 것은 버립니다."};
     case ServerLink::Lost:
       return {look::Warning, "연결 끊김",
               "데이터서버가 응답하지 않았습니다. 보이는 것은 앞서 읽은 것입니다."};
     case ServerLink::Connected:
+    case ServerLink::Stopped:  // is told and never stays
       break;
   }
-  return {0xFF2E7D32, "연결됨", "데이터서버가 응답하고 있습니다."};
+  return {look::Connected, "연결됨", "데이터서버가 응답하고 있습니다."};
 }
 
 Sign SignNow() { return SignOf(TheDesk().Server().Link()); }
@@ -70,7 +71,7 @@ void ServerLamp::paintEvent(QPaintEvent* /*event*/) {
   painter.setPen(palette().color(QPalette::WindowText));
   painter.drawText(rect().adjusted(kDisc + kGap, 0, 0, 0), Qt::AlignVCenter, sign.Word);
   const QRectF place(0, (height() - kDisc) / 2.0, kDisc, kDisc);
-  PaintDisc(painter, place, TheDesk().Server().Link(), QColor(sign.Colour));
+  PaintDisc(painter, place, TheDesk().Server().Link(), sign.Colour);
   const QString name = QString("데이터서버 ") + sign.Word;
   if (accessibleName() != name) setAccessibleName(name);
 }

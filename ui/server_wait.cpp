@@ -14,6 +14,8 @@ namespace {
 
 // For what is under way from the window system when a call comes back.
 constexpr int kLastArrivals = 20;  // milliseconds
+// Whoever presses Esc and sees the wait go on for a moment presses again.
+constexpr int kImpatience = 700;  // milliseconds
 
 bool IsEnter(const QKeyEvent& key) {
   return key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
@@ -35,36 +37,97 @@ bool IsModifier(const QKeyEvent& key) {
 void ServerWait::Forget() {
   link_ = ServerLink::Connected;
   kept_.clear();
+  panel_.Hide();
+  lookingOut_ = false;
+  sinceStop_.invalidate();
   std::erase(lamps_, nullptr);
 }
 
-void ServerWait::Tell(ServerLink link, std::chrono::milliseconds lasted, int depth) {
-  if (std::exchange(link_, link) != link) {
-    for (const QPointer<QWidget>& lamp : lamps_) {
-      if (lamp != nullptr) lamp->update();
-    }
+void ServerWait::Become(ServerLink link) {
+  if (link == ServerLink::Waiting && link_ != ServerLink::Waiting) linkBefore_ = link_;
+  if (link == ServerLink::Stopped) link = linkBefore_;
+  if (std::exchange(link_, link) == link) return;
+  for (const QPointer<QWidget>& lamp : lamps_) {
+    if (lamp != nullptr) lamp->update();
   }
+}
+
+void ServerWait::Tell(ServerLink link, std::chrono::milliseconds lasted, int depth) {
+  Become(link);
   if (link == ServerLink::Waiting) {
+    if (waited_ + lasted >= kNoticed) panel_.ShowWaiting(lasted, false);
     TheDesk().PaintWindows(QEventLoop::ExcludeUserInputEvents);
     return;
   }
+  panel_.Hide();
+  if (link == ServerLink::Stopped) sinceStop_.start();
+  answered_ = link == ServerLink::Connected;
   waited_ += lasted;
-  if (waited_ < kNoticed) return;
-  keptDepth_ = std::max(depth, 1);
-  ThrowInputAway();
+  if (waited_ >= kNoticed) {
+    keptDepth_ = std::max(depth, 1);
+    ThrowInputAway();
+  }
+  answered_ = true;
+}
+
+bool ServerWait::OfferStop(std::chrono::milliseconds lasted) {
+  if (waited_ + lasted < kNoticed) {
+    Tell(ServerLink::Waiting, lasted, 0);
+    return false;
+  }
+  Become(ServerLink::Waiting);
+  panel_.ShowWaiting(lasted, true);
+  LookOutForStop();
+  return stopWanted_;
+}
+
+/// Esc has to be seen while the call runs, and so the rest of what comes is taken as it comes.
+void ServerWait::LookOutForStop() {
+  if (!std::exchange(lookingOut_, true)) {
+    thrown_ = textCame_ = stopWanted_ = false;
+    keptBefore_ = kept_.size();
+  }
+  TakeInput(0);
+}
+
+void ServerWait::TakeInput(int milliseconds) {
+  throwing_ = true;
+  TheDesk().PaintWindows(QEventLoop::AllEvents, milliseconds);
+  throwing_ = false;
 }
 
 void ServerWait::ThrowInputAway() {
-  throwing_ = true;
-  thrown_ = textCame_ = false;
-  TheDesk().PaintWindows(QEventLoop::AllEvents, kLastArrivals);
-  throwing_ = false;
+  if (!lookingOut_) {
+    thrown_ = textCame_ = false;
+    keptBefore_ = kept_.size();
+  }
+  TakeInput(kLastArrivals);
+  if (!answered_) {
+    // A text for a call that has brought nothing; what was pressed before it is let go all the
+    // same.
+    const auto first = kept_.begin() + static_cast<std::ptrdiff_t>(keptBefore_);
+    const auto last = std::remove_if(first, kept_.end(), [this](const Kept& kept) {
+      const bool isText = kept.event->type() == QEvent::KeyPress;
+      thrown_ = thrown_ || isText;
+      return isText;
+    });
+    kept_.erase(last, kept_.end());
+  }
+  lookingOut_ = false;
   if (thrown_) Host.Beep();
 }
 
+bool ServerWait::IsImpatience(const QKeyEvent& key) const {
+  return key.key() == Qt::Key_Escape && sinceStop_.isValid() && !sinceStop_.hasExpired(kImpatience);
+}
+
 bool ServerWait::Takes(QObject& watched, QEvent& event) {
-  if (!throwing_) return false;
-  if (auto* window = qobject_cast<QWindow*>(&watched)) return TakesFromWindow(*window, event);
+  auto* window = qobject_cast<QWindow*>(&watched);
+  if (!throwing_) {
+    return window != nullptr && event.type() == QEvent::KeyPress &&
+           IsImpatience(static_cast<QKeyEvent&>(event));
+  }
+  if (window != nullptr) return TakesFromWindow(*window, event);
   // A letter with Alt goes to its button past the window.
   if (event.type() == QEvent::ShortcutOverride) event.accept();
   return event.type() == QEvent::ShortcutOverride || event.type() == QEvent::Shortcut;
@@ -98,7 +161,9 @@ bool ServerWait::TakesFromWindow(QWindow& window, QEvent& event) {
 }
 
 bool ServerWait::TakesKey(QWindow& window, const QKeyEvent& key) {
-  if (KeepsKey(key)) {
+  if (key.key() == Qt::Key_Escape && lookingOut_) {
+    stopWanted_ = true;
+  } else if (KeepsKey(key)) {
     Keep(window, key);
     textCame_ = !IsEnter(key);
   } else if (!IsModifier(key)) {
@@ -110,7 +175,7 @@ bool ServerWait::TakesKey(QWindow& window, const QKeyEvent& key) {
 
 // A blank and Enter press what has the keyboard, unless they belong to a text.
 bool ServerWait::KeepsKey(const QKeyEvent& key) const {
-  if (link_ != ServerLink::Connected) return false;
+  if (!answered_) return false;
   const bool needsText = IsEnter(key) || key.key() == Qt::Key_Space;
   return needsText ? textCame_ : IsText(key);
 }

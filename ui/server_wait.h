@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QElapsedTimer>
 #include <QPointer>
 #include <chrono>
 #include <deque>
@@ -7,6 +8,7 @@
 #include <vector>
 
 #include "forms/host.h"
+#include "ui/wait_panel.h"
 
 class QEvent;
 class QKeyEvent;
@@ -25,6 +27,9 @@ namespace store {
 /// A shorter wait nobody has had time to react to, and nothing is lost in it. Text is not thrown
 /// away if the server has answered in the end, with the Enter behind it: it is what a scanner
 /// sends, whose user looks at the shelf and not at the screen. It goes on when the event is over.
+///
+/// A call that has taken that long says so on a panel in front. Where the read may be stopped, Esc
+/// stops it, and an Esc more that comes at once closes nothing.
 class ServerWait {
  public:
   static constexpr std::chrono::milliseconds kNoticed{1000};
@@ -43,6 +48,8 @@ class ServerWait {
   void EndEvent(int depth);
   /// What `Host.ShowServer` tells. `depth` is that of the event that calls.
   void Tell(ServerLink link, std::chrono::milliseconds lasted, int depth);
+  /// What `Host.OfferStop` asks: whether Esc has been pressed since the panel offered it.
+  bool OfferStop(std::chrono::milliseconds lasted);
   /// Offered every event of the program. True when it is taken away.
   bool Takes(QObject& watched, QEvent& event);
 
@@ -51,7 +58,11 @@ class ServerWait {
     QPointer<QWindow> window;
     std::unique_ptr<QEvent> event;
   };
+  void Become(ServerLink link);
+  void TakeInput(int milliseconds);
   void ThrowInputAway();
+  void LookOutForStop();
+  bool IsImpatience(const QKeyEvent& key) const;
   bool TakesFromWindow(QWindow& window, QEvent& event);
   bool TakesKey(QWindow& window, const QKeyEvent& key);
   bool KeepsKey(const QKeyEvent& key) const;
@@ -62,10 +73,17 @@ class ServerWait {
   std::vector<QPointer<QWidget>> lamps_;
   std::chrono::milliseconds waited_{0};  // in all calls of the event
   bool throwing_ = false;                // what comes by now came during a call
+  bool lookingOut_ = false;              // for Esc, and throwing away meanwhile
+  bool stopWanted_ = false;
+  bool answered_ = true;  // a text that comes by now may still be for something
+  ServerLink linkBefore_ = ServerLink::Connected;  // the call that is running
+  QElapsedTimer sinceStop_;
   bool giving_ = false;
   bool thrown_ = false;    // something of which a person wonders where it has gone
   bool textCame_ = false;  // and nothing has ended it yet
   std::deque<Kept> kept_;
+  size_t keptBefore_ = 0;  // the call that is running
+  WaitPanel panel_;
   int keptDepth_ = 0;
 };
 

@@ -8,6 +8,7 @@
 #include "ui/band_painter.h"
 #include "ui/layout_pieces.h"
 #include "ui/qt_text.h"
+#include "ui/style.h"
 
 namespace store {
 namespace {
@@ -18,11 +19,13 @@ constexpr int kBandHeight = 130;
 }  // namespace
 
 SplashWindow::SplashWindow(frmSplash& form) : FormWindow(form), splash_(form) {
-  setFixedSize(kSize);
   QLabel* version = Named("lblVersion", CaptionLabel({}));
   auto* step = Named("lblStep", new QLabel);
   auto* content = new QVBoxLayout;
-  content->setContentsMargins(28, kBandHeight + 16, 28, 20);
+  FollowLook(*this, [this, content] {
+    setFixedSize(Scaled(kSize));
+    content->setContentsMargins(Scaled(QMargins(28, kBandHeight + 16, 28, 20)));
+  });
   content->addWidget(version);
   content->addStretch();
   content->addWidget(step);
@@ -32,7 +35,7 @@ SplashWindow::SplashWindow(frmSplash& form) : FormWindow(form), splash_(form) {
 
 void SplashWindow::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  PaintBandedGround(painter, rect(), kBandHeight, ToQt(splash_.lblProductName.Caption));
+  PaintBandedGround(painter, rect(), Scaled(kBandHeight), ToQt(splash_.lblProductName.Caption));
 }
 
 }  // namespace store

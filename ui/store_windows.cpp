@@ -9,6 +9,7 @@
 #include "handheld/FRM_NAMECHK.h"
 #include "handheld/frmProperties.h"
 #include "lookup/NEW_PR.h"
+#include "lookup/frmPrint.h"
 #include "lookup/lookup_form.h"
 #include "order/frm_OrderPLU.h"
 #include "order/order_form.h"
@@ -28,6 +29,7 @@
 #include "ui/options_window.h"
 #include "ui/order_window.h"
 #include "ui/port_settings_window.h"
+#include "ui/print_window.h"
 #include "ui/quick_pick_window.h"
 #include "ui/receipt_window.h"
 #include "ui/receive_window.h"
@@ -52,6 +54,7 @@ void RegisterStoreWindows() {
   RegisterWindow("DT9RECEV", MakerOf<ReceiveWindow, DT9RECEV>());
   RegisterWindow("frmProperties", MakerOf<PortSettingsWindow, frmProperties>());
   RegisterWindow("FRM_NAMECHK", MakerOf<InspectorWindow, FRM_NAMECHK>());
+  RegisterWindow("frmPrint", MakerOf<PrintWindow, frmPrint>());
   RegisterWindow("NEW_PR", MakerOf<NewProductWindow, NEW_PR>());
   RegisterWindow("FRM_CRDIMP", MakerOf<CradleWindow, FRM_CRDIMP>());
   for (const char* lookup :

@@ -1,6 +1,6 @@
 #include "ui/tile_wall.h"
 
-#include <QApplication>
+#include <QAccessible>
 #include <QHelpEvent>
 #include <QPainter>
 #include <QScrollBar>
@@ -20,7 +20,6 @@ constexpr int kGap = 4;  // between tiles
 constexpr int kPadding = 7;
 constexpr int kLineGap = 2;
 constexpr double kCorner = 5;
-constexpr double kDetailSize = 9;
 
 QFont NameFont() {
   QFont font = BoxFont();
@@ -29,17 +28,11 @@ QFont NameFont() {
   return font;
 }
 
-QFont DetailFont() {
-  QFont font = QApplication::font();
-  font.setPointSizeF(kDetailSize);
-  return font;
-}
-
 /// A name of two lines leaves room for one line of details, a shorter one for two.
 int HeightOfTile(const QFont& name, const QFont& detail) {
   const int text =
       2 * QFontMetrics(name).lineSpacing() + kLineGap + QFontMetrics(detail).lineSpacing();
-  return std::max(kFingerHeight, text + 2 * kPadding) + kGap;
+  return std::max(Scaled(kFingerHeight), text + 2 * kPadding) + kGap;
 }
 
 /// A name in one line or, parted between two words, in two: the end of a name often tells it from
@@ -55,30 +48,35 @@ QStringList NameLines(const QFontMetrics& metrics, const QString& name, int widt
   return part == 0 ? QStringList{rest} : QStringList{name.left(part), rest};
 }
 
-void PaintGround(QPainter& painter, const QRect& room, QRgb ground, QRgb edge, double width) {
+void PaintGround(QPainter& painter, const QRect& room, const QColor& ground, const QColor& edge,
+                 double width) {
   const double inset = width / 2;
-  painter.setPen(QPen(QColor(edge), width));
-  painter.setBrush(QColor(ground));
+  painter.setPen(QPen(edge, width));
+  painter.setBrush(ground);
   painter.drawRoundedRect(QRectF(room).adjusted(inset, inset, -inset, -inset), kCorner, kCorner);
 }
 
 }  // namespace
 
 TileWall::TileWall(Grid& tiles, std::string marker)
-    : tiles_(tiles),
-      marker_(std::move(marker)),
-      nameFont_(NameFont()),
-      detailFont_(DetailFont()),
-      tileHeight_(HeightOfTile(nameFont_, detailFont_)),
-      topRowSeen_(tiles.TopRowRevision()) {
+    : tiles_(tiles), marker_(std::move(marker)), topRowSeen_(tiles.TopRowRevision()) {
   setFocusPolicy(Qt::StrongFocus);
   setFrameShape(QFrame::NoFrame);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
   viewport()->setMouseTracking(true);
   viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
+  FollowLook(*this, [this] { TakeFonts(); });
+}
+
+void TileWall::TakeFonts() {
+  nameFont_ = NameFont();
+  detailFont_ = DetailFont();
+  tileHeight_ = HeightOfTile(nameFont_, detailFont_);
+  plainGround_ = {};
   // A notch of the wheel is three steps: one row of tiles.
   verticalScrollBar()->setSingleStep(tileHeight_ / 3);
+  MeasureRange();
 }
 
 // --- following the form
@@ -93,6 +91,7 @@ void TileWall::Follow() {
   FollowTopRow();
   if (shownCurrent_ == Current()) return;
   shownCurrent_ = Current();
+  if (QAccessible::isActive()) setAccessibleDescription(SeenLines(shownCurrent_).join(", "));
   BringIntoView(shownCurrent_);
   viewport()->update();
 }
@@ -291,9 +290,9 @@ void TileWall::PaintTile(QPainter& painter, const Cell& cell) {
   const QRect room = TileAt(cell.Row, cell.Column);
   if (current) {
     PaintGround(painter, room, hasFocus() ? look::CurrentRow : look::RestingRow,
-                hasFocus() ? look::Accent : look::Muted, hasFocus() ? 2 : 1);
+                hasFocus() ? look::Bright : look::Muted, hasFocus() ? 2 : 1);
   } else if (cell == pointed_) {
-    PaintGround(painter, room, look::Paper, look::Accent, 1);
+    PaintGround(painter, room, look::Paper, look::Bright, 1);
   } else {
     painter.drawPixmap(room.topLeft(), PlainGround(room.size()));
   }

@@ -56,6 +56,7 @@ class TileWall : public QAbstractScrollArea {
   QStringList SeenLines(const Cell& cell) const;
   void Select(const Cell& cell);
   void Point(const std::optional<Cell>& cell);
+  void TakeFonts();
   void MeasureRange();
   void FollowTopRow();
   void BringIntoView(const Cell& cell);
@@ -67,9 +68,9 @@ class TileWall : public QAbstractScrollArea {
   Grid& tiles_;
   const std::string marker_;
   QString placeholder_;
-  const QFont nameFont_;
-  const QFont detailFont_;
-  const int tileHeight_;
+  QFont nameFont_;
+  QFont detailFont_;
+  int tileHeight_ = 1;
   QPixmap plainGround_;          // of a tile that is neither current nor pointed at
   std::optional<Cell> pointed_;  // the cell under the pointer
   Cell shownCurrent_{0, 0};

@@ -1,12 +1,11 @@
 // An order that was written and not saved, from the crash or the close to the day it is gone on
 // with.
-#include <chrono>
 #include <fstream>
-#include <thread>
 
 #include "lookup/lookup_form.h"
 #include "slips/post_order.h"
 #include "tests/board/drafts_desk.h"
+#include "tests/support/somebody.h"
 
 namespace store {
 namespace {
@@ -267,17 +266,14 @@ TEST_F(OrderDrafts, ASaveThatIsStillRunningIsWaitedFor) {
   EXPECT_EQ(PostNewOrder(Order().HeadValues, Order().LineValues, "PEM22"), -1);
   const std::string ofKey = " WHERE PE_ID='" + Order().HeadValues[head::Id] + "'";
   Crash();
-  std::thread save([&] {
-    Sql("CREATE TEMPORARY TABLE H AS SELECT * FROM PEM22" + ofKey +
-        "; CREATE TEMPORARY TABLE L AS SELECT * FROM PSM22" + ofKey + "; DELETE FROM PEM22" +
-        ofKey +
-        "; START TRANSACTION; INSERT INTO PEM22 SELECT * FROM H; DO SLEEP(1); INSERT INTO "
-        "PSM22 SELECT * FROM L; COMMIT");
-  });
-  std::this_thread::sleep_for(std::chrono::milliseconds(400));
+  Somebody saves("CREATE TEMPORARY TABLE H AS SELECT * FROM PEM22" + ofKey +
+                 "; CREATE TEMPORARY TABLE L AS SELECT * FROM PSM22" + ofKey +
+                 "; DELETE FROM PEM22" + ofKey +
+                 "; COMMIT; START TRANSACTION; INSERT INTO PEM22 SELECT * FROM H; DO SLEEP(1); "
+                 "INSERT INTO PSM22 SELECT * FROM L; COMMIT");
   host.ExpectBox("이미 저장되어 있습니다.");
   GoOn();
-  save.join();
+  saves.Leave();
   EXPECT_EQ(Shown(), "");
 }
 

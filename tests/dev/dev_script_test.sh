@@ -21,8 +21,13 @@ expect 2 "run does not know --frsh" run --frsh
 expect 2 "run does not know u01" run u01
 expect 2 "--type takes an order type" run u01,1111 --type 4
 expect 2 "test does not know --asn" test --asn
+expect 2 "package does not know --tri" package --tri
 expect 2 "there is no command tets" tets
 expect 0 "./dev run" help
 expect 0 "does not run" doctor
+# One version for program and package; the changelog of the package is the only other place.
+said=$("$dev" doctor | sed -n 's/^version *//p')
+[[ $said =~ ^([0-9.]+),\ in\ the\ changelog\ ([0-9.]+)$ && ${BASH_REMATCH[1]} = "${BASH_REMATCH[2]}" ]] ||
+  { echo "versions differ: $said"; failed=1; }
 [ -z "$(ls -A "$home")" ] || { echo "left behind: $(ls "$home")"; failed=1; }
 exit "$failed"

@@ -13,6 +13,7 @@
 #include "private_db/loopback.h"
 #include "tests/gateway/gate.h"
 #include "tests/support/scripted_host.h"
+#include "tests/support/somebody.h"
 
 namespace store {
 namespace {
@@ -247,20 +248,17 @@ TEST_F(Gate, ABatchTooLargeForOneBlockIsAllOrNothingToo) {
   EXPECT_EQ(Numbers(), "1 2 3 ");
 }
 
-/// Somebody else's transaction at the server while the test goes on.
-class Somebody {
- public:
-  explicit Somebody(const std::string& statements)
-      : works_([statements] { TestServer().Sql("gate", "START TRANSACTION; " + statements); }) {
-    std::this_thread::sleep_for(std::chrono::milliseconds(300));
-  }
-  ~Somebody() { works_.join(); }
-  Somebody(const Somebody&) = delete;
-  Somebody& operator=(const Somebody&) = delete;
-
- private:
-  std::thread works_;
-};
+// The words of a node that leaves its cluster while it stores.
+TEST_F(Gate, ABatchWhoseStoringWentWrongIsInDoubt) {
+  Sql("CREATE TRIGGER leaves BEFORE INSERT ON T FOR EACH ROW SIGNAL SQLSTATE 'HY000' SET "
+      "MYSQL_ERRNO=1180, MESSAGE_TEXT='Got error 5 during COMMIT'");
+  EXPECT_EQ(ExecuteBatch({"", InsertNumber(1)}), 0);
+  EXPECT_TRUE(BatchInDoubt);
+  EXPECT_NE(LastErrorText.find("during COMMIT"), std::string::npos) << LastErrorText;
+  Sql("DROP TRIGGER leaves");
+  EXPECT_EQ(ExecuteBatch({"", InsertNumber(1)}), -1);
+  EXPECT_FALSE(BatchInDoubt);
+}
 
 class Locks : public Gate {
  protected:
@@ -277,7 +275,7 @@ class Locks : public Gate {
 };
 
 TEST_F(Locks, OneThatSomebodyHoldsFailsTheBatchInsteadOfHangingIt) {
-  const Somebody holds("UPDATE T SET A='held' WHERE N=1; DO SLEEP(8); ROLLBACK");
+  const Somebody holds("UPDATE T SET A='held' WHERE N=1; DO SLEEP(8); ROLLBACK", "gate");
   EXPECT_EQ(ExecuteBatch({"", InsertNumber(9), "UPDATE T SET A='mine' WHERE N=1"}), 0);
   EXPECT_NE(LastErrorText.find("Lock wait timeout"), std::string::npos) << LastErrorText;
   EXPECT_FALSE(BatchInDoubt);
@@ -292,7 +290,7 @@ TEST_F(Locks, WhatTheServerUndidForAnothersSakeIsSentAgain) {
                              "UPDATE T SET A='held' WHERE N>1; DO SLEEP(0.6); "
                              "UPDATE T SET A='held' WHERE N=1; COMMIT"}) {
     for (const char* way : {"DELETE FROM T WHERE N = -1", "SET @way = 1"}) {
-      const Somebody holds(others);
+      const Somebody holds(others, "gate");
       EXPECT_EQ(ExecuteBatch({"", way, InsertNumber(++number), "UPDATE T SET A='mine' WHERE N=1",
                               "UPDATE T SET A='mine' WHERE N=2"}),
                 -1)
@@ -306,7 +304,7 @@ TEST_F(Locks, WhatTheServerUndidForAnothersSakeIsSentAgain) {
 // It ends in the middle, and the connection stands.
 TEST_F(Locks, ABatchThatIsStoppedAtTheServerLeavesNothingForTheNextOne) {
   for (const char* way : {"DELETE FROM T WHERE N = -1", "SET @way = 1"}) {
-    const Somebody holds("UPDATE T SET A='held' WHERE N=1; DO SLEEP(1); ROLLBACK");
+    const Somebody holds("UPDATE T SET A='held' WHERE N=1; DO SLEEP(1); ROLLBACK", "gate");
     std::thread stop([] {
       std::this_thread::sleep_for(std::chrono::milliseconds(200));
       const auto running = TestServer().Rows(
@@ -350,7 +348,7 @@ TEST_F(Locks, AGuardMustFindARowWhenTheBatchRuns) {
 
     // What somebody else is still at counts as he leaves it.
     Sql("UPDATE T SET A = 'x' WHERE N = 1");
-    const Somebody posts("UPDATE T SET A='his' WHERE N=1; DO SLEEP(0.6); COMMIT");
+    const Somebody posts("UPDATE T SET A='his' WHERE N=1; DO SLEEP(0.6); COMMIT", "gate");
     EXPECT_EQ(press("x"), 0);
     EXPECT_EQ(Text(1), "his");
   }

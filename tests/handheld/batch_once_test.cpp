@@ -1,11 +1,9 @@
 // A staged row becomes goods once: whoever else makes slips of it, and whatever the line does.
-#include <chrono>
-#include <future>
-#include <thread>
 #include <utility>
 
 #include "tests/handheld/batch_desk.h"
 #include "tests/support/cutting_proxy.h"
+#include "tests/support/somebody.h"
 
 namespace store {
 namespace {
@@ -53,12 +51,6 @@ class BatchOnce : public BatchDesk {
     EXPECT_EQ(Stock("P0001"), posted ? run.stock : "5/10/3");
     EXPECT_EQ(Left(), posted ? "" : "r1,r2");
   }
-  static std::future<void> Meanwhile(const std::string& statements) {
-    auto other =
-        std::async(std::launch::async, [statements] { Sql("START TRANSACTION; " + statements); });
-    std::this_thread::sleep_for(std::chrono::milliseconds(300));
-    return other;
-  }
 };
 
 // The other workstation is not done yet when the button is pressed here.
@@ -66,9 +58,9 @@ TEST_F(BatchOnce, OfTwoWorkstationsAtTheSameMomentTheLaterPostsNothing) {
   for (const ModuleRun& run : kRuns) {
     SCOPED_TRACE(run.module);
     StageAndOpen(run.module);
-    auto other = Meanwhile("DELETE FROM DT900 WHERE PE_ID='r2'; DO SLEEP(0.6); COMMIT");
+    Somebody other("DELETE FROM DT900 WHERE PE_ID='r2'; DO SLEEP(0.6); COMMIT");
     Press(kGone);
-    other.get();
+    other.Leave();
     EXPECT_EQ(Value(run.slips), "0");
     EXPECT_EQ(Stock("P0001"), "5/10/3");
     EXPECT_EQ(ColumnText(Batch().FLEX, staged::RowId), "r1");
@@ -112,11 +104,12 @@ TEST_F(BatchOnce, AFirstTryThatStillRunsPostsOnce) {
     CuttingProxy line(TestServer().Port());
     StageAndOpen(run.module);
     BuildConnectString(PrivateDbServer::ServerOption(line.Port()), "kt", "small");
-    auto holder = Meanwhile("SELECT PE_ID FROM DT900 FOR UPDATE; DO SLEEP(1); ROLLBACK");
+    Somebody holder(std::string("SELECT PE_ID FROM DT900 FOR UPDATE; ") + kUntilTwoWait +
+                    "ROLLBACK");
     line.CutNextBatch(Cut::Running);
     Press(kNotFound);
     Press(kStored);
-    holder.get();
+    holder.Leave();
     ExpectPosted(run, true);
     ResetGateway();
   }

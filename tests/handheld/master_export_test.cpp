@@ -4,6 +4,7 @@
 
 #include "basics/text.h"
 #include "forms/open_forms.h"
+#include "forms/program_places.h"
 #include "handheld/FRM_CRDIMP.h"
 #include "handheld/handheld_forms.h"
 #include "handheld/wire/master_line.h"
@@ -105,6 +106,15 @@ TEST_F(MasterExport, TakesTheChosenPriceLevel) {
     form.Command1_Click(0);
     EXPECT_NE(LineOf(c.barcode).find(c.price), std::string::npos) << c.option << LineOf(c.barcode);
   }
+}
+
+TEST_F(MasterExport, LeavesAFolderOfTheSystemAlone) {
+  Places.WorkFolder = (host.Folder / "data").string();
+  host.ExpectBox("DT900의 [8.수신]");
+  Open().Command1_Click(0);
+  Places = {};
+  EXPECT_FALSE(std::filesystem::exists(File()));
+  EXPECT_GT(std::filesystem::file_size(host.Folder / "data/MASTER/MASTER.txt"), 0U);
 }
 
 TEST_F(MasterExport, TellsWhatStandsInItsWayAndKeepsTheOldFile) {

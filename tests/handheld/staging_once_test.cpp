@@ -1,10 +1,7 @@
 // A transfer is staged once, and never at a price that could not be read.
-#include <chrono>
-#include <future>
-#include <thread>
-
 #include "tests/handheld/receive_desk.h"
 #include "tests/support/cutting_proxy.h"
+#include "tests/support/somebody.h"
 
 namespace store {
 namespace {
@@ -71,15 +68,12 @@ TEST_F(StagingOnce, AFirstTryThatStillRunsStagesOnce) {
   CuttingProxy line(TestServer().Port());
   BuildConnectString(PrivateDbServer::ServerOption(line.Port()), "kt", "small");
   DT9RECEV& form = Received();
-  auto holder = std::async(std::launch::async, [] {
-    Sql("START TRANSACTION; SELECT PE_ID FROM DT900 FOR UPDATE; DO SLEEP(1); ROLLBACK");
-  });
-  std::this_thread::sleep_for(std::chrono::milliseconds(300));
+  Somebody holder(std::string("SELECT PE_ID FROM DT900 FOR UPDATE; ") + kUntilTwoWait + "ROLLBACK");
   line.CutNextBatch(Cut::Running);
   Save(form, kNotFound);
   ++host.Clock.Second;
   Save(form, kSaved);
-  holder.get();
+  holder.Leave();
   EXPECT_TRUE(form.IsClosed());
   EXPECT_EQ(Rows(), "2 2");
   ResetGateway();

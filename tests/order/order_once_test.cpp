@@ -11,6 +11,7 @@
 #include "slips/slip_keys.h"
 #include "tests/order/order_desk.h"
 #include "tests/support/cutting_proxy.h"
+#include "tests/support/somebody.h"
 
 namespace store {
 namespace {
@@ -137,15 +138,12 @@ TEST_F(OrderOnce, AnotherClerksSaveThatIsStillRunningComesFirst) {
   OpenAnew(StoredBefore());
   Order().FLEX1.SetRow(1);
   Enter("7");
-  std::thread other([] {
-    Sql("CREATE TEMPORARY TABLE H AS SELECT * FROM PEM22; CREATE TEMPORARY TABLE L AS SELECT * "
-        "FROM "
-        "PSM22; UPDATE L SET PS_SQTY=2 WHERE PS_NO=1; START TRANSACTION; DELETE FROM PEM22; INSERT "
-        "INTO PEM22 SELECT * FROM H; DO SLEEP(1); INSERT INTO PSM22 SELECT * FROM L; COMMIT");
-  });
-  std::this_thread::sleep_for(std::chrono::milliseconds(400));
+  Somebody other(
+      "CREATE TEMPORARY TABLE H AS SELECT * FROM PEM22; CREATE TEMPORARY TABLE L AS SELECT * FROM "
+      "PSM22; UPDATE L SET PS_SQTY=2 WHERE PS_NO=1; DELETE FROM PEM22; INSERT INTO PEM22 SELECT * "
+      "FROM H; DO SLEEP(1); INSERT INTO PSM22 SELECT * FROM L; COMMIT");
   Press(kChanged);
-  other.join();
+  other.Leave();
   EXPECT_EQ(Orders(), "0:2,3 ");
 }
 

@@ -94,6 +94,17 @@ TEST_F(SuggestedOrders, TheSafetyStockIsProposedOnceAnItem) {
   EXPECT_EQ(form.FLEX2.TextMatrix(0, 6), "판매량");
 }
 
+TEST_F(SuggestedOrders, WithoutTheStockThereIsNoProposal) {
+  AppOptions.OrderInfoPartnersOnly = 1;
+  frm_Order01& form = Propose();
+  Sql("RENAME TABLE IV TO IV_AWAY");
+  form.LaEP_Click(1);
+  Sql("RENAME TABLE IV_AWAY TO IV");
+  EXPECT_EQ(Proposal(form.FLEX2), "") << "all of it would be ordered once more";
+  form.LaEP_Click(1);
+  EXPECT_NE(Proposal(form.FLEX2), "");
+}
+
 TEST_F(SuggestedOrders, AProposalIsMultipliedEditedHiddenAndMarked) {
   AppOptions.OrderInfoPartnersOnly = 1;
   Sql("UPDATE SAFEIV SET SAFE_QTY=2 WHERE PR_CODE='P0002'; UPDATE IV SET BSQTY=1,INQTY=0,OTQTY=0,"

@@ -1,12 +1,8 @@
 // Goods become stock once: whoever else works at the order, and whatever the line does.
-#include <chrono>
-#include <functional>
-#include <future>
-#include <thread>
-
 #include "slips/slip_keys.h"
 #include "tests/receipt/receipt_desk.h"
 #include "tests/support/cutting_proxy.h"
+#include "tests/support/somebody.h"
 
 namespace store {
 namespace {
@@ -175,17 +171,14 @@ TEST_F(ReceiptOnce, AFirstTryThatStillRunsEndsStoredOnce) {
     CuttingProxy line(TestServer().Port());
     BuildConnectString(PrivateDbServer::ServerOption(line.Port()), "kt", "small");
     Open(kApproved);
-    auto holder = std::async(std::launch::async, [] {
-      Sql("START TRANSACTION; " + OfOrder("SELECT PE_ID FROM PEM22") +
-          " FOR UPDATE; DO SLEEP(1.5); ROLLBACK");
-    });
-    std::this_thread::sleep_for(std::chrono::milliseconds(300));
+    Somebody holder(OfOrder("SELECT PE_ID FROM PEM22") + " FOR UPDATE; " + kUntilTwoWait +
+                    "ROLLBACK");
     line.CutNextBatch(Cut::Running);
     Confirm(kNotFound);
     EXPECT_EQ(Came(), "0 10");
     Receive(2, c.quantity);
     Confirm(c.told);
-    holder.get();
+    holder.Leave();
     EXPECT_EQ(Came(), c.came) << c.quantity;
     ResetGateway();
   }
@@ -193,14 +186,10 @@ TEST_F(ReceiptOnce, AFirstTryThatStillRunsEndsStoredOnce) {
 
 TEST_F(ReceiptOnce, OfTwoAtTheSameMomentTheLaterWaitsAndIsTold) {
   Open(kApproved);
-  auto other = std::async(std::launch::async, [] {
-    Sql("START TRANSACTION; " + OfOrder("SELECT PE_ID FROM PEM22") +
-        " FOR UPDATE; DO SLEEP(0.8); " +
-        OfOrder("UPDATE PEM22 SET PE_CK='4',PE_LINK='of another'") + "; COMMIT");
-  });
-  std::this_thread::sleep_for(std::chrono::milliseconds(300));
+  Somebody other(OfOrder("SELECT PE_ID FROM PEM22") + " FOR UPDATE; DO SLEEP(0.8); " +
+                 OfOrder("UPDATE PEM22 SET PE_CK='4',PE_LINK='of another'") + "; COMMIT");
   Confirm(kElsewhere);
-  other.get();
+  other.Leave();
   EXPECT_EQ(Came(), "0 10");
 }
 

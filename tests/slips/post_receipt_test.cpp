@@ -1,10 +1,8 @@
 #include "slips/post_receipt.h"
 
-#include <chrono>
-#include <thread>
-
 #include "tests/slips/slip_samples.h"
 #include "tests/support/small_store_test.h"
+#include "tests/support/somebody.h"
 
 namespace store {
 namespace {
@@ -100,14 +98,12 @@ TEST_F(PostReceiptTest, AddsAFurtherRowWhereStockHasNoSingleRow) {
 }
 
 TEST_F(PostReceiptTest, CountsOnceWhereOthersMakeFurtherRowsMeanwhile) {
-  std::thread others([] {
-    Sql("START TRANSACTION; INSERT INTO IV (RCT_CODE,HCT_CODE,PR_CODE) VALUES "
-        "('1001','100101','P0001'); INSERT INTO CMM (CM_FCTCODE,CM_TCTCODE,CM_MGU,CM_MM) VALUES "
-        "('1001','C0001','C','202405'); DO SLEEP(1); COMMIT");
-  });
-  std::this_thread::sleep_for(std::chrono::milliseconds(400));
+  Somebody others(
+      "INSERT INTO IV (RCT_CODE,HCT_CODE,PR_CODE) VALUES "
+      "('1001','100101','P0001'); INSERT INTO CMM (CM_FCTCODE,CM_TCTCODE,CM_MGU,CM_MM) VALUES "
+      "('1001','C0001','C','202405'); DO SLEEP(1); COMMIT");
   EXPECT_EQ(Post(ReceiptHead(), {ReceiptLine("1", "P0001", "18")}), -1);
-  others.join();
+  others.Leave();
   EXPECT_EQ(Value("SELECT SUM(INQTY)+0e0 FROM IV WHERE PR_CODE='P0001'"), "28");
   EXPECT_EQ(Value("SELECT SUM(CM_M23)+0e0 FROM CMM WHERE CM_MM='202405'"), "29680");
 }

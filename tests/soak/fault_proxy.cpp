@@ -18,15 +18,7 @@ namespace {
 
 using std::chrono::steady_clock;
 
-constexpr size_t kPacketHead = 4;  // three bytes of length, one of number
 constexpr auto kShortWhile = std::chrono::milliseconds(15);
-
-size_t PacketSize(const std::string& head) {
-  const auto byte = [&](size_t i) {
-    return static_cast<size_t>(static_cast<unsigned char>(head[i]));
-  };
-  return kPacketHead + byte(0) + (byte(1) << 8) + (byte(2) << 16);
-}
 
 bool IsBatch(const std::string& request) {
   return request.find("BEGIN NOT ATOMIC") != std::string::npos;
@@ -195,6 +187,7 @@ bool FaultProxy::Strike(Line& line, Fault fault) {
       break;
   }
   line.onReply = fault;
+  line.answer = BatchAnswer(line.request);
   return SendAll(line.server, line.request);
 }
 
@@ -202,7 +195,9 @@ bool FaultProxy::FromServer(Line& line) {
   char buffer[65536];
   const ssize_t got = recv(line.server, buffer, sizeof(buffer), 0);
   if (got <= 0) return false;
-  switch (std::exchange(line.onReply, Fault::None)) {
+  const std::string_view bytes(buffer, static_cast<size_t>(got));
+  const bool strikes = line.onReply != Fault::None && line.answer.EndsWith(bytes);
+  switch (strikes ? std::exchange(line.onReply, Fault::None) : Fault::None) {
     case Fault::CutAfter:
       return Broken();
     case Fault::KillAfter:
@@ -217,7 +212,7 @@ bool FaultProxy::FromServer(Line& line) {
     default:
       break;
   }
-  return line.mute || SendAll(line.client, {buffer, static_cast<size_t>(got)});
+  return line.mute || SendAll(line.client, bytes);
 }
 
 }  // namespace store

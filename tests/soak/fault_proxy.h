@@ -7,6 +7,8 @@
 #include <thread>
 #include <vector>
 
+#include "private_db/batch_answer.h"
+
 namespace store {
 
 /// What happens on the way between a client and its server.
@@ -51,8 +53,9 @@ class FaultProxy {
   struct Line {
     int client = -1;
     int server = -1;
-    std::string request{};  // what has come of the packet that the client is sending
-    Fault onReply = Fault::None;
+    std::string request{};        // what has come of the packet that the client is sending
+    Fault onReply = Fault::None;  // strikes when the answer to the batch is there
+    BatchAnswer answer{};
     bool mute = false;
   };
 

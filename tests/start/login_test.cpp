@@ -39,6 +39,7 @@ TEST_F(Login, FillsTheSessionAndCloses) {
   EXPECT_EQ(Session.UserLevel, "1");
   EXPECT_FALSE(SlotA);
   EXPECT_FALSE(host.Ended);
+  EXPECT_EQ(host.Records.back(), "login: user u01 of store 1001");
 }
 
 TEST_F(Login, ChecksTwoAttemptsAndEndsAtTheThird) {
@@ -60,6 +61,10 @@ TEST_F(Login, ChecksTwoAttemptsAndEndsAtTheThird) {
   EXPECT_EQ(host.Boxes.back().Style, box::Critical);
   EXPECT_EQ(host.Beeps, 3);
   EXPECT_EQ(Session.UserCode, "");
+  for (const std::string& record : host.Records) {
+    EXPECT_EQ(record.find("1111"), std::string::npos) << record;
+    EXPECT_EQ(record.find("wrong"), std::string::npos) << record;
+  }
 }
 
 TEST_F(Login, OnlyACancelledWindowEndsTheProgram) {

@@ -14,6 +14,7 @@
 #include "basics/records.h"
 #include "basics/text.h"
 #include "forms/host.h"
+#include "forms/program_places.h"
 #include "gateway/gateway.h"
 #include "slips/process_state.h"
 #include "tests/support/scripted_host.h"
@@ -173,6 +174,7 @@ TEST_F(Options, AFileThatIsNoneIsPassedOverAndNamed) {
     std::clog.rdbuf(before);
     EXPECT_EQ(Loaded(), "|||kt||0|0|0|0|0") << kind;
     EXPECT_NE(log.str().find("OPT.ini: "), std::string::npos) << kind << ": " << log.str();
+    EXPECT_TRUE(host.Records.back().starts_with("options file: ")) << host.Records.back();
     const auto type = std::filesystem::symlink_status(Path()).type();
     host.ExpectBox("옵션정보 기록실패");
     WriteOption("TARNWICK", "key", "new");
@@ -187,6 +189,32 @@ TEST_F(Options, AFileThatIsNoneIsPassedOverAndNamed) {
   WriteOption("TARNWICK", "데이터서버", "new");
   EXPECT_EQ(ReadOption("TARNWICK", "데이터서버"), "new");
   EXPECT_FALSE(std::filesystem::exists(host.Folder / "OPT.ini.new"));
+}
+
+// A program that stands where its users cannot write has a file for the machine and one for each.
+TEST_F(Options, AUsersCopyComesBeforeTheMachines) {
+  const std::filesystem::path own = host.Folder / "home/store-client/OPT.ini";
+  const std::filesystem::path machine = host.Folder / "etc.ini";
+  Places = {.OwnOptions = own.string(), .MachineOptions = machine.string()};
+  Put("[TARNWICK]\r\nkey=beside\r\n");
+  EXPECT_EQ(ReadOption("TARNWICK", "key"), "beside");
+  std::ofstream(machine) << "[TARNWICK]\r\nkey=machine\r\nother=kept\r\n";
+  EXPECT_EQ(ReadOption("TARNWICK", "key"), "machine");
+  EXPECT_FALSE(std::filesystem::exists(own));
+  WriteOption("TARNWICK", "key", "own");
+  EXPECT_EQ(ReadOption("TARNWICK", "key"), "own");
+  EXPECT_EQ(ReadOption("TARNWICK", "other"), "kept");
+  EXPECT_EQ(ReadProfileValue(machine.string(), "TARNWICK", "key"), "machine");
+  EXPECT_EQ(ReadProfileValue(Path().string(), "TARNWICK", "key"), "beside");
+  // The user's is the one that is named when it is no file.
+  std::filesystem::remove(own);
+  std::filesystem::create_directory(own);
+  EXPECT_TRUE(OptionsFileFault().starts_with(own.string())) << OptionsFileFault();
+  std::filesystem::remove_all(own.parent_path());
+  std::ofstream(own.parent_path()) << "no folder";
+  host.ExpectBox("옵션정보 기록실패");
+  WriteOption("TARNWICK", "key", "new");
+  Places = {};
 }
 
 TEST(Deployment, IsOverriddenByTheEnvironment) {

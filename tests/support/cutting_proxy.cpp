@@ -11,6 +11,7 @@
 #include <chrono>
 #include <string_view>
 
+#include "private_db/batch_answer.h"
 #include "private_db/loopback.h"
 
 namespace store {
@@ -73,19 +74,24 @@ void CuttingProxy::Pass(int client, int server) {
   std::array<char, 65536> buffer{};
   std::array<pollfd, 2> ends = {{{client, POLLIN, 0}, {server, POLLIN, 0}}};
   Cut cut = Cut::Never;  // what this line is about to suffer
+  BatchAnswer answer;
   auto sent = std::chrono::steady_clock::now();
   while (!ending_) {
     poll(ends.data(), ends.size(), 20);
     if (cut == Cut::Running && std::chrono::steady_clock::now() - sent > kRunning) break;
     if (ends[0].revents != 0) {
       const std::string_view bytes = Take(client, buffer);
-      if (bytes.find(kBatch) != std::string_view::npos) cut = cut_.exchange(Cut::Never);
+      if (bytes.find(kBatch) != std::string_view::npos) {
+        cut = cut_.exchange(Cut::Never);
+        answer = BatchAnswer(bytes);
+      }
       if (cut == Cut::Before || bytes.empty() || !SendAll(server, bytes)) break;
       sent = std::chrono::steady_clock::now();
     }
     if (ends[1].revents != 0) {
       const std::string_view bytes = Take(server, buffer);
-      if (cut == Cut::After || bytes.empty() || !SendAll(client, bytes)) break;
+      if (bytes.empty() || (cut == Cut::After && answer.EndsWith(bytes))) break;
+      if (!SendAll(client, bytes)) break;
     }
   }
   if (cut != Cut::Never && staysAway_) away_ = true;

@@ -3,6 +3,9 @@
 #include <gtest/gtest.h>
 #include <stdlib.h>
 
+#include <thread>
+
+#include "basics/log.h"
 #include "forms/open_forms.h"
 #include "slips/deleted_slips.h"
 #include "slips/drafts.h"
@@ -30,6 +33,9 @@ ScriptedHost::ScriptedHost() : Folder(FreshFolder()) {
   Host.DocumentsFolder = (Folder / "documents").string();
   Host.ProgramTitle = "STORE";
   Host.Version = {1, 2, 35};
+  Log.Write = [this, here = std::this_thread::get_id()](LogWeight, const std::string& record) {
+    if (std::this_thread::get_id() == here) Records.push_back(record);
+  };
   setenv("STORE_DATA_FOLDER", (Folder / "data").c_str(), 1);
 }
 
@@ -40,6 +46,7 @@ ScriptedHost::~ScriptedHost() {
   ResetDeletedSlips();
   unsetenv("STORE_DATA_FOLDER");
   Host = EmptyHost();
+  Log = {};
   std::error_code ignored;
   std::filesystem::remove_all(Folder, ignored);
 }
@@ -84,6 +91,7 @@ void ScriptedHost::FillWindows() {
   };
   Host.SetPointer = [this](int pointer) { Pointers.push_back(pointer); };
   Host.Beep = [this] { ++Beeps; };
+  Host.ScanTaken = [this] { ++ScansTaken; };
   Host.DoEvents = [this] {
     ++EventRounds;
     if (DuringEvents) DuringEvents();

@@ -48,6 +48,7 @@ class ScriptedHost {
   std::vector<std::string> FormsClosed;
   std::vector<int> Pointers;  ///< Every pointer set, in order.
   int Beeps = 0;
+  int ScansTaken = 0;
   int EventRounds = 0;  ///< How often pending events were let run.
   /// What happens while pending events run.
   std::function<void()> DuringEvents;
@@ -71,6 +72,8 @@ class ScriptedHost {
   ScriptedPort* Port = nullptr;
   /// The per-user settings store: application, section, key.
   std::map<std::tuple<std::string, std::string, std::string>, std::string> Settings;
+
+  std::vector<std::string> Records;  ///< Of the log, in order, those of this thread.
 
   /// The program's folder: empty, and gone with this object. The user's documents lie in it.
   const std::filesystem::path Folder;

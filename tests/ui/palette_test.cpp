@@ -6,6 +6,7 @@
 #include <QtTest>
 #include <filesystem>
 #include <fstream>
+#include <functional>
 #include <regex>
 #include <sstream>
 
@@ -43,12 +44,31 @@ std::string Told(const char* where, const QColor& ink, const QColor& ground) {
          ground.name().toStdString();
 }
 
+void InBothThemes(const std::function<void()>& check) {
+  for (const Theme theme : {Theme::Dark, Theme::Light}) {
+    SetTheme(theme);
+    check();
+  }
+}
+
 TEST(Palette, EveryTextIsToldFromItsGround) {
   EXPECT_NEAR(Contrast(QColor(0, 0, 0), QColor(255, 255, 255)), 21, 0.01);
-  for (const TextPair& pair : TextPairs()) {
-    EXPECT_GE(Contrast(pair.Ink, pair.Ground), kReadable)
-        << Told(pair.Where, pair.Ink, pair.Ground);
-  }
+  InBothThemes([] {
+    for (const TextPair& pair : TextPairs()) {
+      EXPECT_GE(Contrast(pair.Ink, pair.Ground), kReadable)
+          << Told(pair.Where, pair.Ink, pair.Ground);
+    }
+  });
+}
+
+TEST(Palette, EdgesAndMarksAreToldFromTheirGround) {
+  InBothThemes([] {
+    for (const Hue& mark : {look::Bright, look::Warning, look::Waiting, look::Connected}) {
+      for (const Hue& ground : {look::Paper, look::Window, look::Card}) {
+        EXPECT_GE(Contrast(mark, ground), 3) << Told("mark", mark, ground);
+      }
+    }
+  });
 }
 
 // The list above is all there is only as long as no window mixes a colour of its own.
@@ -70,9 +90,11 @@ TEST(Palette, TextIsReadOnTheGroundsThatFormsAskFor) {
     if (source.Name.starts_with("ui/palette.")) continue;
     for (std::sregex_iterator at(source.Text.begin(), source.Text.end(), asked), end; at != end;
          ++at) {
-      const QColor ground = Softened(std::stoi((*at)[1], nullptr, 16));
-      EXPECT_GE(Contrast(QColor(look::Ink), ground), kReadable)
-          << Told(source.Name.c_str(), QColor(look::Ink), ground);
+      InBothThemes([&] {
+        const QColor ground = Softened(std::stoi((*at)[1], nullptr, 16));
+        EXPECT_GE(Contrast(look::Ink, ground), kReadable)
+            << Told(source.Name.c_str(), look::Ink, ground);
+      });
       ++grounds;
     }
   }

@@ -1,7 +1,10 @@
 // Keys and clicks that come while the program waits for the data server.
 #include "ui/server_wait.h"
 
+#include <QFrame>
+#include <QLabel>
 #include <QLineEdit>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QtTest>
 
@@ -156,6 +159,63 @@ TEST_F(ServerWaitTest, WithinACallNoTimerOfAFormFiresAndTheWindowsPaint) {
     EXPECT_EQ(ticks, 0);
   });
   EXPECT_TRUE(QTest::qWaitFor([&] { return ticks > 0; }));
+}
+
+TEST_F(ServerWaitTest, EscStopsAReadThatMayBeStoppedAndDoesNothingElse) {
+  form_.OnKeyDown = [this](Key key) {
+    if (key == Key::Escape) done_ += "closed ";
+    return key == Key::Escape;
+  };
+  const auto remark = [this] { return Find<QLabel>(*window_, "WaitingRemark").text(); };
+  Dispatch([&] {
+    EXPECT_FALSE(Host.OfferStop(300ms));
+    EXPECT_EQ(window_->findChild<QFrame*>("WaitPanel"), nullptr) << "a short wait goes unnoticed";
+    EXPECT_FALSE(Host.OfferStop(1200ms));
+    EXPECT_TRUE(remark().contains("Esc 중지"));
+    QTimer::singleShot(0, window_, [this] {
+      Scan("8801");
+      Tap(Qt::Key_Escape, "\x1b");
+    });
+    EXPECT_TRUE(Host.OfferStop(1250ms));
+    Host.ShowServer(ServerLink::Stopped, 1300ms);
+  });
+  EXPECT_EQ(TheDesk().Server().Link(), ServerLink::Connected) << "as it was known before";
+  EXPECT_EQ(window_->findChild<QFrame*>("WaitPanel"), nullptr);
+  Tap(Qt::Key_Escape, "\x1b");  // an impatient one more
+  QTest::qWait(5);
+  EXPECT_EQ(done_, "");
+  EXPECT_EQ(form_.Text1.Text(), "") << "it was for a list that has not come";
+}
+
+TEST_F(ServerWaitTest, AWaitThatMustNotBeStoppedOffersNothing) {
+  Dispatch([&] {
+    Host.ShowServer(ServerLink::Waiting, 1200ms);
+    EXPECT_EQ(Find<QLabel>(*window_, "WaitingRemark").text(), "1초");
+    Host.ShowServer(ServerLink::Connected, 1250ms);
+  });
+  EXPECT_EQ(window_->findChild<QFrame*>("WaitPanel"), nullptr);
+}
+
+TEST_F(ServerWaitTest, ATextIsKeptWhileAStopIsOfferedAndNobodyTakesIt) {
+  Dispatch([&] {
+    EXPECT_FALSE(Host.OfferStop(1200ms));
+    QTimer::singleShot(0, window_, [this] { Scan("8801"); });
+    EXPECT_FALSE(Host.OfferStop(1250ms));
+    EXPECT_EQ(done_, "");
+    Host.ShowServer(ServerLink::Connected, 1300ms);
+  });
+  QTest::qWait(5);
+  EXPECT_EQ(done_, "[8801]");
+}
+
+TEST_F(ServerWaitTest, CountedWorkShowsHowFarItHasCome) {
+  Dispatch([&] {
+    Host.ShowProgress("전표를 만드는 중입니다.", 3, 12);
+    EXPECT_EQ(Find<QLabel>(*window_, "WaitingRemark").text(), "3 / 12");
+    EXPECT_EQ(Find<QProgressBar>(*window_, "WaitingBar").value(), 3);
+    Host.ShowProgress("", 12, 0);
+  });
+  EXPECT_EQ(window_->findChild<QFrame*>("WaitPanel"), nullptr);
 }
 
 TEST_F(ServerWaitTest, TheLampSaysHowTheServerStandsWhileTheCallRuns) {

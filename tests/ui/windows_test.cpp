@@ -4,26 +4,15 @@
 #include <QtTest>
 
 #include "basics/records.h"
-#include "board/frmDrafts.h"
 #include "board/frm_Start.h"
 #include "forms/host.h"
-#include "handheld/DT9RECEV.h"
-#include "handheld/FRM_CRDIMP.h"
-#include "handheld/FRM_DT900_01.h"
-#include "handheld/FRM_NAMECHK.h"
-#include "handheld/frmProperties.h"
 #include "lookup/HELP_BPR.h"
 #include "lookup/NEW_PR.h"
 #include "lookup/party_lookups.h"
 #include "order/frm_Order.h"
-#include "order/frm_Order01.h"
-#include "order/frm_Order02.h"
-#include "order/frm_Order03.h"
-#include "order/frm_OrderPLU.h"
 #include "receipt/frm_PE_UNIT.h"
 #include "start/frmLogin.h"
-#include "start/frmOptions.h"
-#include "start/frmSplash.h"
+#include "tests/ui/all_forms.h"
 #include "tests/ui/probe_form.h"
 #include "ui/desk.h"
 #include "ui/history_chart_view.h"
@@ -45,28 +34,7 @@ class WindowsTest : public DeskTest {
 };
 
 TEST_F(WindowsTest, EveryControlThatAFormPublishesHasItsWidget) {
-  std::vector<std::unique_ptr<Form>> forms;
-  forms.push_back(std::make_unique<frmLogin>());
-  forms.push_back(std::make_unique<frmSplash>());
-  forms.push_back(std::make_unique<frmOptions>());
-  forms.push_back(std::make_unique<frm_Start>());
-  forms.push_back(std::make_unique<frmDrafts>());
-  forms.push_back(std::make_unique<frm_Order>());
-  forms.push_back(std::make_unique<frm_Order01>());
-  forms.push_back(std::make_unique<frm_Order02>());
-  forms.push_back(std::make_unique<frm_Order03>());
-  forms.push_back(std::make_unique<frm_OrderPLU>());
-  forms.push_back(std::make_unique<frm_PE_UNIT>());
-  forms.push_back(std::make_unique<FRM_CRDIMP>());
-  forms.push_back(std::make_unique<FRM_DT900_01>());
-  forms.push_back(std::make_unique<DT9RECEV>());
-  forms.push_back(std::make_unique<frmProperties>());
-  forms.push_back(std::make_unique<FRM_NAMECHK>());
-  forms.push_back(std::make_unique<HELP_CT>());
-  forms.push_back(std::make_unique<HELP_HCT>());
-  forms.push_back(std::make_unique<HELP_BPR>());
-  forms.push_back(std::make_unique<NEW_PR>());
-  for (const auto& form : forms) {
+  for (const auto& form : AllForms()) {
     const std::unique_ptr<FormWindow> window(MakeWindow(*form));
     ASSERT_NE(window, nullptr) << form->Name;
     EXPECT_EQ(window->ControlsWithoutWidget(), std::vector<std::string>()) << form->Name;

@@ -3,8 +3,8 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QDateEdit>
+#include <QDialog>
 #include <QLineEdit>
-#include <QMessageBox>
 #include <QSettings>
 #include <QTemporaryDir>
 
@@ -14,6 +14,7 @@
 #include "lookup/HELP_BPR.h"
 #include "lookup/party_lookups.h"
 #include "start/Main_Start.h"
+#include "ui/about.h"
 #include "ui/desk.h"
 #include "ui/qt_text.h"
 #include "ui/run_store.h"
@@ -21,6 +22,7 @@
 #include "ui/shots/director.h"
 #include "ui/shots/handheld_shots.h"
 #include "ui/shots/order_shots.h"
+#include "ui/user_choices.h"
 
 namespace store {
 namespace {
@@ -69,6 +71,30 @@ void ShootBoard(Director& director) {
     Press(window, Qt::Key_Enter);
     director.Save(window, "board_notice");
     Press(window, Qt::Key_Escape);
+  });
+}
+
+void ShootPrint(Director& director) {
+  director.WhenShown("frm_Start", [](FormWindow& window) {
+    ClickOn(window, "Option1_3");
+    GoTo(window, "FLEX1", 0, 2);
+    Press(window, Qt::Key_P, Qt::ControlModifier);
+  });
+  director.WhenShown("frmPrint", [&](FormWindow& window) {
+    director.Save(window, "print");
+    Press(window, Qt::Key_W, Qt::AltModifier);
+    director.Save(window, "print_wide");
+    Press(window, Qt::Key_Escape);
+  });
+}
+
+/// As after four seconds in a search that may be stopped.
+void ShootWaiting(Director& director) {
+  using namespace std::chrono_literals;
+  director.WhenShown("frm_Start", [&](FormWindow& window) {
+    Host.OfferStop(4s);
+    director.Save(window, "waiting");
+    Host.ShowServer(ServerLink::Connected, 0ms);
   });
 }
 
@@ -124,13 +150,12 @@ void ShootNewProduct(Director& director) {
 
 void ShootBox(Director& director, const QString& name, std::function<void()> show) {
   director.WhenShown("frm_Start", [show = std::move(show)](FormWindow&) { Dispatch(show); });
-  director.When(
-      [] { return qobject_cast<QMessageBox*>(QApplication::activeModalWidget()) != nullptr; },
-      [&director, name] {
-        QWidget& box = *QApplication::activeModalWidget();
-        director.Save(box, name);
-        Press(box, Qt::Key_Escape);
-      });
+  director.When([] { return qobject_cast<QDialog*>(QApplication::activeModalWidget()) != nullptr; },
+                [&director, name] {
+                  QWidget& box = *QApplication::activeModalWidget();
+                  director.Save(box, name);
+                  Press(box, Qt::Key_Escape);
+                });
 }
 
 void ShootBoxes(Director& director) {
@@ -139,6 +164,7 @@ void ShootBoxes(Director& director) {
     Host.MsgBox("발주일자를 확인바랍니다. 현재일기준 전후한달만 처리가능합니다.", box::Critical,
                 "발주일자오류");
   });
+  ShootBox(director, "about", [] { ShowAbout(TheDesk().FrontWindow()); });
 }
 
 QSize AskedSize(const QString& text) {
@@ -157,6 +183,8 @@ int main(int argc, char** argv) {
   QCommandLineParser parser;
   parser.addPositionalArgument("DIR", "Where the pictures go.");
   parser.addOption({"size", "Size of the large windows.", "WxH", "1024x768"});
+  parser.addOption({"type", "Size of type: 100, 125 or 150 percent.", "PERCENT", "100"});
+  parser.addOption({"theme", "light or dark.", "THEME", "light"});
   parser.addHelpOption();
   parser.process(application);
   if (parser.positionalArguments().size() != 1) parser.showHelp(2);
@@ -168,10 +196,14 @@ int main(int argc, char** argv) {
   QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, data.path());
   store::PrepareStore(application);
   store::Host.PreviousInstance = [] { return false; };  // a client may be at work meanwhile
+  store::ChooseTypeSize(parser.value("type").toInt());
+  store::ChooseTheme(parser.value("theme") == "dark" ? store::Theme::Dark : store::Theme::Light);
   store::Director director(folder, store::AskedSize(parser.value("size")));
   store::ShootStart(director);
   store::ShootSplash(director);
   store::ShootBoard(director);
+  store::ShootPrint(director);
+  store::ShootWaiting(director);
   store::ShootNewOrder(director);
   store::ShootOrderTypes(director);
   store::ShootQuickPick(director);

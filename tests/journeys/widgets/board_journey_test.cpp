@@ -1,5 +1,6 @@
 // The board's grid under the mouse: what is marked is what is named and acted on, and a slip that
 // was deleted comes back.
+#include <QMenu>
 #include <QtTest>
 #include <algorithm>
 
@@ -71,6 +72,38 @@ TEST_F(BoardJourney, WhatIsMarkedIsNamedAndDeletedAndComesBack) {
   EXPECT_EQ(IdAt(Marked()), first);
   EXPECT_EQ(Named(), "선택전표  발주편집  " + first);
   EXPECT_FALSE(Board().findChild<QWidget*>("LaDeleted")->isVisible());
+}
+
+TEST_F(BoardJourney, TheMenuRunsWhatTheButtonsRunAndTakesNoKeyOfTheirs) {
+  ASSERT_NO_FATAL_FAILURE(Start("u01,1111"));
+  // The texts of the menu that is open, and one of its lines done.
+  const auto open = [] { return qobject_cast<QMenu*>(QApplication::activePopupWidget()); };
+  const auto line = [&](const QString& text) {
+    const QList<QAction*> lines = open()->actions();
+    const auto found = std::find_if(lines.begin(), lines.end(), [&](const QAction* action) {
+      return action->text().section('\t', 0, 0) == text;
+    });
+    return found == lines.end() ? nullptr : *found;
+  };
+  Hands::Press(Board(), Qt::Key_F10);
+  ASSERT_NE(open(), nullptr);
+  EXPECT_EQ(line("신규발주하기")->text(), "신규발주하기\tF2");
+  EXPECT_FALSE(line("쓰던 전표")->isEnabled()) << "nothing is kept";
+  QTest::keyClick(open(), Qt::Key_Right);
+  QTest::keyClick(open(), Qt::Key_Right);
+  ASSERT_NE(line("새로고침"), nullptr);
+  DemoSql("UPDATE NOTICE SET SUBJECT='새 공지'");
+  line("새로고침")->trigger();
+  open()->close();
+  ASSERT_EQ(open(), nullptr);
+  Hands::ComeTo("frm_Start");
+  EXPECT_GE(Hands::RowWith(Board(), "FLEX0", 1, "새 공지"), 0) << "read anew";
+  Hands::Press(Board(), Qt::Key_3, Qt::AltModifier);
+  EXPECT_EQ(open(), nullptr);
+  EXPECT_TRUE(Hands::Wait([this] { return AllAre("발주확정"); }));
+  QTest::keyClick(Board().focusWidget(), Qt::Key_F, Qt::AltModifier);
+  EXPECT_EQ(open(), nullptr);
+  EXPECT_EQ(Hands::KeyboardAt(Board()), "Text2");
 }
 
 // Sorted and filtered, the key hits the slip in colour, and the next one in colour is its
