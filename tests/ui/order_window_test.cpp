@@ -67,12 +67,13 @@ TEST_F(OrderWindowTest, TheBoxWalksAndFiltersTheLinesAsTheyAreSeen) {
   });
   lines.SortBy(2, RowOrder::Descending);  // 콜라 우유 라면
   Box().setFocus();
-  QTest::keyClick(&Box(), Qt::Key_Up);
+  QTest::keyClick(window_->focusWidget(), Qt::Key_Up);
   EXPECT_EQ(form_.FLEX1.Row(), 1);
-  QTest::keyClick(&Box(), Qt::Key_Up);
+  QTest::keyClick(window_->focusWidget(), Qt::Key_Up);
   EXPECT_EQ(form_.FLEX1.Row(), 2);
-  QTest::keyClick(&Box(), Qt::Key_Up);
+  QTest::keyClick(window_->focusWidget(), Qt::Key_Up);
   EXPECT_EQ(form_.FLEX1.Row(), 2);
+  Box().setFocus();
   QTest::keyClick(&Box(), Qt::Key_F, Qt::ControlModifier);
   QTest::keyClicks(window_->focusWidget(), "8803");
   EXPECT_EQ(form_.FLEX1.Row(), 3);
