@@ -16,7 +16,7 @@
 namespace store {
 namespace {
 
-constexpr QSize kSize(820, 700);
+constexpr QSize kSize(960, 720);
 
 }  // namespace
 
