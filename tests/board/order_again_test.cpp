@@ -141,6 +141,7 @@ TEST_F(OrderAgain, AnOrderToSeveralSuppliersGoesWhereOneCanBeWritten) {
   }
   AppOptions.OrderType = 1;
   AppOptions.BulkOrderPrice = "5";
+  Sql("UPDATE SAFEIV SET ORD_UP=640 WHERE PR_CODE='P0001'");
   AppOptions.OrderInfoPartnersOnly = 1;
   Again(kEditing);
   EXPECT_EQ(OrderLines(), "P0001x10@640 P0002x1@4800 ");

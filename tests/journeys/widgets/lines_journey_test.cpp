@@ -59,7 +59,10 @@ TEST_F(LinesJourney, LinesAreTakenBackAndTheOrderIsWrittenAgain) {
 
   // A scan into the supplier's box: the lookup comes up, and everything is back after it.
   order.findChild<QWidget*>("Text1")->setFocus();
-  hands.WorkIn("HELP_CT", [](FormWindow& lookup) { Hands::Press(lookup, Qt::Key_Escape); });
+  hands.See("HELP_CT", [](FormWindow& lookup) {
+    ASSERT_TRUE(Hands::Wait([&] { return Hands::KeyboardAt(lookup) == "Text1"; }));
+    Hands::Press(lookup, Qt::Key_Escape);
+  });
   Enter(order, kCider);
   EXPECT_EQ(Lines(order), Table());
   Back(order);
