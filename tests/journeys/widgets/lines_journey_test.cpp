@@ -33,7 +33,6 @@ TEST_F(LinesJourney, LinesAreTakenBackAndTheOrderIsWrittenAgain) {
   ASSERT_NO_FATAL_FAILURE(Start("u01,1111"));
   Hands::Press(Board(), Qt::Key_F2);
   FormWindow& order = Order();
-  EXPECT_FALSE(CanPress(order, "Recent"));
   Enter(order, "#10006");
   const std::string cider = CodeOf(kCider);
   const std::string water = CodeOf(kWater);
