@@ -57,6 +57,9 @@ PrintPages::PrintPages(const PrintedDocument& document, QSizeF room)
 
 QFont PrintPages::FontOf(int size, bool bold) const {
   QFont font = QApplication::font();
+  // The screen's letters have one drawing for the blank and the control characters, so that the
+  // blanks of a PDF would read as such.
+  font.setFamilies(QStringList("NanumBarunGothic") + font.families());
   font.setPixelSize(size);
   font.setBold(bold);
   font.setHintingPreference(QFont::PreferNoHinting);  // or screen and paper would measure apart

@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QProgressBar>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "ui/desk.h"
 #include "ui/form_window.h"
