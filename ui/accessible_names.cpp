@@ -22,7 +22,7 @@ constexpr const char* kCaptionRole = "caption";
 
 /// Without the letter's mark, the keys in brackets and the blanks that space a caption out.
 QString Spoken(QString text) {
-  text = text.section("   (", 0, 0).remove('&').simplified();
+  text = text.section(" (", 0, 0).remove('&').simplified();
   const bool isSpacedOut = text.size() > 2 && text.split(' ').size() > text.size() / 2;
   if (isSpacedOut) text.remove(' ');
   while (text.endsWith(':') || text.endsWith('~')) text.chop(1);

@@ -79,7 +79,7 @@ BoardWindow::BoardWindow(frm_Start& form) : FormWindow(form), board_(form) {
 
 QWidget* BoardWindow::Band() {
   auto* store = Named("LaCaption", new QLabel);
-  auto* drafts = Named("LaDraft", new KeyButton({}, QKeySequence(Qt::CTRL | Qt::Key_D)));
+  auto* drafts = Named("LaDraft", new KeyButton("쓰던 전표", QKeySequence(Qt::CTRL | Qt::Key_D)));
   auto* web = Named("Label4", new KeyButton("홈페이지", QKeySequence(Qt::ALT | Qt::Key_H)));
   auto* smaller = Named("Label5_1", new KeyButton("최소화", QKeySequence(Qt::CTRL | Qt::Key_M)));
   auto* end = Named("Label5_0", new KeyButton("종료", Qt::Key_F12));
@@ -179,7 +179,8 @@ QWidget* BoardWindow::Sums() {
   row->addStretch();
   auto* sum = Row();
   sum->addStretch();
-  sum->addWidget(Named("LaDeleted", new KeyButton({}, QKeySequence(Qt::CTRL | Qt::Key_Z))));
+  sum->addWidget(
+      Named("LaDeleted", new KeyButton("삭제한 전표", QKeySequence(Qt::CTRL | Qt::Key_Z))));
   sum->addSpacing(12);
   sum->addWidget(CaptionLabel("합계"));
   sum->addWidget(total);

@@ -82,8 +82,9 @@ bool GuideView::FindNext(const QString& text, bool backwards) {
 }
 
 QVariant GuideView::loadResource(int type, const QUrl& name) {
-  if (type != QTextDocument::ImageResource) return QTextBrowser::loadResource(type, name);
-  QImage picture(source().resolved(name).toLocalFile());
+  const QVariant content = QTextBrowser::loadResource(type, name);
+  if (type != QTextDocument::ImageResource) return content;
+  QImage picture = QImage::fromData(content.toByteArray());
   const double ratio = devicePixelRatioF();
   const int room = static_cast<int>((viewport()->width() - 2 * Scaled(kMargin)) * ratio);
   if (picture.width() > room) picture = picture.scaledToWidth(room, Qt::SmoothTransformation);

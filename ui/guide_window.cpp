@@ -53,7 +53,7 @@ GuideWindow::GuideWindow(const QString& folder)
           [this](QListWidgetItem* item) { GoTo(item->data(kPage).toString()); });
   connect(contents_, &QListWidget::itemClicked, this,
           [this](QListWidgetItem* item) { GoTo(item->data(kPage).toString()); });
-  connect(view_, &QTextBrowser::sourceChanged, this, [this] { FollowPage(); });
+  connect(view_, &QTextBrowser::sourceChanged, this, &GuideWindow::FollowPage);
   resize(Scaled(kSize).boundedTo(screen()->availableSize()));
   view_->setFocus();
 }
@@ -100,9 +100,10 @@ void GuideWindow::FillContents(const QString& folder) {
 
 void GuideWindow::GoTo(const QString& page) { view_->GoTo(page); }
 
-void GuideWindow::FollowPage() {
+// The view itself knows where it is only behind this.
+void GuideWindow::FollowPage(const QUrl& page) {
   found_->clear();
-  const QString shown = view_->source().fileName();
+  const QString shown = page.fileName();
   for (int row = 0; row < contents_->count(); ++row) {
     if (contents_->item(row)->data(kPage).toString() == shown) contents_->setCurrentRow(row);
   }

@@ -6,6 +6,7 @@
 class QLabel;
 class QLineEdit;
 class QListWidget;
+class QUrl;
 
 namespace store {
 
@@ -22,7 +23,7 @@ class GuideWindow : public QWidget {
  private:
   QWidget* Top();
   void FillContents(const QString& folder);
-  void FollowPage();
+  void FollowPage(const QUrl& page);
   void Find(bool backwards);
   KeyButton* Button(const QString& text, const QKeySequence& keys, void (GuideWindow::*press)());
   void Back();

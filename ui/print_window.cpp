@@ -43,6 +43,8 @@ QWidget* PrintWindow::Pages() {
   connect(preview_, &QPrintPreviewWidget::previewChanged, this, [this] { TellPage(); });
   preview_->setViewMode(QPrintPreviewWidget::SinglePageView);
   preview_->fitInView();
+  // The view and its page are parts of the library's own, and have no caption.
+  for (auto* part : preview_->findChildren<QWidget*>()) part->setAccessibleName("인쇄 미리 보기");
   return preview_;
 }
 

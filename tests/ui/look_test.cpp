@@ -64,6 +64,7 @@ bool WantsName(const QAccessible::State& state, QAccessible::Role role) {
       QAccessible::EditableText, QAccessible::ComboBox, QAccessible::SpinBox, QAccessible::CheckBox,
       QAccessible::RadioButton,  QAccessible::Button,   QAccessible::Table,   QAccessible::List,
       QAccessible::ProgressBar,  QAccessible::Chart,    QAccessible::MenuItem};
+  if (role == QAccessible::StaticText) return false;  // it is what it says
   return state.focusable || std::find(controls.begin(), controls.end(), role) != controls.end();
 }
 
@@ -183,13 +184,14 @@ TEST_F(LookTest, WhatGrowsTooWideGoesBelow) {
   window.resize(300, 200);
   QCoreApplication::processEvents();
   const auto below = [&] {
-    QCoreApplication::processEvents();
+    // What one layout asks of the one around it is an event of its own.
+    for (int round = 0; round < 5; ++round) QCoreApplication::processEvents();
     EXPECT_GE(amount->height(), amount->sizeHint().height());
     EXPECT_EQ(save->height(), save->sizeHint().height());
     return save->geometry().top() > amount->geometry().bottom();
   };
   EXPECT_FALSE(below());
-  amount->setText(QString(20, '8'));
+  amount->setText(QString(60, '8'));
   EXPECT_TRUE(below());
   amount->setText("2");
   EXPECT_FALSE(below());

@@ -12,6 +12,7 @@
 namespace store {
 namespace {
 
+constexpr int kRounds = 5;
 constexpr int kPoll = 20;             // milliseconds
 constexpr int kPatience = 20 * 1000;  // for one step
 
@@ -56,7 +57,8 @@ void Director::PollLater() {
 
 void Director::Settle() {
   settling_ = true;
-  QCoreApplication::processEvents();
+  // What one layout asks of the one around it is an event of its own.
+  for (int round = 0; round < kRounds; ++round) QCoreApplication::processEvents();
   settling_ = false;
 }
 
