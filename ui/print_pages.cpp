@@ -8,6 +8,7 @@
 
 #include "ui/barcode.h"
 #include "ui/palette.h"
+#include "ui/print_text.h"
 #include "ui/qt_text.h"
 
 namespace store {
@@ -34,15 +35,14 @@ const QColor kInk(paper::Ink);
 const QColor kLine(paper::Line);
 const QColor kHeader(paper::Header);
 
-int FlagsOf(const PrintedColumn& column) {
-  const int wrap = column.IsName ? int(Qt::TextWrapAnywhere) : 0;
+Qt::Alignment AlignmentOf(const PrintedColumn& column) {
   switch (column.Alignment) {
     case Align::Right:
-      return Qt::AlignRight | Qt::AlignVCenter | wrap;
+      return Qt::AlignRight | Qt::AlignVCenter;
     case Align::Center:
-      return Qt::AlignHCenter | Qt::AlignVCenter | wrap;
+      return Qt::AlignHCenter | Qt::AlignVCenter;
     default:
-      return Qt::AlignLeft | Qt::AlignVCenter | wrap;
+      return Qt::AlignLeft | Qt::AlignVCenter;
   }
 }
 
@@ -66,31 +66,41 @@ QFont PrintPages::FontOf(int size, bool bold) const {
   return font;
 }
 
-/// Codes and figures get what their longest text needs, the names share the rest by what they need.
-void PrintPages::ChooseWidths() {
+double PrintPages::WidthNeeded(size_t column) const {
   const QFontMetricsF metrics(FontOf(kTextSize));
   const QFontMetricsF bold(FontOf(kTextSize, true));
-  double fixed = 0;
-  double names = 0;
-  for (size_t i = 0; i < document_.Columns.size(); ++i) {
-    double widest = bold.horizontalAdvance(ToQt(document_.Columns[i].Header));
-    for (const auto& row : document_.Rows) {
-      widest = std::max(widest, metrics.horizontalAdvance(ToQt(row[i])));
-    }
-    widths_.push_back(widest + 2 * kPadding);
-    (document_.Columns[i].IsName ? names : fixed) += widths_.back();
+  double widest = bold.horizontalAdvance(ToQt(document_.Columns[column].Header));
+  for (const auto& row : document_.Rows) {
+    widest = std::max(widest, metrics.horizontalAdvance(ToQt(row[column])));
   }
-  const double rest = room_.width() - fixed;
-  for (size_t i = 0; i < widths_.size(); ++i) {
-    if (document_.Columns[i].IsName) widths_[i] = std::max(kLeastName, widths_[i] * rest / names);
+  return widest + 2 * kPadding;
+}
+
+/// Codes and figures get what their longest text needs. The names share the rest: one that needs
+/// less than its part leaves it to the others, and the last takes what is over.
+void PrintPages::ChooseWidths() {
+  std::vector<size_t> names;
+  double rest = room_.width();
+  for (size_t i = 0; i < document_.Columns.size(); ++i) {
+    widths_.push_back(WidthNeeded(i));
+    if (document_.Columns[i].IsName) {
+      names.push_back(i);
+    } else {
+      rest -= widths_[i];
+    }
+  }
+  std::sort(names.begin(), names.end(),
+            [this](size_t one, size_t other) { return widths_[one] < widths_[other]; });
+  for (size_t i = 0; i < names.size(); ++i) {
+    const double part = std::max(kLeastName, rest / static_cast<double>(names.size() - i));
+    const bool last = i + 1 == names.size();
+    widths_[names[i]] = last ? part : std::min(widths_[names[i]], part);
+    rest -= widths_[names[i]];
   }
 }
 
 double PrintPages::CellHeight(const std::string& text, size_t column) const {
-  const QRectF room(0, 0, widths_[column] - 2 * kPadding, 100000);
-  return QFontMetricsF(FontOf(kTextSize))
-      .boundingRect(room, FlagsOf(document_.Columns[column]) & ~Qt::AlignVCenter, ToQt(text))
-      .height();
+  return TextHeight(FontOf(kTextSize), widths_[column] - 2 * kPadding, ToQt(text));
 }
 
 void PrintPages::MeasureRows() {
@@ -142,8 +152,8 @@ void PrintPages::Paint(QPainter& painter, int page) const {
 
 void PrintPages::PaintBand(QPainter& painter) const {
   painter.setFont(FontOf(kTitleSize, true));
-  painter.drawText(QRectF(0, 0, room_.width() / 2, kBarcodeHeight),
-                   Qt::AlignLeft | Qt::AlignVCenter, ToQt(document_.Title));
+  DrawText(painter, QRectF(0, 0, room_.width() / 2, kBarcodeHeight),
+           Qt::AlignLeft | Qt::AlignVCenter, ToQt(document_.Title));
   PaintBarcode(painter);
 }
 
@@ -152,8 +162,8 @@ void PrintPages::PaintBarcode(QPainter& painter) const {
   const double most = room_.width() * 0.62;
   painter.setFont(FontOf(kSmallSize));
   if (barcode.Width <= 0) {
-    painter.drawText(QRectF(room_.width() - most, 0, most, kBarcodeHeight),
-                     Qt::AlignRight | Qt::AlignVCenter, ToQt(document_.Key));
+    DrawText(painter, QRectF(room_.width() - most, 0, most, kBarcodeHeight),
+             Qt::AlignRight | Qt::AlignVCenter, ToQt(document_.Key));
     return;
   }
   const double scale = std::min(kWidestModule / barcode.ModuleWidth, most / barcode.Width);
@@ -161,8 +171,8 @@ void PrintPages::PaintBarcode(QPainter& painter) const {
   for (const Barcode::Bar& bar : barcode.Bars) {
     painter.fillRect(QRectF(left + bar.Left * scale, 0, bar.Width * scale, kBarcodeHeight), kInk);
   }
-  painter.drawText(QRectF(left, kBarcodeHeight + 10, barcode.Width * scale, 120),
-                   Qt::AlignHCenter | Qt::AlignTop, ToQt(document_.Key));
+  DrawText(painter, QRectF(left, kBarcodeHeight + 10, barcode.Width * scale, 120),
+           Qt::AlignHCenter | Qt::AlignTop, ToQt(document_.Key));
 }
 
 double PrintPages::PaintHead(QPainter& painter, double top) const {
@@ -172,13 +182,13 @@ double PrintPages::PaintHead(QPainter& painter, double top) const {
     const double line = top + kHeadLine * static_cast<double>(i / kHeadColumns);
     const QFont font = FontOf(kTextSize, true);
     painter.setFont(font);
-    painter.drawText(QRectF(left, line, kHeadCaption, kHeadLine), Qt::AlignVCenter,
-                     ToQt(document_.Head[i].first));
+    DrawText(painter, QRectF(left, line, kHeadCaption, kHeadLine), Qt::AlignVCenter,
+             ToQt(document_.Head[i].first));
     painter.setFont(FontOf(kTextSize));
     const double room = half - kHeadCaption - kGap;
     const QString value = QFontMetricsF(painter.font())
                               .elidedText(ToQt(document_.Head[i].second), Qt::ElideRight, room);
-    painter.drawText(QRectF(left + kHeadCaption, line, room, kHeadLine), Qt::AlignVCenter, value);
+    DrawText(painter, QRectF(left + kHeadCaption, line, room, kHeadLine), Qt::AlignVCenter, value);
   }
   return HeadHeight(true);
 }
@@ -186,8 +196,8 @@ double PrintPages::PaintHead(QPainter& painter, double top) const {
 void PrintPages::PaintCell(QPainter& painter, const QRectF& cell, size_t column,
                            const std::string& text, bool header) const {
   const PrintedColumn& shown = document_.Columns[column];
-  const int flags = header ? Qt::AlignCenter : FlagsOf(shown);
-  painter.drawText(cell.adjusted(kPadding, 0, -kPadding, 0), flags, ToQt(text));
+  DrawText(painter, cell.adjusted(kPadding, 0, -kPadding, 0),
+           header ? Qt::AlignCenter : AlignmentOf(shown), ToQt(text), shown.IsName && !header);
 }
 
 double PrintPages::PaintTableHead(QPainter& painter, double top) const {
@@ -223,9 +233,9 @@ void PrintPages::PaintTotals(QPainter& painter, double top) const {
   for (const auto& [caption, value] : document_.Totals) {
     const QRectF cell = QRectF(left, top, width, kTotalsHeight).adjusted(kGap, 0, -kGap, 0);
     painter.setFont(FontOf(kTextSize));
-    painter.drawText(cell, Qt::AlignLeft | Qt::AlignVCenter, ToQt(caption));
+    DrawText(painter, cell, Qt::AlignLeft | Qt::AlignVCenter, ToQt(caption));
     painter.setFont(FontOf(kTextSize + 25, true));
-    painter.drawText(cell, Qt::AlignRight | Qt::AlignVCenter, ToQt(value));
+    DrawText(painter, cell, Qt::AlignRight | Qt::AlignVCenter, ToQt(value));
     left += width;
   }
 }
@@ -233,9 +243,9 @@ void PrintPages::PaintTotals(QPainter& painter, double top) const {
 void PrintPages::PaintFoot(QPainter& painter, int page) const {
   const QRectF foot(0, room_.height() - kFootHeight + kGap, room_.width(), kFootHeight - kGap);
   painter.setFont(FontOf(kSmallSize));
-  painter.drawText(foot, Qt::AlignLeft | Qt::AlignBottom, ToQt(document_.Foot));
-  painter.drawText(foot, Qt::AlignHCenter | Qt::AlignBottom,
-                   QString("%1 / %2").arg(page + 1).arg(Count()));
+  DrawText(painter, foot, Qt::AlignLeft | Qt::AlignBottom, ToQt(document_.Foot));
+  DrawText(painter, foot, Qt::AlignHCenter | Qt::AlignBottom,
+           QString("%1 / %2").arg(page + 1).arg(Count()));
 }
 
 }  // namespace store

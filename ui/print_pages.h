@@ -31,6 +31,7 @@ class PrintPages {
     bool HasTotals = false;
   };
 
+  double WidthNeeded(size_t column) const;
   void ChooseWidths();
   void MeasureRows();
   void BreakPages();

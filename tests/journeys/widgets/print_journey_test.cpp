@@ -100,14 +100,13 @@ TEST_F(PrintJourney, ASlipOfThreePagesIsInThePdfWholeAndInOrder) {
   // In the order of drawing a text that goes on in a second line stays together.
   const QString drawn = QString::fromStdString(Said("pdftotext -raw " + File(pdf) + " -"));
   for (int page = 1; page <= 3; ++page) {
-    const QRegularExpression number(QString(R"(\b%1 ?/ ?3\s*$)").arg(page),
+    const QRegularExpression number(QString(R"(\b%1 / 3$)").arg(page),
                                     QRegularExpression::MultilineOption);
     EXPECT_EQ(drawn.count(number), 1) << page;
   }
   EXPECT_EQ(drawn.count(QString::fromStdString(kSlip)), 4) << "by each barcode, and in the head";
   EXPECT_EQ(drawn.simplified().remove(' ').count("긴이름의품목"), 8) << "a long name goes on";
-  EXPECT_TRUE(drawn.contains(QRegularExpression(R"(참나무커피 ?\(10006\))")))
-      << drawn.toStdString();
+  EXPECT_TRUE(drawn.contains("참나무커피 (10006)")) << drawn.toStdString();
 }
 
 TEST_F(PrintJourney, ThePdfHoldsItsLettersAndABarcodeThatAScannerReads) {
