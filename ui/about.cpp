@@ -9,10 +9,10 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPlainTextEdit>
+#include <QPushButton>
 #include <QSysInfo>
 
 #include "gateway/database_software.h"
-#include "ui/key_button.h"
 #include "ui/layout_pieces.h"
 #include "ui/log_file.h"
 #include "ui/program_icon.h"
@@ -49,10 +49,9 @@ QPlainTextEdit* VersionsBox() {
 }
 
 QHBoxLayout* Buttons(QDialog& dialog) {
-  auto* copy = new KeyButton("복사(&C)");
-  auto* close = new KeyButton("닫기");
-  close->WriteKey("Esc");
-  close->MarkMain();
+  auto* copy = new QPushButton("복사(&C)");
+  auto* close = new QPushButton("닫기");
+  close->setDefault(true);
   QObject::connect(copy, &QPushButton::clicked, &dialog,
                    [] { QGuiApplication::clipboard()->setText(VersionsText()); });
   QObject::connect(close, &QPushButton::clicked, &dialog, &QDialog::accept);
@@ -82,7 +81,9 @@ std::vector<std::pair<QString, QString>> ProgramVersions() {
 
 QString VersionsText() {
   QString text;
-  for (const auto& [name, version] : ProgramVersions()) text += name + ": " + version + "\n";
+  for (const auto& [name, version] : ProgramVersions()) {
+    if (!version.isEmpty()) text += name + ": " + version + "\n";
+  }
   return text.trimmed();
 }
 

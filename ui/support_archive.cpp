@@ -53,6 +53,9 @@ std::string WriteArchive(const std::string& path, const std::vector<ArchivedFile
   return refusal;
 }
 
-std::string ArchiveLibraryVersion() { return archive_version_details(); }
+std::string ArchiveLibraryVersion() {
+  const std::string named = archive_version_string();  // "libarchive 3.6.2"
+  return named.substr(named.find(' ') + 1);
+}
 
 }  // namespace store
