@@ -35,7 +35,11 @@ bool IsOf(const Grid& grid, int row, const std::string& code) {
 
 void frm_PE_UNIT::inBox_Scan(const std::string& code) {
   inBox.SetText("");
-  if (!GoToLineOf(code)) TellNotOnSlip(code);
+  if (GoToLineOf(code)) {
+    Host.ScanTaken();
+  } else {
+    TellNotOnSlip(code);
+  }
 }
 
 bool frm_PE_UNIT::GoToLineOf(const std::string& code) {

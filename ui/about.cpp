@@ -17,6 +17,7 @@
 #include "ui/log_file.h"
 #include "ui/program_icon.h"
 #include "ui/qt_text.h"
+#include "ui/scan_sounds.h"
 #include "ui/style.h"
 #include "ui/support_archive.h"
 
@@ -75,6 +76,7 @@ std::vector<std::pair<QString, QString>> ProgramVersions() {
           {"ODBC 드라이버 관리자", Told(database.DriverManager)},
           {"SQLite", sqlite3_libversion()},
           {"libxlsxwriter", lxw_version()},
+          {"libcanberra", SoundLibraryVersion()},
           {"spdlog", ToQt(LogLibraryVersion())},
           {"libarchive", ToQt(ArchiveLibraryVersion())}};
 }

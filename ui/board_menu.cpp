@@ -58,6 +58,7 @@ MenuLines FileLines(FormWindow& window, frm_Start& board) {
 MenuLines EditLines(FormWindow& window, frm_Start& board) {
   return {{ToQt(board.Label7.Caption) + "\tAlt+F",
            [&] { window.Act([&] { board.SetFocus(board.Text2); }); }},
+          {"줄 찾기\tCtrl+F", [&] { window.FilterRows(); }},
           Border(),
           OfButton(window, "Image1_4"),
           OfButton(window, "LaDeleted", "삭제한 전표 되살리기")};

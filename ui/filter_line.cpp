@@ -64,6 +64,8 @@ void FilterLine::Tell(int shown, int rows, const QString& remark) {
 bool FilterLine::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() != QEvent::KeyPress) return QWidget::eventFilter(watched, event);
   const auto& key = static_cast<const QKeyEvent&>(*event);
+  const QString code = scan_.Take(key);
+  if (!code.isEmpty() && Scanned(code)) return true;
   switch (key.key()) {
     case Qt::Key_Escape:
       Closed();

@@ -3,6 +3,8 @@
 #include <QWidget>
 #include <functional>
 
+#include "ui/scan_run.h"
+
 class QLabel;
 class QLineEdit;
 
@@ -16,6 +18,8 @@ class FilterLine : public QWidget {
   std::function<void(const QString& text)> Typed;
   /// On to the rows (Enter, an arrow), with the filter as it is.
   std::function<void()> GoneOn;
+  /// A scanner has typed this code and Enter. True when it has been handed to where scans go.
+  std::function<bool(const QString& code)> Scanned;
   /// Escape, or the cross.
   std::function<void()> Closed;
 
@@ -32,6 +36,7 @@ class FilterLine : public QWidget {
  private:
   QLineEdit* edit_;
   QLabel* count_;
+  ScanRun scan_;
 };
 
 }  // namespace store

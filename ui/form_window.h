@@ -48,9 +48,10 @@ class FormWindow : public QWidget {
   void OnShortcut(const QKeySequence& keys, std::function<void()> event);
   /// A grid whose open cell is taken over by `Act`.
   void KeepOpenCellsOf(GridView& grid) { grids_.push_back(&grid); }
-  /// The lines of a grid's context menu that are this window's own. The first grid with such lines
-  /// is the one that Ctrl+F filters from elsewhere in the window.
+  /// The lines of a grid's context menu that are this window's own.
   void OfferActions(GridView& grid, ContextActions actions);
+  /// Opens the filter of the grid that has the keyboard, or of the first one with such lines.
+  void FilterRows();
   /// A line that does what the button of that name does.
   ContextAction ButtonLine(const QString& name) const;
   /// A line that does what the key does while `at` has the keyboard; it is there for a current row
@@ -101,7 +102,6 @@ class FormWindow : public QWidget {
   void ActLater(std::function<void()> event);
   bool InTypedText(const QWidget& at) const;
   bool EscapesFilter(const QWidget& at) const;
-  void FilterRows();
   void ChainTabOrder();
   bool ScanTakes(const QKeyEvent& event, const QWidget& at);
   bool ShortcutTakes(const QKeyEvent& event);

@@ -129,7 +129,7 @@ void GridDelegate::PaintPlace(QPainter& painter, const QRect& cell,
   if (!view_.MarksRow()) painter.drawLine(cell.topRight(), cell.bottomRight());
   // A bar before what is copied, so that it is never taken for what is marked.
   if (view_.IsToBeCopied(index.row()) && index.column() == view_.Columns().Shown().front()) {
-    painter.fillRect(QRect(cell.topLeft(), QSize(kCopyBar, cell.height())), QColor(look::Accent));
+    painter.fillRect(QRect(cell.topLeft(), QSize(kCopyBar, cell.height())), QColor(look::Bright));
   }
   if (!IsMarked(index)) return;
   painter.setPen(QColor(view_.hasFocus() ? look::Bright : look::Muted));

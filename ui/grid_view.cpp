@@ -73,6 +73,7 @@ GridView::GridView(Grid& grid, int lines, QWidget* parent)
   connect(horizontalHeader(), &QHeaderView::sectionClicked, this, &GridView::TitleClicked);
   filter_->Typed = [this](const QString& text) { FilterBy(text); };
   filter_->GoneOn = [this] { GoOnToRows(); };
+  filter_->Scanned = [this](const QString& code) { return HandOnScan(code); };
   filter_->Closed = [this] { CloseFilter(); };
   grid_.SeenBeside = [view = QPointer(this), &grid](int row, int step) {
     return view == nullptr ? GridRows(grid).Beside(row, step)

@@ -105,6 +105,7 @@ class GridView : public QTableView {
   void FollowFilter();
   void HideFilter();
   void GoOnToRows();
+  bool HandOnScan(const QString& code);
   void KeepInSight(int row);
   void NoteTopRow();
   void OpenHeaderMenu(const QPoint& at);

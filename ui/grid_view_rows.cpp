@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QScopedValueRollback>
 #include <QToolTip>
 #include <algorithm>
@@ -17,6 +18,7 @@
 #include "ui/grid_header.h"
 #include "ui/grid_view.h"
 #include "ui/qt_text.h"
+#include "ui/scan_catcher.h"
 
 namespace store {
 
@@ -112,6 +114,19 @@ void GridView::GoOnToRows() {
   const GridRows& rows = model_.ShownRows();
   if (grid_.Row() >= grid_.FixedRows() || rows.Count() == 0) return;
   Dispatch([&] { grid_.Select(rows.RowAt(0), ShownColumn(grid_.Col())); });
+}
+
+// In a window that is scanned into, a scan is an item wherever the keyboard is.
+bool GridView::HandOnScan(const QString& code) {
+  for (QLineEdit* box : window()->findChildren<QLineEdit*>()) {
+    if (!box->property(kScannedProperty).toBool() || !box->isEnabled() || !box->isVisible()) {
+      continue;
+    }
+    CloseFilter();
+    Dispatch([&] { TheDesk().TypeLater(*box, code + '\r'); });
+    return true;
+  }
+  return false;
 }
 
 void GridView::CloseFilter() {

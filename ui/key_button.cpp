@@ -13,6 +13,11 @@ constexpr int kGap = 7;
 constexpr int kHeight = 28;
 constexpr int kKeyPadding = 4;
 
+/// Its letter for Alt is underlined, and the mark in front of that is not seen.
+int TextWidth(const QFontMetrics& metrics, const QString& text) {
+  return metrics.size(Qt::TextShowMnemonic, text).width();
+}
+
 }  // namespace
 
 KeyButton::KeyButton(const QString& text, const QKeySequence& keys)
@@ -35,7 +40,7 @@ void KeyButton::MarkMain() {
 
 QSize KeyButton::sizeHint() const {
   const QFontMetrics metrics(font());
-  int width = 2 * kSide + metrics.horizontalAdvance(text());
+  int width = 2 * kSide + TextWidth(metrics, text());
   if (!key_.isEmpty()) {
     width += metrics.horizontalAdvance(key_) + 2 * kKeyPadding + (text().isEmpty() ? 0 : kGap);
   }
@@ -64,13 +69,13 @@ void KeyButton::paintEvent(QPaintEvent*) {
   const int keyWidth =
       key_.isEmpty() ? 0 : metrics.horizontalAdvance(key_) + 2 * kKeyPadding + kGap;
   // Text and key stand together in the middle, however wide the button is.
-  const int spare = room.width() - metrics.horizontalAdvance(text()) - keyWidth;
+  const int spare = room.width() - TextWidth(metrics, text()) - keyWidth;
   room.adjust(std::max(0, spare / 2), 0, 0, 0);
   const QColor ink(!isEnabled() ? look::Disabled : inverse ? look::Inverse : look::Ink);
   painter.setPen(ink);
-  painter.drawText(room, Qt::AlignLeft | Qt::AlignVCenter, text());
+  painter.drawText(room, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic, text());
   if (key_.isEmpty()) return;
-  QRect cap(room.left() + metrics.horizontalAdvance(text()) + (text().isEmpty() ? 0 : kGap), 0,
+  QRect cap(room.left() + TextWidth(metrics, text()) + (text().isEmpty() ? 0 : kGap), 0,
             keyWidth - kGap, metrics.lineSpacing() + 2);
   cap.moveTop((height() - cap.height()) / 2);
   QColor faint = ink;

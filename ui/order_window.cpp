@@ -157,6 +157,9 @@ QWidget* OrderWindow::Lines() {
 ContextActions OrderWindow::LineActions() {
   return {BoxLine("수량 고치기", order_.FLEX1, order_.inBox),
           KeyLine("줄 삭제", Key::Delete, order_.FLEX1),
+          {.Text = "전표 인쇄",
+           .Key = "Ctrl+P",
+           .Event = [this] { Act([this] { order_.PrintStored(); }); }},
           {},
           ButtonLine("ItemLookup"),
           ButtonLine("Image5"),

@@ -47,7 +47,10 @@ ReceiptWindow::ReceiptWindow(frm_PE_UNIT& form) : FormWindow(form), receipt_(for
 // What the right button offers on a line.
 ContextActions ReceiptWindow::LineActions() {
   return {BoxLine("입고량 고치기", receipt_.FLEX1, receipt_.inBox),
-          KeyLine("줄 삭제", Key::Delete, receipt_.FLEX1, receipt_.inBox)};
+          KeyLine("줄 삭제", Key::Delete, receipt_.FLEX1, receipt_.inBox),
+          {.Text = "전표 인쇄", .Key = "Ctrl+P", .Event = [this] {
+             Act([this] { receipt_.PrintStored(); });
+           }}};
 }
 
 void ReceiptWindow::ExportLines() {

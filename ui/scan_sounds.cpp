@@ -105,6 +105,8 @@ void SoundTaken() {
   if (SoundsOn()) Play("taken.wav", kTaken);
 }
 
+QString SoundLibraryVersion() { return QString("%1.%2").arg(CA_MAJOR).arg(CA_MINOR); }
+
 void SoundRefused() {
   if (SoundsOn() && !Play("refused.wav", kRefused)) QApplication::beep();
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QString>
+
 namespace store {
 
 /// Two short tones, high for what was taken and falling for what was not, so that who scans need
@@ -7,5 +9,7 @@ namespace store {
 /// play, the second is the window system's bell and the first is silent.
 void SoundTaken();
 void SoundRefused();
+
+QString SoundLibraryVersion();
 
 }  // namespace store

@@ -28,6 +28,7 @@ TEST_F(ScannedLine, ACodeLeadsToItsLineAndTheNextNumberIsItsQuantity) {
   }
   Type("16");
   EXPECT_EQ(Received(), "30,16");
+  EXPECT_EQ(host.ScansTaken, 3);
   EXPECT_EQ(host.Beeps, 0);
 }
 

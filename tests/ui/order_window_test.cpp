@@ -85,6 +85,19 @@ TEST_F(OrderWindowTest, TheBoxWalksAndFiltersTheLinesAsTheyAreSeen) {
   EXPECT_EQ(form_.FLEX1.TextMatrix(form_.FLEX1.Row(), 1), "1000001") << "the line seen above it";
 }
 
+TEST_F(OrderWindowTest, AScanIntoTheFilterIsAScan) {
+  std::string entered;
+  form_.inBox.KeyDown = [&](Key key) {
+    if (key == Key::Enter) entered = form_.inBox.Text();
+  };
+  Box().setFocus();
+  QTest::keyClick(&Box(), Qt::Key_F, Qt::ControlModifier);
+  QTest::keyClicks(window_->focusWidget(), "8800000000001");
+  QTest::keyClick(window_->focusWidget(), Qt::Key_Return);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return entered == "8800000000001"; }));
+  EXPECT_FALSE(FindGrid(*window_, "FLEX1").FilterIsOpen());
+}
+
 TEST_F(OrderWindowTest, AStoredSlipCannotBeSavedByItsKey) {
   bool boxShown = false;
   Host.MsgBox = [&](const std::string&, int, const std::string&) {
