@@ -216,7 +216,7 @@ TEST_F(LookTest, OpenWindowsFollowAtOnceAndBackAgain) {
   ChooseTheme(Theme::Dark);
   const auto large = state();
   EXPECT_GT(std::get<0>(large), std::get<0>(before) * 13 / 10);
-  EXPECT_GT(std::get<1>(large).width(), std::get<1>(before).width() * 13 / 10);
+  EXPECT_GT(std::get<1>(large).width(), std::get<1>(before).width() * 5 / 4);
   EXPECT_EQ(std::get<3>(large), QColor(look::Window).name());
   ChooseTypeSize(100);
   ChooseTheme(Theme::Light);
