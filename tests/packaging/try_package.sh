@@ -118,7 +118,10 @@ use_as_a_clerk() {
   wait "$program" || ended=$?
   program=
   [ "$ended" -eq 0 ] || fail "the program ended with $ended: $(cat "$folder/program.log")"
-  [ ! -s "$folder/program.log" ] || fail "the program said: $(cat "$folder/program.log")"
+  # A machine without a sound card says so by itself.
+  local said
+  said=$(grep -v '^ALSA lib' "$folder/program.log" || true)
+  [ -z "$said" ] || fail "the program said: $said"
 }
 
 log_has() { grep -q "$1" "$bare$clerk/.local/share/store-client/log/store-client.log" || fail "the log lacks: $1"; }
