@@ -36,8 +36,9 @@ class LogFile : public testing::Test {
 
 TEST_F(LogFile, HasARecordAtOnceForItsOwnerAlone) {
   OpenLogFile();
-  const std::string home = std::getenv("HOME");
-  WriteLog(LogWeight::Failure, "read failed", "쓸 수 없음\n" + home + "/발주");
+  const char* home = std::getenv("HOME");
+  ASSERT_NE(home, nullptr);
+  WriteLog(LogWeight::Failure, "read failed", std::string("쓸 수 없음\n") + home + "/발주");
   const std::string line = Text();
   EXPECT_NE(line.find(" error read failed: 쓸 수 없음 ~/발주\n"), std::string::npos) << line;
   EXPECT_EQ(std::count(line.begin(), line.end(), '\n'), 1);
