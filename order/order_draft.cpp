@@ -4,22 +4,12 @@
 
 #include "forms/host.h"
 #include "order/order_form.h"
+#include "order/pick_cells.h"
 #include "slips/depot_choice.h"
 #include "slips/draft_texts.h"
 #include "slips/drafts.h"
 
 namespace store {
-namespace {
-
-std::vector<std::string> CellsOfRow(const Grid& grid, int row) {
-  std::vector<std::string> cells;
-  cells.reserve(static_cast<size_t>(grid.Cols()));
-  for (int column = 0; column < grid.Cols(); ++column)
-    cells.push_back(grid.TextMatrix(row, column));
-  return cells;
-}
-
-}  // namespace
 
 void OrderForm::StartDraft() {
   Draft start = DraftNow();

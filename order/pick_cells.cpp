@@ -20,10 +20,11 @@ LineHistory::Moved MovePickCells(Grid& picks, const std::vector<PickCell>& cells
   return moved;
 }
 
-std::vector<std::string> PickRowCells(const Grid& picks, int row) {
+std::vector<std::string> CellsOfRow(const Grid& grid, int row) {
   std::vector<std::string> cells;
-  for (int column = 0; column < picks.Cols(); ++column) {
-    cells.push_back(picks.TextMatrix(row, column));
+  cells.reserve(static_cast<size_t>(grid.Cols()));
+  for (int column = 0; column < grid.Cols(); ++column) {
+    cells.push_back(grid.TextMatrix(row, column));
   }
   return cells;
 }

@@ -23,8 +23,8 @@ struct PickCell {
 LineHistory::Moved MovePickCells(Grid& picks, const std::vector<PickCell>& cells,
                                  LineHistory::Way way);
 
-/// The cells of a row of the pick list, to be held against what becomes of them.
-std::vector<std::string> PickRowCells(const Grid& picks, int row);
+/// The cells of a row as they stand.
+std::vector<std::string> CellsOfRow(const Grid& grid, int row);
 /// Adds the cells in which a row differs from `before`. Marks are the person's own and no figures.
 void AddChangedCells(const Grid& picks, int row, const std::vector<std::string>& before,
                      std::vector<PickCell>& cells);

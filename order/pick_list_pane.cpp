@@ -42,7 +42,7 @@ void PickListPane::WalkToPickList() {
 bool PickListPane::FLEX2_BeforeEdit(int row, int col) {
   if (row < 1 || !choices_.PickGrid[static_cast<size_t>(col)].Editable) return false;
   openedRow_ = row;
-  rowBefore_ = PickRowCells(FLEX2, row);
+  rowBefore_ = CellsOfRow(FLEX2, row);
   return true;
 }
 
@@ -60,7 +60,7 @@ void PickListPane::TellCellsChanged(std::vector<PickCell> cells) {
 void PickListPane::FLEX2_AfterEdit(int editedRow, int editedColumn) {
   AsOneStep([&] {
     const std::vector<std::string> before =
-        editedRow == openedRow_ ? std::exchange(rowBefore_, {}) : PickRowCells(FLEX2, editedRow);
+        editedRow == openedRow_ ? std::exchange(rowBefore_, {}) : CellsOfRow(FLEX2, editedRow);
     openedRow_ = 0;
     TakeEntry(editedRow, editedColumn);
     std::vector<PickCell> cells;

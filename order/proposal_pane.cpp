@@ -214,7 +214,7 @@ void ProposalPane::Text3_KeyPress(Key key) {
   const double times = ParseGrouped(Text3.Text());
   std::vector<PickCell> cells;
   for (int row = 1; row < picks_.Rows(); ++row) {
-    const std::vector<std::string> before = PickRowCells(picks_, row);
+    const std::vector<std::string> before = CellsOfRow(picks_, row);
     picks_.SetTextMatrix(row, proposal::Base,
                          NumberText(times * ValueAt(picks_, row, proposal::Fetched)));
     RecalcShortage(picks_, row);
