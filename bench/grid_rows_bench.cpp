@@ -20,7 +20,8 @@ constexpr int kRows = 20000;
 constexpr int kRounds = 7;
 constexpr int kName = 2;
 constexpr QSize kSize(700, 500);
-constexpr std::array<const char*, 4> kTyped = {"콜", "콜라", "콜라 1", "콜라 12"};
+// Each finds less than the one before, or the peer would have nothing to draw.
+constexpr std::array<const char*, 4> kTyped = {"라", "콜라", "콜라 1", "콜라 12"};
 
 void FillItems(Grid& grid) {
   constexpr std::array<const char*, 8> makers = {"고운", "참나무", "새봄", "은하수",

@@ -128,18 +128,14 @@ void OrderForm::ConnectPanes() {
 }
 
 void OrderForm::ReadSupplierScope(ItemListMoment moment) {
-  {
-    const StoppableReads mayBeStopped;
-    ReadItemList(moment);
-  }
+  const StoppableReads mayBeStopped;  // who stops the list means what stands beside it, too
+  ReadItemList(moment);
   ShowSupplierScope();
 }
 
 void OrderForm::ShowSupplierScope() {
-  if (FillLeftSide) {
-    const StoppableReads mayBeStopped;
-    FillLeftSide();
-  }
+  const StoppableReads mayBeStopped;
+  if (FillLeftSide) FillLeftSide();
   // Whatever is chosen beside it anew, the pick list starts empty.
   FLEX2.SetRows(1);
   NoteDraft();

@@ -114,10 +114,7 @@ LineHistory::Step LineHistory::ChangedRows() {
 }
 
 void LineHistory::Keep(Step step) {
-  while (CanRedo()) {
-    weight_ -= steps_.back().Weight;
-    steps_.pop_back();
-  }
+  DropUndone();
   step.Number = ++numbers_;
   weight_ += step.Weight;
   steps_.push_back(std::move(step));
@@ -131,8 +128,12 @@ void LineHistory::DropOldest() {
   steps_.pop_front();
 }
 
-void LineHistory::ForgetUndone() {
+void LineHistory::DropUndone() {
   for (; CanRedo(); steps_.pop_back()) weight_ -= steps_.back().Weight;
+}
+
+void LineHistory::ForgetUndone() {
+  DropUndone();
   Tell();
 }
 

@@ -102,6 +102,7 @@ class LineHistory {
   Step ChangedRows();
   void Keep(Step step);
   void DropOldest();
+  void DropUndone();
   Moved Move(Step& step, Way way);
   void Switch(Step& step);
   void PutRow(size_t row, const Row& noted);

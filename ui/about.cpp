@@ -13,6 +13,7 @@
 #include <QSysInfo>
 
 #include "gateway/database_software.h"
+#include "ui/barcode.h"
 #include "ui/layout_pieces.h"
 #include "ui/log_file.h"
 #include "ui/program_icon.h"
@@ -76,6 +77,7 @@ std::vector<std::pair<QString, QString>> ProgramVersions() {
           {"ODBC 드라이버 관리자", Told(database.DriverManager)},
           {"SQLite", sqlite3_libversion()},
           {"libxlsxwriter", lxw_version()},
+          {"libzint", ToQt(BarcodeLibraryVersion())},
           {"libcanberra", SoundLibraryVersion()},
           {"spdlog", ToQt(LogLibraryVersion())},
           {"libarchive", ToQt(ArchiveLibraryVersion())}};

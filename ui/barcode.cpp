@@ -31,4 +31,10 @@ Barcode Code128(const std::string& text) {
   return barcode;
 }
 
+std::string BarcodeLibraryVersion() {
+  const int version = ZBarcode_Version();  // two digits a part
+  return std::to_string(version / 10000) + "." + std::to_string(version / 100 % 100) + "." +
+         std::to_string(version % 100);
+}
+
 }  // namespace store

@@ -19,4 +19,7 @@ struct Barcode {
 /// Without bars for a text that Code 128 cannot hold, such as one with Korean letters.
 Barcode Code128(const std::string& text);
 
+/// Of the library that makes the bars, as "2.11.1".
+std::string BarcodeLibraryVersion();
+
 }  // namespace store

@@ -1,45 +1,18 @@
 #include "ui/grid_menu.h"
 
 #include <QMenu>
-#include <QPointer>
 
+#include "ui/context_action.h"
 #include "ui/grid_view.h"
-#include "ui/key_button.h"
 #include "ui/qt_text.h"
 #include "ui/window_layout.h"
 
 namespace store {
 namespace {
 
-/// A line of a menu, its key in a column of its own.
-QAction* AddLine(QMenu& menu, QString text, const QString& key, std::function<void()> event) {
-  text.replace('&', "&&");
-  QAction* line = menu.addAction(key.isEmpty() ? text : text + '\t' + key);
-  QObject::connect(line, &QAction::triggered, &menu, [event = std::move(event)] { event(); });
-  return line;
-}
-
-void AddAction(QMenu& menu, const ContextAction& action) {
-  if (action.Button == nullptr) {
-    if (action.Text.isEmpty()) {
-      menu.addSeparator();
-      return;
-    }
-    AddLine(menu, action.Text, action.Key, action.Event)
-        ->setEnabled(!action.Enabled || action.Enabled());
-    return;
-  }
-  if (!action.Button->isVisible()) return;
-  AddLine(menu, action.Button->text(), action.Button->WrittenKey(),
-          [button = QPointer(action.Button)] {
-            if (button != nullptr) button->click();
-          })
-      ->setEnabled(action.Button->isEnabled());
-}
-
 QString TitleOf(const GridView& view, int column) {
   const QString title = ToQt(view.ShownGrid().TextMatrix(0, column)).simplified();
-  return title.isEmpty() ? QString("%1번째 칸").arg(column + 1) : title;
+  return title.isEmpty() ? QString("%1번째 칸").arg(column + 1) : QString(title).replace("&", "&&");
 }
 
 void AddOrders(QMenu& menu, GridView& view, int column) {
@@ -75,7 +48,7 @@ void AddColumns(QMenu& menu, GridView& view) {
 }  // namespace
 
 void FillRowMenu(QMenu& menu, GridView& view, int column) {
-  for (const ContextAction& action : view.Actions()) AddAction(menu, action);
+  AddActions(menu, view.Actions());
   menu.addSeparator();
   const bool hasRows = view.Model().rowCount() > 0;
   AddLine(menu, "복사", "Ctrl+C", [&view] {

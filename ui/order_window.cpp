@@ -50,7 +50,8 @@ OrderWindow::OrderWindow(OrderForm& form) : FormWindow(form), order_(form) {
   content->addWidget(History());
   content->addWidget(Foot());
   FillWindow(*this, content);
-  new ProgressPanel(*this);
+  new ProgressPanel(*this, {"SSPanel1", "Label2", "ProgressBar1", "SSPanel2"},
+                    "처리자료를 정리중입니다.....잠시만 기다려주세요......");
   OnShortcut(QKeySequence(Qt::CTRL | Qt::Key_P), [this] { Act([this] { order_.PrintStored(); }); });
   BindControls();
   OfferActions(*lines_, LineActions());

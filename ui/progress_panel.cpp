@@ -16,17 +16,16 @@ constexpr int kMargin = 14;
 
 }  // namespace
 
-ProgressPanel::ProgressPanel(QWidget& window) : QFrame(&window) {
-  setObjectName("SSPanel1");
+ProgressPanel::ProgressPanel(QWidget& window, const Names& names, const QString& remark)
+    : QFrame(&window) {
+  setObjectName(names.Panel);
   setProperty("role", "popup");
   setAutoFillBackground(true);
   auto* column = Column();
   column->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
-  auto* bar = Named("ProgressBar1", new QProgressBar);
-  column->addWidget(Named("Label2", HeadingLabel({})));
-  column->addWidget(bar);
-  column->addWidget(Named("SSPanel2", CaptionLabel("처리자료를 정리중입니다.....잠시만 "
-                                                   "기다려주세요......")));
+  column->addWidget(Named(names.What, HeadingLabel({})));
+  column->addWidget(Named(names.Bar, new QProgressBar));
+  column->addWidget(Named(names.Remark, CaptionLabel(remark)));
   column->addStretch();
   setLayout(column);
   hide();

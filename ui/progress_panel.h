@@ -4,10 +4,18 @@
 
 namespace store {
 
-/// The panel of a long step, "SSPanel1", in the middle of the window that it belongs to.
+/// The panel in the middle of a window that tells of something long: what it is, a bar, and a
+/// remark below. It begins out of sight.
 class ProgressPanel : public QFrame {
  public:
-  explicit ProgressPanel(QWidget& window);
+  /// The names under which the panel and its parts are found.
+  struct Names {
+    const char* Panel;
+    const char* What;
+    const char* Bar;
+    const char* Remark;
+  };
+  ProgressPanel(QWidget& window, const Names& names, const QString& remark = {});
 
  protected:
   void showEvent(QShowEvent* event) override;

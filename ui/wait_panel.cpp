@@ -1,36 +1,15 @@
 #include "ui/wait_panel.h"
 
-#include <QFrame>
 #include <QLabel>
 #include <QProgressBar>
-#include <QVBoxLayout>
 #include <algorithm>
 
 #include "ui/desk.h"
 #include "ui/form_window.h"
-#include "ui/layout_pieces.h"
+#include "ui/progress_panel.h"
 #include "ui/qt_text.h"
 
 namespace store {
-namespace {
-
-constexpr QSize kSize(420, 110);
-constexpr int kMargin = 14;
-
-QFrame* MakePanel(QWidget& window) {
-  auto* column = Column();
-  column->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
-  column->addWidget(Named("WaitingFor", HeadingLabel({})));
-  column->addWidget(Named("WaitingBar", new QProgressBar));
-  column->addWidget(Named("WaitingRemark", CaptionLabel({})));
-  column->addStretch();
-  QFrame* panel = Named("WaitPanel", Group("popup", column));
-  panel->setParent(&window);
-  panel->setAutoFillBackground(true);
-  return panel;
-}
-
-}  // namespace
 
 WaitPanel::~WaitPanel() { Hide(); }
 
@@ -51,17 +30,15 @@ void WaitPanel::Show(const QString& what, const QString& remark, int done, int o
   QWidget* window = TheDesk().FrontWindow();
   if (window == nullptr) return;
   if (frame_ != nullptr && frame_->parentWidget() != window) Hide();
-  if (frame_ == nullptr) frame_ = MakePanel(*window);
+  if (frame_ == nullptr) {
+    frame_ = new ProgressPanel(*window, {"WaitPanel", "WaitingFor", "WaitingBar", "WaitingRemark"});
+  }
   frame_->findChild<QLabel*>("WaitingFor")->setText(what);
   frame_->findChild<QLabel*>("WaitingRemark")->setText(remark);
   auto* bar = frame_->findChild<QProgressBar*>("WaitingBar");
   bar->setRange(0, of);
   bar->setValue(done);
   bar->setTextVisible(of > 0);
-  QRect place(QPoint(), kSize.boundedTo(window->size()));
-  place.moveCenter(window->rect().center());
-  frame_->setGeometry(place);
-  frame_->raise();
   frame_->show();
 }
 

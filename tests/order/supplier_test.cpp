@@ -1,7 +1,11 @@
+#include <chrono>
+
 #include "basics/records.h"
+#include "forms/host.h"
 #include "lookup/party_lookups.h"
 #include "order/frm_Order.h"
 #include "tests/order/order_desk.h"
+#include "tests/support/somebody.h"
 
 namespace store {
 namespace {
@@ -90,6 +94,18 @@ TEST_F(OrderDesk, WithTheOptionOnOnlyTheStoresSettingsCount) {
   Supplier("#C0003");  // ordered from by another store only
   EXPECT_EQ(form.Text1.Tag, "");
   EXPECT_EQ(RecordCountOf(SlotC), 0);
+}
+
+TEST_F(OrderDesk, WhoStopsTheItemListOfASupplierStopsWhatStandsBesideIt) {
+  AppOptions.OrderInfoPartnersOnly = 1;
+  auto& form = Open<frm_Order>(0);
+  int stops = 0;
+  Host.OfferStop = [&](std::chrono::milliseconds) { return ++stops > 0; };
+  const Somebody keepsTheProducts("LOCK TABLES PR WRITE; DO SLEEP(2)");
+  Supplier("#C0001");
+  EXPECT_EQ(stops, 1) << "one Esc is enough";
+  EXPECT_EQ(form.Text1.Tag, "C0001");
+  EXPECT_EQ(ColumnText(form.PRHELP, 0), "") << "nothing of another supplier's is left standing";
 }
 
 TEST_F(OrderDesk, CategoriesStandThreeToARowAndFilterThePickList) {
