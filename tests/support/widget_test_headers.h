@@ -1,4 +1,5 @@
-// What every test of a window includes; compiled once.
+// What every test of a window includes; compiled once a program, because the tests of Qt differ in
+// a definition.
 #pragma once
 #include <gtest/gtest.h>
 

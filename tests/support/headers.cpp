@@ -1,0 +1,1 @@
+// A precompiled header needs a library that it belongs to, and a library a source.
