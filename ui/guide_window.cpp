@@ -6,7 +6,6 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPointer>
-#include <QScreen>
 #include <QShortcut>
 #include <QSplitter>
 #include <QVBoxLayout>
@@ -54,7 +53,7 @@ GuideWindow::GuideWindow(const QString& folder)
   connect(contents_, &QListWidget::itemClicked, this,
           [this](QListWidgetItem* item) { GoTo(item->data(kPage).toString()); });
   connect(view_, &QTextBrowser::sourceChanged, this, &GuideWindow::FollowPage);
-  resize(Scaled(kSize).boundedTo(screen()->availableSize()));
+  resize(Scaled(kSize).boundedTo(RoomForWindow(*this).size()));
   view_->setFocus();
 }
 

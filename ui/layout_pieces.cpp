@@ -19,7 +19,7 @@ namespace {
 
 constexpr int kMargin = 8;
 constexpr int kSpacing = 6;
-constexpr QSize kWindowFrame(8, 40);  // round a window, as desktops draw it
+constexpr QMargins kWindowFrame(4, 36, 4, 4);  // as desktops draw it, the title on top
 
 /// As large as its content as long as the screen has room for it.
 class ScrolledPart : public QScrollArea {
@@ -36,7 +36,7 @@ class ScrolledPart : public QScrollArea {
   }
   QSize sizeHint() const override { return widget()->sizeHint(); }
   QSize minimumSizeHint() const override {
-    return widget()->minimumSizeHint().boundedTo(screen()->availableSize() - kWindowFrame);
+    return widget()->minimumSizeHint().boundedTo(RoomForWindow(*this).size());
   }
   bool eventFilter(QObject* watched, QEvent* event) override {
     // What the form writes makes the content grow, and the window with it.
@@ -187,9 +187,13 @@ QWidget* Scrolled(QLayout* content) {
   return area;
 }
 
+QRect RoomForWindow(const QWidget& widget) {
+  return widget.screen()->availableGeometry().marginsRemoved(kWindowFrame);
+}
+
 void FitContent(QWidget& window, const QSize& least) {
   FollowLook(window, [&window, least] {
-    const QSize room = window.screen()->availableSize();
+    const QSize room = RoomForWindow(window).size();
     window.resize(window.sizeHint().expandedTo(Scaled(least)).boundedTo(room));
   });
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QRect>
 #include <QSize>
 #include <QString>
 #include <array>
@@ -58,6 +59,8 @@ QVBoxLayout* Column();
 void FillWindow(QWidget& window, QVBoxLayout* content);
 /// The part of a window that gives way in this manner.
 QWidget* Scrolled(QLayout* content);
+/// Where the inside of a window can lie with its frame still on the screen of `widget`.
+QRect RoomForWindow(const QWidget& widget);
 /// Makes a window as large as its content and at least `least`, in each size of type.
 void FitContent(QWidget& window, const QSize& least);
 

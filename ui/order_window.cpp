@@ -28,6 +28,7 @@ namespace {
 constexpr QSize kSize(1024, 720);
 constexpr int kTwoLines = 2;
 constexpr int kNameWidth = 100;
+constexpr int kRefusedMargin = 8;
 
 }  // namespace
 
@@ -141,6 +142,7 @@ QWidget* OrderWindow::Lines() {
   auto* heading = Row();
   heading->addWidget(HeadingLabel("발주 내역   (Del 행 삭제,  Ctrl+G 규격)"));
   heading->addWidget(refused, 1);
+  heading->addSpacing(kRefusedMargin);
   auto* undo = Row();
   undo->setContentsMargins(0, 0, 0, 0);
   AddLineUndo(*this, *undo);
@@ -161,6 +163,9 @@ ContextActions OrderWindow::LineActions() {
           {.Text = "전표 인쇄",
            .Key = "Ctrl+P",
            .Event = [this] { Act([this] { order_.PrintStored(); }); }},
+          {},
+          ButtonLine("LineUndo"),
+          ButtonLine("LineRedo"),
           {},
           ButtonLine("ItemLookup"),
           ButtonLine("Image5"),

@@ -48,9 +48,12 @@ ReceiptWindow::ReceiptWindow(frm_PE_UNIT& form) : FormWindow(form), receipt_(for
 ContextActions ReceiptWindow::LineActions() {
   return {BoxLine("입고량 고치기", receipt_.FLEX1, receipt_.inBox),
           KeyLine("줄 삭제", Key::Delete, receipt_.FLEX1, receipt_.inBox),
-          {.Text = "전표 인쇄", .Key = "Ctrl+P", .Event = [this] {
-             Act([this] { receipt_.PrintStored(); });
-           }}};
+          {.Text = "전표 인쇄",
+           .Key = "Ctrl+P",
+           .Event = [this] { Act([this] { receipt_.PrintStored(); }); }},
+          {},
+          ButtonLine("LineUndo"),
+          ButtonLine("LineRedo")};
 }
 
 void ReceiptWindow::ExportLines() {

@@ -9,6 +9,7 @@ namespace store {
 namespace {
 
 constexpr double kDot = 0.28;  // of the ring's size
+constexpr int kBorderMargin = 6;
 
 void PaintRing(QPainter& painter, const QRectF& ring, bool chosen) {
   painter.setPen(QPen(QColor(look::Muted), 1));
@@ -20,12 +21,36 @@ void PaintRing(QPainter& painter, const QRectF& ring, bool chosen) {
   painter.drawEllipse(ring.center(), ring.width() * kDot, ring.height() * kDot);
 }
 
+void PaintMenuEdge(QPainter& painter, const QRect& menu) {
+  painter.save();  // whoever draws the lines goes on with this pen and brush
+  painter.setPen(QColor(look::Edge));
+  painter.setBrush(Qt::NoBrush);
+  painter.drawRect(menu.adjusted(0, 0, -1, -1));
+  painter.restore();
+}
+
+void PaintMenuBorder(QPainter& painter, const QRect& line) {
+  painter.save();
+  painter.setPen(QColor(look::Edge));
+  painter.drawLine(line.left() + kBorderMargin, line.center().y(), line.right() - kBorderMargin,
+                   line.center().y());
+  painter.restore();
+}
+
 }  // namespace
 
 StoreStyle::StoreStyle() : QProxyStyle("Fusion") {}
 
 void StoreStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
                                QPainter* painter, const QWidget* widget) const {
+  if (element == PE_PanelMenu) {
+    painter->fillRect(option->rect, QColor(look::Card));
+    return;
+  }
+  if (element == PE_FrameMenu) {
+    PaintMenuEdge(*painter, option->rect);
+    return;
+  }
   const bool isTick = element == PE_IndicatorCheckBox;
   if (CurrentTheme() != Theme::Dark || (!isTick && element != PE_IndicatorRadioButton)) {
     QProxyStyle::drawPrimitive(element, option, painter, widget);
@@ -41,6 +66,23 @@ void StoreStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
     PaintRing(*painter, QRectF(option->rect).adjusted(0.5, 0.5, -0.5, -0.5), on);
   }
   painter->restore();
+}
+
+void StoreStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                             const QWidget* widget) const {
+  const auto* line = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
+  if (element == CE_MenuItem && line != nullptr &&
+      line->menuItemType == QStyleOptionMenuItem::Separator) {
+    PaintMenuBorder(*painter, line->rect);
+  } else {
+    QProxyStyle::drawControl(element, option, painter, widget);
+  }
+}
+
+int StoreStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
+                            const QWidget* widget) const {
+  // A line that is chosen leaves the menu's edge to be seen.
+  return metric == PM_MenuPanelWidth ? 1 : QProxyStyle::pixelMetric(metric, option, widget);
 }
 
 void PaintTickBox(QPainter& painter, const QRect& box, bool ticked) {

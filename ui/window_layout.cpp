@@ -12,6 +12,7 @@
 #include "ui/desk.h"
 #include "ui/form_window.h"
 #include "ui/grid_view.h"
+#include "ui/layout_pieces.h"
 #include "ui/qt_text.h"
 #include "ui/style.h"
 
@@ -78,7 +79,7 @@ bool WindowLayout::IsFixed() const { return window_.minimumSize() == window_.max
 QString WindowLayout::KeyOf(const QString& part) const { return window_.objectName() + "." + part; }
 
 void WindowLayout::GiveFirstSize() {
-  const QRect room = window_.screen()->availableGeometry();
+  const QRect room = RoomForWindow(window_);
   const double share = share_ < 1 ? share_ : kUnmaximized;
   const QSize size = (QSizeF(room.size()) * share).toSize().expandedTo(Scaled(least_));
   QRect place({}, size.boundedTo(room.size()));
@@ -137,16 +138,22 @@ void WindowLayout::Save() {
   }
 }
 
-void WindowLayout::BeginAnew() {
-  if (IsFixed()) return;
+void WindowLayout::TakeFirstPlace() {
+  // Not even for a moment less than the screen: desktops lose count of what follows at once.
+  if (share_ >= 1 && window_.isMaximized()) return;
   window_.setWindowState(window_.windowState() & ~Qt::WindowMaximized);
-  kept_.clear();
   if (share_ > 0) {
     GiveFirstSize();
   } else {
     window_.resize(firstSize_);
   }
   if (share_ >= 1) window_.setWindowState(window_.windowState() | Qt::WindowMaximized);
+}
+
+void WindowLayout::BeginAnew() {
+  if (IsFixed()) return;
+  kept_.clear();
+  TakeFirstPlace();
   auto state = first_.begin();
   ForEachPart<QSplitter>(window_, [&](const QString&, QSplitter& splitter) {
     if (state != first_.end()) splitter.restoreState(*state++);

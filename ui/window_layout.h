@@ -35,6 +35,7 @@ class WindowLayout {
   Texts Now() const;
   QString KeyOf(const QString& part) const;
   void GiveFirstSize();
+  void TakeFirstPlace();
   bool TakeGeometry(const QString& text);
 
   QWidget& window_;

@@ -5,12 +5,14 @@
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
+#include <QMenu>
 #include <QtTest>
 
 #include "basics/records.h"
 #include "board/frm_Start.h"
 #include "forms/host.h"
 #include "handheld/frmProperties.h"
+#include "lookup/frmPrint.h"
 #include "tests/ui/all_forms.h"
 #include "tests/ui/probe_form.h"
 #include "ui/accessible_names.h"
@@ -221,6 +223,30 @@ TEST_F(LookTest, OpenWindowsFollowAtOnceAndBackAgain) {
   ChooseTypeSize(100);
   ChooseTheme(Theme::Light);
   EXPECT_EQ(state(), before);
+}
+
+TEST_F(LookTest, AMenuHasAnEdgeAndBordersAndShowsWhatIsChosen) {
+  QMenu menu;
+  menu.addAction("하나");
+  QAction* border = menu.addSeparator();
+  QAction* chosen = menu.addAction("둘");
+  for (const Theme theme : {Theme::Light, Theme::Dark}) {
+    ChangeLook(100, theme);
+    menu.setActiveAction(chosen);
+    const QImage picture = menu.grab().toImage();
+    const QRect line = menu.actionGeometry(chosen);
+    const auto at = [&](const QPoint& point) { return picture.pixelColor(point).name(); };
+    EXPECT_EQ(at(menu.rect().bottomRight()), QColor(look::Edge).name());
+    EXPECT_EQ(at(menu.actionGeometry(border).center()), QColor(look::Edge).name());
+    EXPECT_EQ(at({line.left() + 3, line.center().y()}), QColor(look::Accent).name());
+  }
+}
+
+TEST_F(LookTest, AWindowAndItsFrameFitTheScreenInLargeType) {
+  ChangeLook(150, Theme::Light);
+  const auto form = std::make_unique<frmPrint>();
+  const std::unique_ptr<FormWindow> window(MakeWindow(*form));
+  EXPECT_EQ(window->geometry() & RoomForWindow(*window), window->geometry());
 }
 
 TEST_F(LookTest, ChoicesAreKeptForEachUserAndTheLastOneGreetsTheNext) {
