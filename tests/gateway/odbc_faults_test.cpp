@@ -55,6 +55,8 @@ void Watch(SQLRETURN (*OdbcApi::*)(Arguments...)) {
     if constexpr (kSame<kRoutine, &OdbcApi::BindCol>) {
       boundLength = std::get<5>(std::tuple(arguments...));
     }
+    // It goes with its statement; the next one may bind nothing.
+    if constexpr (kSame<kRoutine, &OdbcApi::FreeHandle>) boundLength = nullptr;
     if (++calls == failAt) return Fail<kRoutine>(arguments...);
     return (OdbcApi().*kRoutine)(arguments...);
   };

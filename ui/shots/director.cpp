@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QPainter>
 #include <QPixmap>
 #include <QTableView>
 #include <QTextStream>
@@ -37,6 +38,15 @@ void Director::Save(QWidget& window, const QString& name) {
 void Director::Keep(const QPixmap& picture, const QString& name) {
   if (!picture.save(folder_.filePath(name + ".png"))) Fail("cannot write " + name);
   QTextStream(stdout) << name << Qt::endl;
+}
+
+void Director::SaveWithMenu(QWidget& window, const QString& name) {
+  Settle();
+  QWidget& menu = *QApplication::activePopupWidget();
+  QPixmap both = window.grab();
+  QPainter(&both).drawPixmap(window.mapFromGlobal(menu.pos()), menu.grab());
+  Keep(both, name);
+  menu.close();
 }
 
 void Director::Fit(FormWindow& window) {

@@ -25,6 +25,8 @@ class Director : public QObject {
   /// When the window of that form is in front and its form has begun to work.
   void WhenShown(const std::string& form, std::function<void(FormWindow&)> act);
   void Save(QWidget& window, const QString& name);
+  /// With the menu that is open over it, a window of its own, which is closed then.
+  void SaveWithMenu(QWidget& window, const QString& name);
   void Keep(const QPixmap& picture, const QString& name);
   /// The large windows are drawn in the size that was asked for.
   void Fit(FormWindow& window);

@@ -6,7 +6,6 @@
 #include <unistd.h>
 
 #include <QApplication>
-#include <QPainter>
 #include <array>
 #include <vector>
 
@@ -141,13 +140,7 @@ void ShootCradle(Director& director) {
   director.WhenShown("frm_Start", [](FormWindow& window) { Press(window, Qt::Key_F7); });
   director.When([] { return QApplication::activePopupWidget() != nullptr; },
                 [&director] {
-                  // The menu is a window of its own; a person sees both.
-                  FormWindow& window = *TheDesk().WindowNamed("frm_Start");
-                  QWidget& menu = *QApplication::activePopupWidget();
-                  QPixmap both = window.grab();
-                  QPainter(&both).drawPixmap(window.mapFromGlobal(menu.pos()), menu.grab());
-                  director.Keep(both, "handheld_menu");
-                  menu.close();
+                  director.SaveWithMenu(*TheDesk().WindowNamed("frm_Start"), "handheld_menu");
                   Dispatch([] { OpenHandheldRun(HandheldRuns().back()); });
                 });
   director.WhenShown("FRM_CRDIMP", [&](FormWindow& window) {

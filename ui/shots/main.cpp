@@ -21,6 +21,7 @@
 #include "ui/shots/batch_shots.h"
 #include "ui/shots/director.h"
 #include "ui/shots/handheld_shots.h"
+#include "ui/shots/menu_shots.h"
 #include "ui/shots/order_shots.h"
 #include "ui/user_choices.h"
 
@@ -202,6 +203,8 @@ int main(int argc, char** argv) {
   store::ShootStart(director);
   store::ShootSplash(director);
   store::ShootBoard(director);
+  store::ShootMenus(director);
+  store::ShootGuide(director);
   store::ShootPrint(director);
   store::ShootWaiting(director);
   store::ShootNewOrder(director);
