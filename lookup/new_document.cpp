@@ -30,8 +30,9 @@ std::string NewDocument(const std::string& name, const std::string& ending) {
   std::filesystem::create_directories(folder, ignored);
   const std::string word = FileWord(name);
   for (int number = 1;; ++number) {
-    const std::string further = number == 1 ? "" : "_" + std::to_string(number);
-    std::string path = (folder / (word + further + ending)).string();
+    std::string path = (folder / word).string();
+    if (number > 1) path += "_" + std::to_string(number);
+    path += ending;
     if (std::FILE* file = std::fopen(path.c_str(), "wbx")) {
       std::fclose(file);
       return path;

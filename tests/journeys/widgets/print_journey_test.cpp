@@ -109,6 +109,43 @@ TEST_F(PrintJourney, ASlipOfThreePagesIsInThePdfWholeAndInOrder) {
   EXPECT_TRUE(drawn.contains("참나무커피 (10006)")) << drawn.toStdString();
 }
 
+TEST_F(PrintJourney, AnOrderAndAReceiptPrintWhatIsStored) {
+  ASSERT_NO_FATAL_FAILURE(Start("u01,1111"));
+  const auto print = [&](FormWindow& window, const char* title) {
+    hands.See("frmPrint", [title](FormWindow& preview) {
+      EXPECT_EQ(preview.windowTitle().toStdString(), title);
+      Hands::Press(preview, Qt::Key_Escape);
+    });
+    Hands::Press(window, Qt::Key_P, Qt::ControlModifier);
+    EXPECT_TRUE(hands.AllDone()) << hands.NextAnnounced().toStdString();
+  };
+  WalkTo(kSlip);
+  Hands::Press(Board(), Qt::Key_Return);
+  print(Order(), "발주서 인쇄");
+  Hands::Press(Order(), Qt::Key_Delete);
+  hands.AnswerBox("저장하지 않은 내용은 인쇄되지 않습니다.", Qt::Key_N);
+  Hands::Press(Order(), Qt::Key_P, Qt::ControlModifier);
+  EXPECT_TRUE(hands.AllDone());
+  hands.AnswerBox("저장하지 않은 내용은 인쇄되지 않습니다.", Qt::Key_Y);
+  print(Order(), "발주서 인쇄");
+  Hands::Press(Order(), Qt::Key_Escape);
+  Hands::Press(Board(), Qt::Key_F2);
+  hands.AnswerBox("저장한 전표만 인쇄할 수 있습니다.", Qt::Key_Return);
+  Hands::Press(Order(), Qt::Key_P, Qt::ControlModifier);
+  EXPECT_TRUE(hands.AllDone());
+  Hands::Press(Order(), Qt::Key_Escape);
+
+  DemoSql("UPDATE PEM22 SET PE_CK='3' WHERE PE_ID='" + kSlip + "'");
+  Hands::Press(Board(), Qt::Key_F5);
+  WalkTo(kSlip);
+  hands.WorkIn("frm_PE_UNIT", [&](FormWindow& receipt) {
+    print(receipt, "발주서 인쇄");
+    Hands::Press(receipt, Qt::Key_Escape);
+  });
+  Hands::Press(Board(), Qt::Key_Return);
+  EXPECT_TRUE(hands.AllDone());
+}
+
 TEST_F(PrintJourney, ThePdfHoldsItsLettersAndABarcodeThatAScannerReads) {
   PrintedDocument document{.Title = "발주서", .Key = kSlip, .Columns = {{.Header = "품명"}}};
   document.Rows = {{"맑은생수"}};
