@@ -37,21 +37,10 @@ QWidget* Holder(QLayout* layout) {
 }  // namespace
 
 BoardWindow::BoardWindow(frm_Start& form) : FormWindow(form), board_(form) {
+  // What is put into another widget is dressed anew, and a splitter dresses what it gets at once:
+  // so the splitters are filled when they stand in the window.
   auto* details = new QSplitter(Qt::Horizontal);
-  details->addWidget(Notices());
-  details->addWidget(PartnerPane());
-  details->addWidget(ConditionPane());
-  details->setSizes({340, 420, 240});
-  auto* upper = Column();
-  upper->addWidget(Slips(), 1);
-  upper->addWidget(Sums());
   auto* halves = new QSplitter(Qt::Vertical);
-  halves->addWidget(Holder(upper));
-  halves->addWidget(details);
-  halves->setStretchFactor(0, 1);
-  halves->setSizes({kSize.height(), details->widget(1)->sizeHint().height()});
-  for (QSplitter* splitter : {details, halves}) splitter->setChildrenCollapsible(false);
-
   auto* work = Column();
   work->setContentsMargins(8, 6, 8, 8);
   work->addWidget(Actions());
@@ -64,6 +53,19 @@ BoardWindow::BoardWindow(frm_Start& form) : FormWindow(form), board_(form) {
   content->addWidget(Band());
   content->addWidget(Scrolled(work), 1);
   setLayout(content);
+
+  auto* upper = Column();
+  upper->addWidget(Slips(), 1);
+  upper->addWidget(Sums());
+  halves->addWidget(Holder(upper));
+  halves->addWidget(details);
+  details->addWidget(Notices());
+  details->addWidget(PartnerPane());
+  details->addWidget(ConditionPane());
+  details->setSizes({340, 420, 240});
+  halves->setStretchFactor(0, 1);
+  halves->setSizes({kSize.height(), details->widget(1)->sizeHint().height()});
+  for (QSplitter* splitter : {details, halves}) splitter->setChildrenCollapsible(false);
   MakeNoticePane();
   OnShortcut(QKeySequence(Qt::CTRL | Qt::Key_P),
              [this] { Act([this] { board_.PrintSelected(); }); });

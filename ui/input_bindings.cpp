@@ -113,6 +113,29 @@ void ColourDaysOff(QCalendarWidget& calendar) {
   calendar.setWeekdayTextFormat(Qt::Saturday, ink);
 }
 
+/// The calendar of a date is made when a hand first comes to the date: it is the heaviest part of a
+/// window, and hardly ever opened.
+class CalendarOnDemand : public QObject {
+ public:
+  explicit CalendarOnDemand(QDateEdit& edit) : QObject(&edit), edit_(edit) {
+    edit.installEventFilter(this);
+    FollowLook(*this, [this] { Colour(); });
+  }
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    const bool isHand =
+        event->type() == QEvent::MouseButtonPress || event->type() == QEvent::KeyPress;
+    if (isHand && !std::exchange(made_, true)) Colour();
+    return QObject::eventFilter(watched, event);
+  }
+
+ private:
+  void Colour() {
+    if (made_) ColourDaysOff(*edit_.calendarWidget());
+  }
+  QDateEdit& edit_;
+  bool made_ = false;
+};
+
 class DateBinding : public Binding {
  public:
   DateBinding(FormWindow& window, DatePicker& picker, QDateEdit& edit)
@@ -120,7 +143,7 @@ class DateBinding : public Binding {
     LeaveFocusToClicks(edit);
     edit.setDisplayFormat(kDateForm);
     edit.setCalendarPopup(true);
-    FollowLook(edit, [&edit] { ColourDaysOff(*edit.calendarWidget()); });
+    new CalendarOnDemand(edit);
     // The earliest date stands for a text that is no date, and shows as a blank.
     edit.setSpecialValueText(QStringLiteral(" "));
     QObject::connect(&edit, &QDateEdit::dateChanged, &window, [this](const QDate& date) {

@@ -33,17 +33,9 @@ constexpr int kRefusedMargin = 8;
 }  // namespace
 
 OrderWindow::OrderWindow(OrderForm& form) : FormWindow(form), order_(form) {
+  // As on the board, the splitters are filled when they stand in the window.
   auto* choice = new QSplitter(Qt::Vertical);
-  choice->addWidget(OrderLeftSide(*this, order_));
-  choice->addWidget(PickList());
-  choice->setSizes({130, 400});
-  choice->setStretchFactor(1, 1);
   auto* halves = new QSplitter(Qt::Horizontal);
-  halves->addWidget(Lines());
-  halves->addWidget(choice);
-  halves->setSizes({500, 508});
-  for (QSplitter* splitter : {choice, halves}) splitter->setChildrenCollapsible(false);
-
   auto* content = Column();
   content->addWidget(Header());
   content->addWidget(ItemBox());
@@ -51,6 +43,15 @@ OrderWindow::OrderWindow(OrderForm& form) : FormWindow(form), order_(form) {
   content->addWidget(History());
   content->addWidget(Foot());
   FillWindow(*this, content);
+
+  halves->addWidget(Lines());
+  halves->addWidget(choice);
+  choice->addWidget(OrderLeftSide(*this, order_));
+  choice->addWidget(PickList());
+  choice->setSizes({130, 400});
+  choice->setStretchFactor(1, 1);
+  halves->setSizes({500, 508});
+  for (QSplitter* splitter : {choice, halves}) splitter->setChildrenCollapsible(false);
   new ProgressPanel(*this, {"SSPanel1", "Label2", "ProgressBar1", "SSPanel2"},
                     "처리자료를 정리중입니다.....잠시만 기다려주세요......");
   OnShortcut(QKeySequence(Qt::CTRL | Qt::Key_P), [this] { Act([this] { order_.PrintStored(); }); });

@@ -10,6 +10,8 @@
 #include <QtTest>
 
 #include "tests/ui/probe_form.h"
+#include "ui/palette.h"
+#include "ui/style.h"
 
 namespace store {
 namespace {
@@ -37,6 +39,10 @@ TEST_F(KoreanTest, TheCalendarShowsItsSixthWeekAndKoreanNames) {
   FormWindow& window = Open(form);
   QCalendarWidget& calendar = OpenCalendar(window);
   ASSERT_TRUE(calendar.isVisible());
+  for (const Theme theme : {Theme::Dark, Theme::Light}) {
+    ChangeLook(100, theme);
+    EXPECT_EQ(calendar.weekdayTextFormat(Qt::Sunday).foreground().color(), QColor(look::Warning));
+  }
   EXPECT_EQ(calendar.selectedDate(), QDate(2026, 8, 15));
   auto& days = Find<QTableView>(calendar, "qt_calendar_calendarview");
   const QAbstractItemModel& model = *days.model();
