@@ -62,15 +62,20 @@ std::string WithoutBackslashes(std::string text) {
 void frm_Start::RefreshBoard() {
   const Hourglass waiting;
   NotePlace();
-  {
-    const StoppableReads mayBeStopped;
-    LoadNotices();
-    LoadSlips();
+  if (LoadNoticesAndSlips() || Combo1.List().empty()) {
+    // No order could be saved without the depots, so this read cannot be stopped.
+    FillDepots(Session.StoreCode, Combo1, false);
   }
-  // No order could be saved without the depots.
-  FillDepots(Session.StoreCode, Combo1, false);
   CountDrafts();
   CountDeleted();
+}
+
+// Whoever has stopped it does not want to wait for what comes after it, either.
+bool frm_Start::LoadNoticesAndSlips() {
+  const StoppableReads mayBeStopped;
+  LoadNotices();
+  LoadSlips();
+  return !StoppableReads::Stopped();
 }
 
 void frm_Start::NotePlace() {

@@ -98,6 +98,8 @@ class frm_Start : public MainWindow {
   void ConnectEvents();
   void SetUpGrids();
   void RefreshBoard();
+  /// False when the person has stopped it.
+  bool LoadNoticesAndSlips();
   void LoadNotices();
   std::string SearchCondition() const;
   void LoadSlips();

@@ -1,6 +1,7 @@
 // What the board shows.
 #include "basics/records.h"
 #include "tests/board/board_test.h"
+#include "tests/support/somebody.h"
 
 namespace store {
 namespace {
@@ -108,6 +109,23 @@ TEST_F(BoardRefresh, ShowsNothingWhenTheDatabaseIsAway) {
   EXPECT_EQ(board.FLEX0.Rows(), 1);
   EXPECT_EQ(board.Combo1.List().size(), 0u);
   EXPECT_EQ(host.Pointers.back(), PointerNormal);
+}
+
+TEST_F(BoardRefresh, WhoStopsItWaitsForNothingMoreAndKeepsTheDepots) {
+  ShowMay();
+  const Texts depots = board.Combo1.List();
+  ASSERT_FALSE(depots.empty());
+  Host.OfferStop = [](std::chrono::milliseconds) { return true; };
+  int waits = 0;
+  Host.ShowServer = [&](ServerLink link, std::chrono::milliseconds) {
+    if (link == ServerLink::Waiting) ++waits;
+  };
+  const Somebody keepsOrdersAndDepots(
+      "LOCK TABLES PEM22 WRITE, PSM22 WRITE, HCT WRITE; DO SLEEP(2)");
+  board.Image1_Click(3);
+  EXPECT_EQ(Slips(), Texts{});
+  EXPECT_EQ(waits, 0);
+  EXPECT_EQ(board.Combo1.List(), depots);
 }
 
 TEST_F(BoardRefresh, ListsTheStoresNoticesNewestFirst) {
