@@ -22,11 +22,12 @@ class Somebody {
   std::thread works_;
 };
 
-/// Statements that sleep until two wait for what the transaction holds. The server's list of
-/// transactions is read anew only by who has not asked for a tenth of a second.
+/// Statements that sleep until two wait for what the transaction holds. They sleep before each
+/// look: the server's list of transactions is read anew only by who comes a tenth of a second after
+/// anybody's last look, and until then shows those who waited for somebody else.
 inline constexpr const char* kUntilTwoWait =
-    "BEGIN NOT ATOMIC DECLARE N INT DEFAULT 0; "
-    "WHILE N < 50 AND (SELECT COUNT(*) FROM information_schema.INNODB_TRX WHERE "
-    "TRX_STATE='LOCK WAIT') < 2 DO DO SLEEP(0.15); SET N = N + 1; END WHILE; END; ";
+    "BEGIN NOT ATOMIC DECLARE N INT DEFAULT 0; REPEAT DO SLEEP(0.15); SET N = N + 1; "
+    "UNTIL N >= 50 OR (SELECT COUNT(*) FROM information_schema.INNODB_TRX WHERE "
+    "TRX_STATE='LOCK WAIT') >= 2 END REPEAT; END; ";
 
 }  // namespace store
