@@ -1,6 +1,7 @@
 // What the toolkit itself writes is Korean on any workstation.
 #include "ui/korean.h"
 
+#include <QAbstractButton>
 #include <QCalendarWidget>
 #include <QDateEdit>
 #include <QMenu>
