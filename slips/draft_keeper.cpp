@@ -8,6 +8,10 @@
 namespace store {
 namespace {
 
+/// A line that is typed is shown first: its write begins when the server has been asked for the
+/// price and the window has drawn it, and takes in what has come right behind it.
+constexpr std::chrono::milliseconds kBehindTheLine(50);
+
 constexpr int kDaysKept = 31;
 constexpr std::chrono::seconds kPatienceOfTaking(5);
 
@@ -76,6 +80,7 @@ void DraftKeeper::Remove(const std::string& id) { Add(id, {.Removed = true}); }
 void DraftKeeper::Add(const std::string& id, DraftChange change) {
   {
     const std::lock_guard lock(waiting_);
+    if (change.PutAside || change.Removed) hurry_ = true;
     AddTo(changes_[id], std::move(change));
     hasNews_ = true;
   }
@@ -84,6 +89,8 @@ void DraftKeeper::Add(const std::string& id, DraftChange change) {
 
 bool DraftKeeper::Flush(std::chrono::milliseconds patience) {
   std::unique_lock lock(waiting_);
+  hurry_ = hasNews_;
+  changed_.notify_one();
   return written_.wait_for(lock, patience, [this] { return !hasNews_ && writing_.empty(); });
 }
 
@@ -91,7 +98,8 @@ void DraftKeeper::WriteUntilClosed() {
   std::unique_lock lock(waiting_);
   while (!closed_ || !changes_.empty()) {
     changed_.wait(lock, [this] { return closed_ || hasNews_; });
-    hasNews_ = false;
+    changed_.wait_for(lock, kBehindTheLine, [this] { return closed_ || hurry_; });
+    hasNews_ = hurry_ = false;
     const bool last = closed_;
     writing_ = std::exchange(changes_, {});
     lock.unlock();

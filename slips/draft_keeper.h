@@ -16,8 +16,9 @@
 namespace store {
 
 /// One file of drafts while this run has it open. A thread of its own writes, each change on the
-/// disk before the next, so that whoever types never waits; what comes quicker than the disk is one
-/// write. A change that could not be written stays in memory and goes with the next one.
+/// disk before the next, so that whoever types never waits; what comes within a moment, or quicker
+/// than the disk, is one write. A change that could not be written stays in memory and goes with
+/// the next one.
 class DraftKeeper {
  public:
   /// Opens the file and takes out what is too old; `HasFile` says whether that worked.
@@ -62,6 +63,7 @@ class DraftKeeper {
   Changes changes_;       // still to be written
   Changes writing_;       // on their way to the disk
   bool hasNews_ = false;  // changes came since the last write began
+  bool hurry_ = false;    // the next write is waited for
   bool failed_ = false;
   bool closed_ = false;
   std::thread writer_;
